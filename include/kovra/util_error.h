@@ -1,0 +1,43 @@
+#ifndef KOVRA_UTIL_ERROR_H
+#define KOVRA_UTIL_ERROR_H
+
+#include <stdint.h>
+
+#include "kovra/export.h"
+
+KOVRA_C_BEGIN
+
+typedef struct kovra_err_ctx kovra_err_ctx;
+
+/* General codes. */
+#define KOVRA_ERR_NO_MEMORY 0x10000
+#define KOVRA_ERR_BAD_ARGUMENT 0x10001
+#define KOVRA_ERR_NULL_ARGUMENT 0x10002
+#define KOVRA_ERR_SHORT_COPY 0x10004
+
+/* Stream codes. */
+#define KOVRA_ERR_STREAM_READ 0x10105
+#define KOVRA_ERR_STREAM_REWIND 0x10109
+#define KOVRA_ERR_STREAM_BASE64 0x10111
+#define KOVRA_ERR_STREAM_SIZE 0x10114
+#define KOVRA_ERR_STREAM_PEM 0x10116
+#define KOVRA_ERR_STREAM_WRITE 0x10106
+#define KOVRA_ERR_STREAM_OPEN 0x10107
+#define KOVRA_ERR_STREAM_SEEK 0x10108
+#define KOVRA_ERR_STREAM_COMMAND 0x10110
+
+KOVRA_UTIL_API kovra_err_ctx *kovra_err_ctx_new(void) KOVRA_NOTHROW;
+KOVRA_UTIL_API void kovra_err_ctx_free(kovra_err_ctx *ctx) KOVRA_NOTHROW;
+KOVRA_UTIL_API void kovra_err_ctx_put(kovra_err_ctx *ctx, const char *source, int32_t line, int32_t code,
+                                      const char *message) KOVRA_NOTHROW;
+KOVRA_UTIL_API int32_t kovra_err_ctx_getcount(const kovra_err_ctx *ctx) KOVRA_NOTHROW;
+KOVRA_UTIL_API int32_t kovra_err_ctx_getentry(const kovra_err_ctx *ctx, int32_t index, const char **out_source,
+                                              int32_t *out_line, int32_t *out_code,
+                                              const char **out_message) KOVRA_NOTHROW;
+KOVRA_UTIL_API void kovra_err_ctx_clear(kovra_err_ctx *ctx) KOVRA_NOTHROW;
+KOVRA_UTIL_API const char *kovra_igetGeneralError(int32_t code) KOVRA_NOTHROW;
+KOVRA_UTIL_API const char *kovra_igetStreamError(int32_t code) KOVRA_NOTHROW;
+
+KOVRA_C_END
+
+#endif
