@@ -1,0 +1,84 @@
+// The memory of one value: its records, the octets they refer to, and the values it has taken over.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace kovra::asn1 {
+
+struct Value;
+
+class Arena {
+public:
+    // A piece of memory of its own in an arena, for what grows or is large.
+    struct Block {
+        Block *next;
+        Block *previous;
+        [[nodiscard]] uint8_t *memory() { return reinterpret_cast<uint8_t *>(this + 1); }
+    };
+
+    // Makes an arena whose first `reserve` octets need no further allocation. Null when memory is short.
+    static Arena *create(size_t reserve);
+
+    // Releases the arena, everything in it and every arena it has adopted, without recursion.
+    static void destroy(Arena *arena);
+
+    // Memory for a record, aligned for pointers and not cleared; null when memory is short.
+    void *allocate(size_t size) {
+        size = (size + alignment - 1) & ~(alignment - 1);
+        if (size > static_cast<size_t>(end_ - next_))
+            return allocate_in_new_block(size);
+        void *memory = next_;
+        next_ += size;
+        return memory;
+    }
+
+    // A block that is not yet the arena's: resize it, then link it, or drop it. Null when memory is short.
+    static Block *new_block(size_t size);
+    static Block *resize_block(Block *block, size_t size);
+    static void drop_block(Block *block);
+    void link(Block *block);
+    // A linked block grown in place in the chain; null (and nothing changed) when memory is short.
+    Block *resize_linked(Block *block, size_t size);
+
+    // Everything that was allocated after a mark can be taken back at once, which is what makes a scratch area of an
+    // arena.
+    struct Mark {
+        Block *blocks;
+        Block *current;
+        uint8_t *next;
+        uint8_t *end;
+    };
+    [[nodiscard]] Mark mark() const { return {blocks_, current_, next_, end_}; }
+    void reset(const Mark &mark);
+
+    // Takes over a value that is the root of its own arena; false when it is not its own, or holds this arena.
+    bool adopt(Value *value);
+
+    [[nodiscard]] bool is_root(const Value *value) const { return root == value; }
+    [[nodiscard]] bool is_owned() const { return owner_ != nullptr; }
+
+    // The octets that the records' offsets count from.
+    const uint8_t *octets = nullptr;
+    uint32_t octets_length = 0;
+    // The value that the arena was made for; releasing it releases the arena.
+    Value *root = nullptr;
+
+private:
+    static constexpr size_t alignment = alignof(std::max_align_t) < 8 ? alignof(std::max_align_t) : 8;
+
+    void *allocate_in_new_block(size_t size);
+
+    uint8_t *next_ = nullptr;
+    uint8_t *end_ = nullptr;
+    Block *blocks_ = nullptr;
+    Block *current_ = nullptr; // the block that records are being put into; null while it is the arena's first memory
+    Block *spare_ = nullptr; // kept by reset, so that a scratch area near the end of a block costs no allocation a time
+    size_t next_size_ = 0;
+    size_t spare_size_ = 0;
+    Arena *owner_ = nullptr;
+    Arena *adopted_ = nullptr; // first of the adopted
+    Arena *sibling_ = nullptr; // next among the adopted of the same owner
+};
+
+} // namespace kovra::asn1

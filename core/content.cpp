@@ -1,0 +1,130 @@
+#include "core/content.hpp"
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/registry.hpp"
+
+namespace kovra::asn1 {
+
+namespace {
+
+constexpr int32_t piece = 8192;
+
+} // namespace
+
+int32_t size_of(const Content &content) {
+    if (content.stream == nullptr)
+        return static_cast<int32_t>(content.octets.length);
+    const int64_t size = kovra_stream_ctrl(content.stream, KOVRA_STREAM_SIZE, 0, nullptr);
+    if (size < 0)
+        return indefinite;
+    return size <= max_length ? static_cast<int32_t>(size) : unknown;
+}
+
+bool copy_out(const Content &content, const Arena &arena, void *buffer) {
+    if (content.stream == nullptr) {
+        if (content.octets.length != 0)
+            std::memcpy(buffer, content.octets.data(arena), content.octets.length);
+        return true;
+    }
+    const int32_t size = size_of(content);
+    return size >= 0 && kovra_stream_ctrl(content.stream, KOVRA_STREAM_REWIND, 0, nullptr) == success &&
+           kovra_stream_readn(content.stream, buffer, size, nullptr, nullptr) == success;
+}
+
+Result put_content(Encoder &encoder, Site site, const Content &content, const Arena &arena, int64_t &out_count) {
+    if (content.stream != nullptr)
+        return encoder.copy(site, content.stream, out_count);
+    out_count = content.octets.length;
+    return encoder.put(site, content.octets.data(arena), content.octets.length);
+}
+
+Result read_piece(Content &content, const Arena &arena, Site site, int32_t mode, void *buffer, int32_t size,
+                  int32_t *out_count, kovra_err_ctx *ctx) {
+    constexpr int32_t from_start = 1;
+    constexpr int32_t go_on = 2;
+    if (out_count != nullptr)
+        *out_count = 0;
+    const auto refuse = [&](int32_t code) {
+        record(ctx, site, code);
+        return failure;
+    };
+    if (size < 0)
+        return refuse(code::bad_argument);
+    if (mode != from_start && mode != go_on)
+        return refuse(code::stream_read);
+    if (content.stream != nullptr) {
+        if (mode == from_start && kovra_stream_ctrl(content.stream, KOVRA_STREAM_REWIND, 0, nullptr) != success)
+            return refuse(code::stream_control);
+        return size == 0 ? success : kovra_stream_read(content.stream, buffer, size, out_count, ctx);
+    }
+    if (mode == from_start)
+        content.position = 0;
+    const uint32_t count = std::min(static_cast<uint32_t>(size), content.octets.length - content.position);
+    if (count != 0)
+        std::memcpy(buffer, content.octets.data(arena) + content.position, count);
+    content.position += count;
+    if (out_count != nullptr)
+        *out_count = static_cast<int32_t>(count);
+    return success;
+}
+
+Result decode_from(Content &content, const Arena &arena, Site site, const Type &type, const Element *element,
+                   kovra_asn1_value **out_value, kovra_err_ctx *ctx) {
+    *out_value = nullptr;
+    const auto run = [&](Decoder &decoder, Value *&value) {
+        return element == nullptr ? decoder.decode_root(type, value)
+                                  : decoder.decode_root_content(type, *element, value);
+    };
+    const auto finish = [&](Result result, bool all_consumed, Value *value) {
+        if (result != success) {
+            record(ctx, site, type.base + 1);
+            return result;
+        }
+        if (!all_consumed) {
+            if (value != nullptr)
+                Arena::destroy(value->arena);
+            record(ctx, site, code::octets_left);
+            return failure;
+        }
+        *out_value = value;
+        return success;
+    };
+    Value *value = nullptr;
+    if (content.stream == nullptr) {
+        Decoder decoder(content.octets.data(arena), content.octets.length, ctx);
+        const Result result = run(decoder, value);
+        return finish(result, decoder.position() == content.octets.length, value);
+    }
+    if (kovra_stream_ctrl(content.stream, KOVRA_STREAM_REWIND, 0, nullptr) != success) {
+        record(ctx, site, code::stream_control);
+        return failure;
+    }
+    Decoder decoder(content.stream, ctx);
+    const Result result = run(decoder, value);
+    decoder.advance_stream();
+    return finish(
+        result,
+        result == success && kovra_stream_ctrl(content.stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) == success, value);
+}
+
+Result StreamSource::copy(Site site, uint32_t count, kovra_stream *destination) {
+    uint8_t buffer[piece];
+    while (count != 0) {
+        int32_t got = 0;
+        const auto wanted = static_cast<int32_t>(std::min<uint32_t>(count, piece));
+        if (const Result result = kovra_stream_read(stream_, buffer, wanted, &got, ctx_); result != success)
+            return result;
+        if (got <= 0)
+            return fail(site, code::stream_read);
+        if (destination != nullptr)
+            if (const Result result = kovra_stream_writen(destination, buffer, got, nullptr, ctx_); result != success)
+                return result;
+        count -= static_cast<uint32_t>(got);
+        count_ += got;
+    }
+    return success;
+}
+
+} // namespace kovra::asn1

@@ -1,0 +1,78 @@
+// The content octets of string-like values and of the open type, wherever they live.
+#pragma once
+
+#include <cstdint>
+
+#include "core/decoder.hpp"
+#include "core/encoder.hpp"
+#include "core/value.hpp"
+
+namespace kovra::asn1 {
+
+struct Type;
+
+// Octets of the content; -1 when its stream cannot tell, -2 when there are more than a length can hold.
+int32_t size_of(const Content &content);
+
+// Copies all content octets.
+bool copy_out(const Content &content, const Arena &arena, void *buffer);
+
+// Writes all content octets and tells how many that were.
+Result put_content(Encoder &encoder, Site site, const Content &content, const Arena &arena, int64_t &out_count);
+
+// Piecewise reading: mode 1 from the start, mode 2 from where the last piece ended.
+Result read_piece(Content &content, const Arena &arena, Site site, int32_t mode, void *buffer, int32_t size,
+                  int32_t *out_count, kovra_err_ctx *ctx);
+
+// Decodes a value, whole or as the content of `element`, from content octets, all of which it must take up.
+Result decode_from(Content &content, const Arena &arena, Site site, const Type &type, const Element *element,
+                   kovra_asn1_value **out_value, kovra_err_ctx *ctx);
+
+// A record that is the root of an arena of its own and holds a copy of the octets. Null when memory is short.
+template <class T> T *new_with_content(const void *data, uint32_t length) {
+    T *record = new_root<T>(length);
+    if (record == nullptr)
+        return nullptr;
+    auto *copy = static_cast<uint8_t *>(record->arena->allocate(length));
+    if (copy == nullptr) {
+        Arena::destroy(record->arena);
+        return nullptr;
+    }
+    if (length != 0)
+        std::memcpy(copy, data, length);
+    record->arena->octets = copy;
+    record->arena->octets_length = length;
+    record->content.octets = {copy, 0, length};
+    return record;
+}
+
+// Reads octets from a stream one at a time, for functions that work on any stream directly.
+class StreamSource {
+public:
+    StreamSource(kovra_stream *stream, kovra_err_ctx *ctx) : stream_(stream), ctx_(ctx) {}
+
+    Result octet(Site site, uint8_t &out) {
+        int32_t got = 0;
+        const Result result = kovra_stream_read(stream_, &out, 1, &got, ctx_);
+        if (result != success)
+            return result;
+        if (got != 1)
+            return fail(site, code::stream_read);
+        ++count_;
+        return success;
+    }
+    // Copies `count` octets to a stream (null: drops them).
+    Result copy(Site site, uint32_t count, kovra_stream *destination);
+    Result fail(Site site, int32_t code, Result result = failure) const {
+        record(ctx_, site, code);
+        return result;
+    }
+    [[nodiscard]] int64_t count() const { return count_; }
+
+private:
+    kovra_stream *stream_;
+    kovra_err_ctx *ctx_;
+    int64_t count_ = 0; // octets read so far
+};
+
+} // namespace kovra::asn1

@@ -1,0 +1,187 @@
+#include "core/decoder.hpp"
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/registry.hpp"
+
+namespace kovra::asn1 {
+
+namespace {
+
+Site here(int32_t line = __builtin_LINE()) { return {"ASN1_Lib", line}; }
+
+// Arenas of up to this many octets of encoding hold their copy in the same allocation as their records.
+constexpr size_t one_allocation = 16384;
+
+} // namespace
+
+Decoder::Decoder(kovra_stream *stream, kovra_err_ctx *ctx) : ctx_(ctx), no_stream_(stream == nullptr) {
+    int64_t length = 0;
+    if (stream == nullptr)
+        return;
+    if (kovra_stream_peek(stream, &base_, &length) == success) {
+        shown_ = stream;
+        size_ = static_cast<uint32_t>(std::min<int64_t>(length, max_length));
+    } else {
+        stream_ = stream;
+    }
+}
+
+Decoder::~Decoder() {
+    Arena::drop_block(pulled_);
+    Arena::destroy(scratch_);
+}
+
+void Decoder::advance_stream() {
+    if (shown_ != nullptr)
+        kovra_stream_advance(shown_, position_);
+}
+
+// Gets octets from the stream until `count` unread ones are there. Memory grows with what arrives, not with what was
+// announced.
+bool Decoder::pull(uint32_t count) {
+    constexpr size_t first_capacity = 256;
+    if (stream_ == nullptr)
+        return false;
+    while (size_ - position_ < count) {
+        const uint32_t missing = count - (size_ - position_);
+        if (size_ == pulled_capacity_) {
+            const size_t capacity = std::max(first_capacity, 2 * pulled_capacity_);
+            Arena::Block *block =
+                pulled_ == nullptr ? Arena::new_block(capacity) : Arena::resize_block(pulled_, capacity);
+            if (block == nullptr) {
+                record(ctx_, here(), code::no_memory);
+                stream_result_ = failure;
+                stream_ = nullptr;
+                return false;
+            }
+            pulled_ = block;
+            pulled_capacity_ = capacity;
+            base_ = block->memory();
+            if (arena_ != nullptr)
+                arena_->octets = base_;
+        }
+        const auto room = std::min<size_t>({missing, pulled_capacity_ - size_, static_cast<size_t>(max_length - size_)});
+        int32_t got = 0;
+        const Result result = room == 0 ? success
+                                        : kovra_stream_read(stream_, pulled_->memory() + size_,
+                                                            static_cast<int32_t>(room), &got, ctx_);
+        if (result != success) {
+            stream_result_ = result;
+            stream_ = nullptr;
+            return false;
+        }
+        if (got <= 0)
+            return false;
+        size_ += static_cast<uint32_t>(got);
+    }
+    return true;
+}
+
+// A stream's own failure has left its entry already.
+Result Decoder::short_read(Site site) {
+    if (no_stream_)
+        return fail(site, code::null_argument);
+    position_ = size_;
+    if (stream_result_ != success)
+        return stream_result_;
+    return fail(site, code::stream_read);
+}
+
+// The octets that were read become the arena's.
+bool Decoder::keep_octets() {
+    if (pulled_ != nullptr) {
+        arena_->link(pulled_);
+        arena_->octets = pulled_->memory();
+        pulled_ = nullptr;
+    } else if (position_ != 0) {
+        auto *copy = static_cast<uint8_t *>(arena_->allocate(position_));
+        if (copy == nullptr)
+            return false;
+        std::memcpy(copy, base_, position_);
+        arena_->octets = copy;
+    }
+    arena_->octets_length = position_;
+    return true;
+}
+
+template <class Decode> Result Decoder::into_own_arena(size_t reserve, Decode decode, Value *&out) {
+    Value *value = nullptr;
+    arena_ = Arena::create(reserve);
+    if (arena_ == nullptr)
+        return fail(here(), code::no_memory);
+    arena_->octets = base_;
+    Result result = decode(value);
+    if (result == success && value != nullptr) {
+        arena_->root = value;
+        if (keep_octets()) {
+            out = value;
+            arena_ = nullptr;
+            return success;
+        }
+        result = fail(here(), code::no_memory);
+    }
+    Arena::destroy(arena_);
+    arena_ = nullptr;
+    return result;
+}
+
+Result Decoder::decode_root(const Type &type, Value *&out) {
+    // A definite element in memory tells how much there will be.
+    size_t expected = 0;
+    if (size_ >= 2) {
+        Decoder look(base_, size_, nullptr);
+        Identifier identifier;
+        int32_t length = 0;
+        if (read_identifier(look, here(), identifier) == success && read_length(look, here(), length) == success &&
+            length >= 0)
+            expected = std::min<size_t>(size_, look.position() + static_cast<size_t>(length));
+    }
+    const size_t copy = expected <= one_allocation ? expected : 0;
+    return into_own_arena(
+        copy + type.operations->records_reserve(std::min(expected, one_allocation)),
+        [&](Value *&value) { return decode(*this, type, value); }, out);
+}
+
+Result Decoder::decode_root_content(const Type &type, Element element, Value *&out) {
+    const auto expected = std::min<size_t>(size_, element.length > 0 ? static_cast<size_t>(element.length) : 0);
+    const size_t copy = expected <= one_allocation ? expected : 0;
+    return into_own_arena(
+        copy + type.operations->records_reserve(std::min(expected, one_allocation)),
+        [&](Value *&value) { return type.operations->decode_content(*this, type, element, value); }, out);
+}
+
+bool Decoder::Scratch::begin(bool only_checking) {
+    constexpr size_t reserve = 4096;
+    if (decoder_.scratch_ == nullptr && (decoder_.scratch_ = Arena::create(reserve)) == nullptr)
+        return false;
+    decoder_.arena_ = decoder_.scratch_;
+    decoder_.arena_->octets = decoder_.base_;
+    decoder_.arena_->octets_length = decoder_.size_;
+    decoder_.checking_ = checking_ || only_checking;
+    mark_ = decoder_.arena_->mark();
+    begun_ = true;
+    return true;
+}
+
+Decoder::Scratch::~Scratch() {
+    if (!begun_)
+        return;
+    clear();
+    decoder_.arena_ = outer_;
+    decoder_.arena_->octets = decoder_.base_;
+    decoder_.checking_ = checking_;
+}
+
+Result decode_identifier(Decoder &decoder, Identifier &out) {
+    const Result result = read_identifier(decoder, here(), out);
+    return result == success ? success : decoder.fail(here(), code::read_identifier, result);
+}
+
+Result decode_length(Decoder &decoder, int32_t &out) {
+    const Result result = read_length(decoder, here(), out);
+    return result == success ? success : decoder.fail(here(), code::read_length, result);
+}
+
+} // namespace kovra::asn1

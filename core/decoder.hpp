@@ -1,0 +1,214 @@
+// One decode call: where the octets come from, the arena that the records go to, and who hears of failures.
+//
+// Reading functions give 1, or record why not and give the result to return. Offsets count from the first octet of the
+// call; records refer to octets by offset, so the octets may move while more of them arrive from a stream.
+#pragma once
+
+#include <cstdint>
+
+#include "core/arena.hpp"
+#include "core/failure.hpp"
+#include "core/octets.hpp"
+#include "core/value.hpp"
+
+namespace kovra::asn1 {
+
+struct Type;
+
+// An element whose identifier and length octets were read.
+struct Element {
+    static constexpr uint32_t no_start = UINT32_MAX;
+
+    Form form;
+    int32_t length;            // indefinite: up to its end-of-contents octets
+    uint32_t start = no_start; // offset of its identifier, when that is the type's own
+};
+
+class Decoder {
+public:
+    // Over octets in memory.
+    Decoder(const void *data, uint32_t length, kovra_err_ctx *ctx)
+        : ctx_(ctx), base_(static_cast<const uint8_t *>(data)), size_(length) {}
+    // Over a stream from its read position: in place when the stream shows its octets, else read as lengths announce
+    // them. A null stream fails when the first octet is wanted.
+    Decoder(kovra_stream *stream, kovra_err_ctx *ctx);
+    // Over the octets of an arena that is to receive further records.
+    Decoder(Arena &arena, uint32_t position)
+        : ctx_(nullptr), base_(arena.octets), size_(arena.octets_length), position_(position), arena_(&arena) {}
+    ~Decoder();
+    Decoder(const Decoder &) = delete;
+    Decoder &operator=(const Decoder &) = delete;
+
+    // Decodes a whole value, or the content of one, into an arena of its own that holds a copy of the octets.
+    Result decode_root(const Type &type, Value *&out);
+    Result decode_root_content(const Type &type, Element element, Value *&out);
+    // The octets in memory that the decoder reads become the arena's without a copy when the decode succeeds.
+    void take_over(Arena::Block *block) { pulled_ = block; }
+    // Steps a stream that shows its octets over those that were read.
+    void advance_stream();
+
+    [[nodiscard]] uint32_t position() const { return position_; }
+    void rewind(uint32_t position) { position_ = position; }
+    [[nodiscard]] const uint8_t *at(uint32_t offset) const { return base_ + offset; }
+    [[nodiscard]] Arena &arena() const { return *arena_; }
+    [[nodiscard]] kovra_err_ctx *ctx() const { return ctx_; }
+    [[nodiscard]] bool has_stream() const { return !no_stream_; }
+
+    Result octet(Site site, uint8_t &out) {
+        if (position_ == size_ && !pull(1))
+            return short_read(site);
+        out = base_[position_++];
+        return success;
+    }
+    // Steps over `count` octets of content.
+    Result skip(Site site, uint32_t count) {
+        if (count > size_ - position_ && !pull(count))
+            return short_read(site);
+        position_ += count;
+        return success;
+    }
+    [[nodiscard]] Octets octets_from(uint32_t offset) const { return {nullptr, offset, position_ - offset}; }
+
+    Result fail(Site site, int32_t code, Result result = failure) const {
+        record(ctx_, site, code);
+        return result;
+    }
+    // Adds an entry that succeeds: the decode goes on.
+    void warn(Site site, int32_t code) const { record(ctx_, site, code); }
+
+    // A content decoder's first look: is there a place for the value?
+    [[nodiscard]] bool has_place() const { return !place_missing_; }
+    void lack_place() { place_missing_ = true; }
+
+    // Values are only being checked: nobody will see them.
+    [[nodiscard]] bool checking() const { return checking_; }
+
+    // While it lives, octets from `end` on are out of reach.
+    class Window {
+    public:
+        Window(Decoder &decoder, uint32_t end) : decoder_(decoder), size_(decoder.size_), stream_(decoder.stream_) {
+            decoder.size_ = end;
+            decoder.stream_ = nullptr;
+        }
+        ~Window() {
+            decoder_.size_ = size_;
+            decoder_.stream_ = stream_;
+        }
+        Window(const Window &) = delete;
+        Window &operator=(const Window &) = delete;
+
+    private:
+        Decoder &decoder_;
+        uint32_t size_;
+        kovra_stream *stream_;
+    };
+
+    // While it lives, records go to a scratch area, which `clear` empties. Scratch areas nest.
+    class Scratch {
+    public:
+        explicit Scratch(Decoder &decoder) : decoder_(decoder), outer_(decoder.arena_), checking_(decoder.checking_) {}
+        ~Scratch();
+        Scratch(const Scratch &) = delete;
+        Scratch &operator=(const Scratch &) = delete;
+        // Begins; false when memory is short. Values that are only checked need not be complete.
+        bool begin(bool only_checking);
+        void clear() { decoder_.arena_->reset(mark_); }
+
+    private:
+        Decoder &decoder_;
+        Arena *outer_;
+        bool checking_;
+        bool begun_ = false;
+        Arena::Mark mark_{};
+    };
+
+private:
+    bool pull(uint32_t count);
+    Result short_read(Site site);
+    template <class Decode> Result into_own_arena(size_t reserve, Decode decode, Value *&out);
+    bool keep_octets();
+
+    kovra_err_ctx *ctx_;
+    const uint8_t *base_ = nullptr;
+    uint32_t size_ = 0; // octets there so far
+    uint32_t position_ = 0;
+    Arena *arena_ = nullptr;
+    kovra_stream *stream_ = nullptr; // where more octets come from
+    kovra_stream *shown_ = nullptr;  // the stream whose octets are read in place
+    Arena::Block *pulled_ = nullptr; // holds the octets that came from `stream_`
+    size_t pulled_capacity_ = 0;
+    Arena *scratch_ = nullptr;
+    Result stream_result_ = success; // of the stream's last failed read
+    bool no_stream_ = false;
+    bool place_missing_ = false;
+    bool checking_ = false;
+};
+
+// Reads identifier octets, each by source.octet(site, octet). Non-minimal tag numbers are accepted; tag numbers below
+// 31 in the long form, and those of 2^31 and more, are not.
+template <class Source> Result read_identifier(Source &source, Site site, Identifier &out) {
+    uint8_t octet = 0;
+    if (const Result result = source.octet(site, octet); result != success)
+        return result;
+    out.tag_class = static_cast<Class>(octet & 0xC0);
+    out.form = (octet & 0x20) != 0 ? Form::constructed : Form::primitive;
+    out.tag = octet & 0x1F;
+    if (out.tag != 0x1F)
+        return success;
+    uint32_t value = 0;
+    for (;;) {
+        if (const Result result = source.octet(site, octet); result != success)
+            return result;
+        value |= octet & 0x7FU;
+        if ((octet & 0x80) == 0)
+            break;
+        if (value >= 0x1000000)
+            return source.fail(site, code::tag_too_large);
+        value <<= 7;
+    }
+    if (value < 31)
+        return source.fail(site, code::bad_tag);
+    out.tag = static_cast<int32_t>(value);
+    return success;
+}
+
+// Reads length octets. Non-minimal forms are accepted; a length of 2^31 and more is not.
+template <class Source> Result read_length(Source &source, Site site, int32_t &out) {
+    uint8_t octet = 0;
+    if (const Result result = source.octet(site, octet); result != success)
+        return result;
+    if ((octet & 0x80) == 0) {
+        out = octet;
+        return success;
+    }
+    if (octet == 0x80) {
+        out = indefinite;
+        return success;
+    }
+    if (octet == 0xFF)
+        return source.fail(site, code::bad_length);
+    uint32_t value = 0;
+    for (int count = octet & 0x7F; count > 0; --count) {
+        if (value >= 0x800000)
+            return source.fail(site, code::tag_too_large);
+        if (const Result result = source.octet(site, octet); result != success)
+            return result;
+        value = value << 8 | octet;
+    }
+    out = static_cast<int32_t>(value);
+    return success;
+}
+
+// Reads what follows an identifier of end-of-contents.
+template <class Source> Result read_end_of_contents_length(Source &source, Site site) {
+    uint8_t octet = 0;
+    if (const Result result = source.octet(site, octet); result != success)
+        return result;
+    return octet == 0 ? success : source.fail(site, code::bad_end_of_contents);
+}
+
+// The same on a decoder, with the entry that every caller adds on failure.
+Result decode_identifier(Decoder &decoder, Identifier &out);
+Result decode_length(Decoder &decoder, int32_t &out);
+
+} // namespace kovra::asn1

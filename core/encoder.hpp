@@ -1,0 +1,76 @@
+// One encode call: octets are gathered and go to the stream in large pieces.
+//
+// Every function gives 1, or records why not and gives the result to return.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "core/failure.hpp"
+#include "core/octets.hpp"
+#include "kovra/util_stream.h"
+
+namespace kovra::asn1 {
+
+class Encoder {
+public:
+    // To a stream; a null stream fails when identifier or content octets are to be written.
+    Encoder(kovra_stream *stream, kovra_err_ctx *ctx) : ctx_(ctx), stream_(stream), no_stream_(stream == nullptr) {}
+    // To memory: `data` and `size` give the octets.
+    explicit Encoder(kovra_err_ctx *ctx) : ctx_(ctx) {}
+    ~Encoder();
+    Encoder(const Encoder &) = delete;
+    Encoder &operator=(const Encoder &) = delete;
+
+    [[nodiscard]] kovra_err_ctx *ctx() const { return ctx_; }
+    [[nodiscard]] bool has_stream() const { return !no_stream_; }
+    Result fail(Site site, int32_t code, Result result = failure) const {
+        record(ctx_, site, code);
+        return result;
+    }
+
+    // Makes room for `count` octets that are to come, so that they take one allocation.
+    Result reserve(Site site, size_t count);
+
+    Result put(Site site, const void *octets, size_t count) {
+        if (count > capacity_ - size_)
+            return put_more(site, octets, count);
+        copy_in(octets, count);
+        return success;
+    }
+    Result identifier(Site site, Class tag_class, Form form, int32_t tag);
+    Result length(Site site, int32_t length);
+    // The two octets 00 00.
+    Result end_of_contents(Site site);
+    // Copies a whole stream, from its start, and tells how many octets that were.
+    Result copy(Site site, kovra_stream *source, int64_t &out_count);
+
+    // Octets put so far.
+    [[nodiscard]] int64_t written() const { return flushed_ + static_cast<int64_t>(size_); }
+
+    // While held, what was put stays in memory: `since` gives it.
+    void hold() { ++held_; }
+    void release() { --held_; }
+    [[nodiscard]] const uint8_t *since(int64_t mark) const { return data_ + (mark - flushed_); }
+
+    // Gives everything to the stream.
+    Result flush();
+    [[nodiscard]] const uint8_t *data() const { return data_; }
+    [[nodiscard]] size_t size() const { return size_; }
+
+private:
+    void copy_in(const void *octets, size_t count);
+    Result put_more(Site site, const void *octets, size_t count);
+
+    kovra_err_ctx *ctx_;
+    kovra_stream *stream_ = nullptr;
+    int64_t flushed_ = 0;
+    uint32_t held_ = 0;
+    bool no_stream_ = false;
+    uint8_t inline_[512];
+    uint8_t *data_ = inline_;
+    size_t size_ = 0;
+    size_t capacity_ = sizeof inline_;
+};
+
+} // namespace kovra::asn1

@@ -1,0 +1,479 @@
+#include "core/list.hpp"
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/any.hpp"
+#include "core/descriptors.hpp"
+#include "kovra/asn1_codec.h"
+#include "kovra/asn1_list.h"
+#include "kovra/asn1_types.h"
+#include "kovra/util_memory.h"
+
+namespace kovra::asn1 {
+
+namespace {
+
+Site here(int32_t line = __builtin_LINE()) { return {"ASN1_List", line}; }
+
+constexpr uint32_t first_capacity = 32;
+
+// A decoded list of more elements keeps their places and builds them when they are asked for.
+constexpr uint32_t most_built_at_once = 32;
+
+const ListShape &shape_of(const Type &type) { return *static_cast<const ListShape *>(type.shape); }
+
+// Slots for at least `wanted` elements, those of elements that are not built being null.
+bool make_slots(List &list, uint32_t wanted) {
+    if (list.items != nullptr && wanted <= list.capacity)
+        return true;
+    constexpr uint32_t step = 16;
+    constexpr uint32_t even_steps_to = 1024;
+    const uint32_t old_slots = list.items != nullptr ? list.capacity : 0;
+    uint32_t capacity = list.capacity;
+    while (capacity < wanted)
+        capacity += capacity < even_steps_to ? step : capacity / 4;
+    if (capacity > static_cast<uint32_t>(max_length) / sizeof(Value *))
+        return false;
+    const size_t size = size_t{capacity} * sizeof(Value *);
+    Arena::Block *block = nullptr;
+    if (list.items_block != nullptr) {
+        block = list.arena->resize_linked(list.items_block, size);
+        if (block == nullptr)
+            return false;
+    } else {
+        block = Arena::new_block(size);
+        if (block == nullptr)
+            return false;
+        list.arena->link(block);
+        if (old_slots != 0)
+            std::memcpy(block->memory(), list.items, old_slots * sizeof(Value *));
+    }
+    list.items_block = block;
+    list.items = reinterpret_cast<Value **>(block->memory());
+    std::fill(list.items + old_slots, list.items + capacity, nullptr);
+    list.capacity = capacity;
+    return true;
+}
+
+// Calls visit(element) with each element, in order, until one call gives something else than success. An element that
+// is not built is built for the call only.
+template <class Visit> Result for_each(List &list, Visit visit) {
+    for (uint32_t i = 0; i < list.count; ++i) {
+        Value *element = list.items != nullptr ? list.items[i] : nullptr;
+        if (element == nullptr) {
+            Decoder decoder(*list.arena, list.places[i]);
+            Decoder::Scratch scratch(decoder);
+            if (!scratch.begin(false) || decode(decoder, *list.element, element) != success)
+                return failure;
+            if (const Result result = visit(element); result != success)
+                return result;
+            continue;
+        }
+        if (const Result result = visit(element); result != success)
+            return result;
+    }
+    return success;
+}
+
+int32_t measure_list(List *list, const Type &element) {
+    if (list == nullptr)
+        return unknown;
+    int64_t total = 0;
+    list->measured = unknown;
+    const Result result = for_each(*list, [&](Value *value) {
+        const int32_t length = whole_length(element, value);
+        total = length < 0 ? length : total + length;
+        return length < 0 || total > max_length ? failure : success;
+    });
+    if (result != success && total >= 0)
+        return unknown;
+    list->measured = static_cast<int32_t>(total);
+    return list->measured;
+}
+
+Result encode_elements(Encoder &encoder, const Type &element, List *list, int32_t length, bool is_any) {
+    if (!encoder.has_stream() || list == nullptr)
+        return encoder.fail(here(), code::null_argument);
+    if (length < indefinite)
+        return encoder.fail(here(), code::bad_argument);
+    const Result result = for_each(*list, [&](Value *value) {
+        // What was measured holds only as long as all of the list could be measured, and only for elements that stay.
+        const bool is_measured = length >= 0 && list->measured >= 0 && list->places == nullptr;
+        const Result put = encode(encoder, element, value, is_measured ? Measure::known : Measure::fresh);
+        return put == success ? success : encoder.fail(here(), is_any ? code::encode_any : element.base, put);
+    });
+    if (result != success)
+        return result;
+    if (length == indefinite)
+        if (const Result end = encoder.end_of_contents(here()); end != success)
+            return encoder.fail(here(), code::write_end_of_contents, end);
+    return success;
+}
+
+// Collects the elements of a list that is being decoded.
+class Collector {
+public:
+    explicit Collector(Decoder &decoder)
+        : decoder_(decoder), scratch_(decoder), list_(new_record<List>(decoder.arena())),
+          mark_(decoder.arena().mark()) {}
+    ~Collector() { Arena::drop_block(places_); }
+    Collector(const Collector &) = delete;
+    Collector &operator=(const Collector &) = delete;
+
+    [[nodiscard]] bool has_list() const { return list_ != nullptr; }
+    [[nodiscard]] uint32_t count() const { return count_; }
+
+    // An element that begins at `place` was decoded; false when memory is short.
+    bool add(Value *element, uint32_t place) {
+        if (count_ < most_built_at_once) {
+            built_[count_] = element;
+            first_places_[count_++] = place;
+            return true;
+        }
+        if (count_ == most_built_at_once && !begin_long())
+            return false;
+        scratch_.clear();
+        if (!decoder_.checking() || keeps_places_) {
+            if (!keep(place))
+                return false;
+        }
+        ++count_;
+        return true;
+    }
+
+    // The list with what was added; null when memory is short.
+    List *finish(const Type &element) {
+        list_->count = count_;
+        list_->capacity = count_ > first_capacity ? count_ : first_capacity;
+        list_->element = &element;
+        if (count_ == 0 || count_ <= most_built_at_once) {
+            auto *items = static_cast<Value **>(list_->arena->allocate(size_t{count_} * sizeof(Value *)));
+            if (items == nullptr)
+                return nullptr;
+            if (count_ != 0)
+                std::memcpy(items, built_, count_ * sizeof(Value *));
+            list_->items = items;
+            list_->capacity = count_;
+            return list_;
+        }
+        list_->placed = count_;
+        if (places_ != nullptr) {
+            list_->arena->link(places_);
+            list_->places = reinterpret_cast<const uint32_t *>(places_->memory());
+            places_ = nullptr;
+        }
+        return list_;
+    }
+
+private:
+    // The elements that were built make room for places; those that follow go to the scratch area.
+    bool begin_long() {
+        keeps_places_ = !decoder_.checking();
+        decoder_.arena().reset(mark_);
+        if (!scratch_.begin(true))
+            return false;
+        for (uint32_t i = 0; keeps_places_ && i < count_; ++i)
+            if (!keep(first_places_[i], i))
+                return false;
+        return true;
+    }
+
+    bool keep(uint32_t place) { return keep(place, count_); }
+    bool keep(uint32_t place, uint32_t index) {
+        if (index == places_capacity_) {
+            const uint32_t capacity = places_capacity_ == 0 ? 4 * most_built_at_once : places_capacity_ * 2;
+            const size_t size = size_t{capacity} * sizeof(uint32_t);
+            Arena::Block *block =
+                places_ == nullptr ? Arena::new_block(size) : Arena::resize_block(places_, size);
+            if (block == nullptr)
+                return false;
+            places_ = block;
+            places_capacity_ = capacity;
+        }
+        reinterpret_cast<uint32_t *>(places_->memory())[index] = place;
+        return true;
+    }
+
+    Decoder &decoder_;
+    Decoder::Scratch scratch_;
+    List *list_;
+    Arena::Mark mark_;
+    uint32_t count_ = 0;
+    bool keeps_places_ = false;
+    Arena::Block *places_ = nullptr;
+    uint32_t places_capacity_ = 0;
+    Value *built_[most_built_at_once];
+    uint32_t first_places_[most_built_at_once];
+};
+
+// What is left of a list whose elements are being read.
+enum class Next : uint8_t { element, end, fault };
+
+// Reads one element of a list, unless the end-of-contents of an indefinite one stands in its place.
+Next read_element(Decoder &decoder, const Type &element, ListReading reading, bool is_indefinite, Result &result,
+                  Value *&out) {
+    const auto fault = [&](Result given) {
+        result = given;
+        return Next::fault;
+    };
+    const uint32_t start = decoder.position();
+    Identifier identifier;
+    int32_t length = 0;
+    if (reading == ListReading::whole && !is_indefinite) {
+        const Result decoded = decode(decoder, element, out);
+        return decoded == success ? Next::element : fault(fail_decode(decoder, here(), element, decoded));
+    }
+    if (const Result read = decode_identifier(decoder, identifier); read != success)
+        return fault(read);
+    if (is_indefinite && identifier.is_end_of_contents()) {
+        const Result read = read_end_of_contents_length(decoder, here());
+        return read == success ? Next::end : fault(decoder.fail(here(), code::read_end_of_contents, read));
+    }
+    if (reading == ListReading::whole) {
+        decoder.rewind(start);
+        const Result decoded = decode(decoder, element, out);
+        return decoded == success ? Next::element : fault(fail_decode(decoder, here(), element, decoded));
+    }
+    if (!begins(element, identifier))
+        return fault(decoder.fail(here(), code::incorrect_item));
+    if (const Result read = decode_length(decoder, length); read != success)
+        return fault(read);
+    const Result decoded = decode_begun(decoder, element, identifier, {identifier.form, length, start}, out);
+    return decoded == success ? Next::element : fault(fail_decode(decoder, here(), element, decoded));
+}
+
+Result decode_list(Decoder &decoder, const Type &type, Element element, Value *&out) {
+    const ListShape &shape = shape_of(type);
+    const Type &member = row(shape.element);
+    if (const Result result = enter(decoder, here()); result != success)
+        return result;
+    if (element.form == Form::primitive)
+        return decoder.fail(here(), code::form_error);
+    Collector collector(decoder);
+    if (!collector.has_list())
+        return decoder.fail(here(), code::no_memory);
+    if (element.length < indefinite)
+        return decoder.fail(here(), code::bad_argument);
+    const bool is_indefinite = element.length == indefinite;
+    const uint32_t begin = decoder.position();
+    const auto length = static_cast<uint32_t>(element.length);
+    while (is_indefinite || decoder.position() - begin != length) {
+        Value *value = nullptr;
+        Result result = success;
+        const uint32_t start = decoder.position();
+        const Next next = read_element(decoder, member, shape.reading, is_indefinite, result, value);
+        if (next == Next::fault)
+            return result;
+        if (next == Next::end)
+            break;
+        if (!collector.add(value, start))
+            return decoder.fail(here(), code::no_memory);
+        if (!is_indefinite && decoder.position() - begin > length)
+            return decoder.fail(here(), code::incorrect_length);
+    }
+    if (shape.nonempty && collector.count() == 0)
+        return decoder.fail(here(), code::incorrect_size);
+    out = collector.finish(member);
+    return out != nullptr ? success : decoder.fail(here(), code::no_memory);
+}
+
+// Lists of open-type values have codes of their own for what goes wrong.
+Result decode_any_list(Decoder &decoder, const Type &type, Element element, Value *&out) {
+    const Type &any = row(KOVRA_ASN1_TYPE_ANY);
+    if (const Result result = enter(decoder, here()); result != success)
+        return result;
+    if (element.form == Form::primitive)
+        return decoder.fail(here(), code::form_error);
+    if (element.length < indefinite)
+        return decoder.fail(here(), code::bad_length);
+    Collector collector(decoder);
+    if (!collector.has_list())
+        return decoder.fail(here(), code::no_memory);
+    const bool is_indefinite = element.length == indefinite;
+    const uint32_t begin = decoder.position();
+    const auto length = static_cast<uint32_t>(element.length);
+    while (is_indefinite || decoder.position() - begin < length) {
+        Extent extent;
+        if (const Result result = walk_element(decoder, extent); result != success)
+            return decoder.fail(here(), code::decode_any, result);
+        if (extent.identifier.is_end_of_contents()) {
+            if (is_indefinite)
+                break;
+            return decoder.fail(here(), code::misplaced_end_of_contents);
+        }
+        Any *value = new_any(decoder, extent);
+        if (value == nullptr || !collector.add(value, extent.start))
+            return decoder.fail(here(), code::no_memory);
+    }
+    if (!is_indefinite && decoder.position() - begin != length)
+        return decoder.fail(here(), code::incorrect_length);
+    if (shape_of(type).nonempty && collector.count() == 0)
+        return decoder.fail(here(), code::incorrect_size);
+    out = collector.finish(any);
+    return out != nullptr ? success : decoder.fail(here(), code::no_memory);
+}
+
+int32_t list_content_length(const Type &type, Value *value, Measure measure) {
+    if (measure == Measure::known && value != nullptr)
+        return value->measured;
+    return measure_list(static_cast<List *>(value), row(shape_of(type).element));
+}
+
+Result encode_list_content(Encoder &encoder, const Type &type, Value *value, int32_t length) {
+    return encode_elements(encoder, row(shape_of(type).element), static_cast<List *>(value), length, false);
+}
+
+Result encode_any_list_content(Encoder &encoder, const Type &type, Value *value, int32_t length) {
+    return encode_elements(encoder, row(shape_of(type).element), static_cast<List *>(value), length, true);
+}
+
+size_t list_reserve(size_t octets) { return 256 + 3 * octets; }
+
+} // namespace
+
+constexpr Operations list_operations = {
+    .holds = holds_kind<List>,
+    .content_length = list_content_length,
+    .encode_content = encode_list_content,
+    .decode_content = decode_list,
+    .records_reserve = list_reserve,
+};
+
+constexpr Operations any_list_operations = {
+    .holds = holds_kind<List>,
+    .content_length = list_content_length,
+    .encode_content = encode_any_list_content,
+    .decode_content = decode_any_list,
+    .records_reserve = list_reserve,
+};
+
+List *new_list(Arena &arena) {
+    auto *list = new_record<List>(arena);
+    if (list == nullptr)
+        return nullptr;
+    list->items = static_cast<Value **>(arena.allocate(first_capacity * sizeof(Value *)));
+    if (list->items == nullptr)
+        return nullptr;
+    std::fill_n(list->items, first_capacity, nullptr);
+    list->capacity = first_capacity;
+    return list;
+}
+
+Value *list_element(List &list, uint32_t index) {
+    if (index >= list.count)
+        return nullptr;
+    if (list.items != nullptr && list.items[index] != nullptr)
+        return list.items[index];
+    if (list.places == nullptr || !make_slots(list, list.count))
+        return nullptr;
+    Decoder decoder(*list.arena, list.places[index]);
+    Value *value = nullptr;
+    if (decode(decoder, *list.element, value) != success)
+        return nullptr;
+    return list.items[index] = value;
+}
+
+bool list_append(List &list, Value *element) {
+    if (list.count == static_cast<uint32_t>(max_length) || !make_slots(list, list.count + 1) ||
+        !list.arena->adopt(element))
+        return false;
+    list.items[list.count++] = element;
+    return true;
+}
+
+namespace {
+
+struct SortItem {
+    const uint8_t *octets;
+    size_t length;
+    Value *element;
+};
+
+// The shorter encoding counts as padded with zero octets.
+bool precedes(const SortItem &left, const SortItem &right) {
+    const size_t common = std::min(left.length, right.length);
+    if (const int order = std::memcmp(left.octets, right.octets, common); order != 0)
+        return order < 0;
+    return std::any_of(right.octets + common, right.octets + right.length, [](uint8_t octet) { return octet != 0; });
+}
+
+} // namespace
+
+Result sort_list(List *list, const Type &element) {
+    if (list == nullptr)
+        return failure;
+    if (list->count < 2)
+        return success;
+    auto *items = static_cast<SortItem *>(kovra_malloc(list->count * sizeof(SortItem), "ASN1_List", __LINE__));
+    if (items == nullptr)
+        return failure;
+    // All encodings stand one after the other; where each begins is known when none moves any more.
+    Encoder encoder(static_cast<kovra_err_ctx *>(nullptr));
+    bool all_encoded = true;
+    for (uint32_t i = 0; i < list->count && all_encoded; ++i) {
+        const size_t begin = encoder.size();
+        items[i].element = list_element(*list, i);
+        all_encoded = items[i].element != nullptr && encode(encoder, element, items[i].element) == success;
+        items[i].length = encoder.size() - begin;
+    }
+    if (all_encoded) {
+        const uint8_t *octets = encoder.data();
+        for (uint32_t i = 0; i < list->count; octets += items[i++].length)
+            items[i].octets = octets;
+        std::sort(items, items + list->count, precedes);
+        for (uint32_t i = 0; i < list->count; ++i)
+            list->items[i] = items[i].element;
+        // The places are those of the former order.
+        list->places = nullptr;
+    }
+    kovra_free(items);
+    return all_encoded ? success : failure;
+}
+
+} // namespace kovra::asn1
+
+using namespace kovra::asn1;
+
+kovra_asn1_value *kovra_asn1_list_new(void) noexcept {
+    Arena *arena = Arena::create(sizeof(List) + first_capacity * sizeof(Value *));
+    if (arena == nullptr)
+        return nullptr;
+    List *list = new_list(*arena);
+    if (list == nullptr)
+        Arena::destroy(arena);
+    else
+        arena->root = list;
+    return list;
+}
+
+void kovra_asn1_list_free(kovra_asn1_value *list, uint32_t type) noexcept {
+    // Whatever the elements are, they are released as what they are.
+    static_cast<void>(type);
+    if (as<List>(list) != nullptr)
+        kovra_asn1_value_free(KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, list);
+}
+
+int32_t kovra_asn1_list_put(kovra_asn1_value *list, kovra_asn1_value *element) noexcept {
+    auto *record = as<List>(list);
+    auto *value = static_cast<Value *>(element);
+    if (record == nullptr || value == nullptr || value->kind < Kind::boolean || value->kind > Kind::record)
+        return 0;
+    return list_append(*record, value) ? 1 : 0;
+}
+
+int32_t kovra_asn1_list_get(kovra_asn1_value *list, int32_t index, kovra_asn1_value **out_element) noexcept {
+    auto *record = as<List>(list);
+    if (record == nullptr || out_element == nullptr || index < 0)
+        return 0;
+    Value *element = list_element(*record, static_cast<uint32_t>(index));
+    if (element == nullptr)
+        return 0;
+    *out_element = element;
+    return 1;
+}
+
+int32_t kovra_asn1_list_getsize(const kovra_asn1_value *list) noexcept {
+    const auto *record = as<List>(list);
+    return record != nullptr ? static_cast<int32_t>(record->count) : 0;
+}

@@ -1,0 +1,111 @@
+// The registry: a row for each type identifier, and the walk through its operations.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "core/decoder.hpp"
+#include "core/encoder.hpp"
+#include "core/value.hpp"
+
+namespace kovra::asn1 {
+
+// Lengths of constructed values are computed once: an encoding that follows a measuring uses what it found.
+enum class Measure : uint8_t { fresh, known };
+
+// What a type can do. Types of one kind share their operations; what distinguishes them stands in their rows.
+//
+// A null `value` is the absence of one.
+struct Operations {
+    // Is this a record that the type's operations work on?
+    bool (*holds)(const Type &, const Value &);
+    // Content octets; indefinite when that is how the content will be written; unknown when it cannot be told.
+    int32_t (*content_length)(const Type &, Value *, Measure);
+    // Octets of identifier, length and content. Null: computed from the content length.
+    int32_t (*length)(const Type &, Value *, Measure);
+    // Writes the content, `length` being what measuring gave (indefinite: with its end-of-contents).
+    Result (*encode_content)(Encoder &, const Type &, Value *, int32_t length);
+    // Writes the whole value. Null: universal identifier, length, content.
+    Result (*encode)(Encoder &, const Type &, Value *);
+    // Reads the content of an element.
+    Result (*decode_content)(Decoder &, const Type &, Element, Value *&out);
+    // Reads a whole value. Null: the identifier must be the row's.
+    Result (*decode)(Decoder &, const Type &, Value *&out);
+    // Can a value begin with this identifier? Null: it must be the row's.
+    bool (*begins)(const Type &, const Identifier &);
+    // Reads the content behind an identifier that the value can begin with. Null: `decode_content`.
+    Result (*decode_begun)(Decoder &, const Type &, const Identifier &, Element, Value *&out);
+    // Octets of records to make room for when this many octets are to be decoded.
+    size_t (*records_reserve)(size_t octets);
+};
+
+// A row of the registry.
+struct Type {
+    uint8_t number;
+    Form form;
+    uint8_t tag;    // universal
+    int32_t base;   // code of a failed encode; that of a failed decode is one above
+    const Operations *operations;
+    const void *shape; // the declaration that shared operations work from; null for the leaves
+};
+
+inline constexpr uint32_t type_count = 208;
+
+// The row of a type identifier below type_count.
+const Type &row(uint32_t number);
+
+// Is there a value, and one that the type works on?
+inline bool holds(const Type &type, const Value *value) {
+    return value != nullptr && type.operations->holds(type, *value);
+}
+
+// Lengths. A value of another kind has none.
+int32_t content_length(const Type &type, Value *value, Measure measure = Measure::fresh);
+int32_t whole_length(const Type &type, Value *value, Measure measure = Measure::fresh);
+// Identifier, length and content octets of a content length; indefinite when there are more than 0x7FFFFFFF.
+int32_t whole_length_of(int32_t tag, int32_t content);
+
+// Writes a whole value; one of known measure has just been measured as a part of its holder.
+Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure = Measure::fresh);
+
+// Reads a whole value, and the content behind an identifier that `begins` accepted.
+Result decode(Decoder &decoder, const Type &type, Value *&out);
+bool begins(const Type &type, const Identifier &identifier);
+Result decode_begun(Decoder &decoder, const Type &type, const Identifier &identifier, Element element, Value *&out);
+
+// A copy that is independent of the value, by encoding and decoding it. Null, with entries, when that fails.
+Value *duplicate(const Type &type, const Value *value, kovra_err_ctx *ctx);
+// The same between two types, without entries (an INTEGER to an ANY, say); a type that needs no value may have none.
+Value *convert(const Type &from, const Value *value, const Type &to);
+
+// The type's own codes.
+inline Result fail_encode(Encoder &encoder, Site site, const Type &type, Result result = failure) {
+    return encoder.fail(site, type.base, result);
+}
+inline Result fail_decode(Decoder &decoder, Site site, const Type &type, Result result = failure) {
+    return decoder.fail(site, type.base + 1, result);
+}
+
+// The first checks of every content decoder.
+inline Result enter(Decoder &decoder, Site site) {
+    if (!decoder.has_stream() || !decoder.has_place())
+        return decoder.fail(site, code::null_argument);
+    return success;
+}
+// And of those whose content is primitive and definite.
+inline Result enter_primitive(Decoder &decoder, Site site, Element element) {
+    if (const Result result = enter(decoder, site); result != success)
+        return result;
+    if (element.form == Form::constructed)
+        return decoder.fail(site, code::form_error);
+    if (element.length == indefinite)
+        return decoder.fail(site, code::definite_wanted);
+    return success;
+}
+
+// Building blocks for tables of operations.
+template <class T> bool holds_kind(const Type &, const Value &value) { return value.kind == T::own_kind; }
+template <size_t record_octets> size_t leaf_reserve(size_t) { return record_octets; }
+Result refuse_decode_content(Decoder &decoder, const Type &, Element, Value *&);
+
+} // namespace kovra::asn1

@@ -1,0 +1,528 @@
+#include "core/structure.hpp"
+
+#include <cstring>
+
+#include "core/any.hpp"
+#include "core/descriptors.hpp"
+#include "kovra/asn1_boolean.h"
+#include "kovra/asn1_integer.h"
+
+namespace kovra::asn1 {
+
+namespace {
+
+const Structure &shape_of(const Type &type) { return *static_cast<const Structure *>(type.shape); }
+
+// Entries name the module of the structure and the line of the component's row.
+Site at(const Structure &shape, const Component &component) { return {shape.source, component.line}; }
+Site in(const Structure &shape, int32_t line = __builtin_LINE()) { return {shape.source, line}; }
+
+const Type &encode_row(const Component &component) {
+    return row(component.encode_type != 0 ? component.encode_type : component.type);
+}
+const Type &decode_row(const Component &component) {
+    return row(component.decode_type != 0 ? component.decode_type : component.type);
+}
+int32_t encode_code(const Component &component) {
+    return component.encode_code != 0 ? component.encode_code : encode_row(component).base;
+}
+int32_t decode_code(const Component &component) {
+    return component.decode_code != 0 ? component.decode_code : decode_row(component).base + 1;
+}
+
+bool is_written(const Component &component, const Value *value) {
+    if (value == nullptr)
+        return false;
+    return component.presence != Presence::defaulted || !component.fallback->is(*value);
+}
+
+Record *new_record_of(Arena &arena, const Structure &shape) {
+    const size_t size = offsetof(Record, slots) + shape.count * sizeof(Value *) + 2 * sizeof(Octets);
+    auto *record = new_record<Record>(arena, size);
+    if (record != nullptr)
+        record->shape = &shape;
+    return record;
+}
+
+Octets *kept_of(Record &record) { return reinterpret_cast<Octets *>(record.slots + record.shape->count); }
+
+// Copies what was just encoded for keeping.
+Result keep(Encoder &encoder, Site site, int64_t begin, Arena &arena, Octets &out) {
+    const int64_t length = encoder.written() - begin;
+    if (length > max_length)
+        return encoder.fail(site, code::length_too_large);
+    auto *copy = static_cast<uint8_t *>(arena.allocate(static_cast<size_t>(length)));
+    if (copy == nullptr)
+        return encoder.fail(site, code::no_memory);
+    std::memcpy(copy, encoder.since(begin), static_cast<size_t>(length));
+    out = {copy, 0, static_cast<uint32_t>(length)};
+    return success;
+}
+
+// Octets that a component takes, its tag included.
+int32_t component_length(const Component &component, Value *value) {
+    const Type &type = encode_row(component);
+    switch (component.tag.tagging) {
+    case Tagging::none:
+        return whole_length(type, value);
+    case Tagging::implicit:
+        return whole_length_of(component.tag.number, content_length(type, value));
+    case Tagging::explicit_:
+        return whole_length_of(component.tag.number, whole_length(type, value));
+    }
+    return unknown;
+}
+
+int32_t measure(const Structure &shape, Record &record) {
+    int64_t total = 0;
+    record.measured = unknown;
+    for (uint8_t i = 0; i < shape.count; ++i) {
+        Value *value = record.slots[i];
+        const Component &component = shape.components[i];
+        if (i == shape.signed_slot && is_kept(kept_of(record)[1])) {
+            total += kept_of(record)[1].length;
+            continue;
+        }
+        if (value == nullptr && component.presence == Presence::required)
+            return record.measured = unknown;
+        if (!is_written(component, value))
+            continue;
+        const int32_t length = component_length(component, value);
+        if (length < 0)
+            return record.measured = length;
+        total += length;
+    }
+    return record.measured = total <= max_length ? static_cast<int32_t>(total) : unknown;
+}
+
+Result encode_tagged(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure) {
+    const Type &type = encode_row(component);
+    const bool is_explicit = component.tag.tagging == Tagging::explicit_;
+    const int32_t length = is_explicit ? whole_length(type, value, measure) : content_length(type, value, measure);
+    if (length < indefinite)
+        return encoder.fail(site, code::no_length);
+    const bool is_constructed = is_explicit || type.form == Form::constructed || length == indefinite;
+    Result result =
+        encoder.identifier(site, Class::context, is_constructed ? Form::constructed : Form::primitive,
+                           component.tag.number);
+    if (result != success)
+        return encoder.fail(site, code::write_identifier, result);
+    if (result = encoder.length(site, length); result != success)
+        return encoder.fail(site, code::write_length, result);
+    result = is_explicit ? encode(encoder, type, value, length >= 0 ? measure : Measure::fresh)
+                         : type.operations->encode_content(encoder, type, value, length);
+    if (result != success)
+        return encoder.fail(site, encode_code(component), result);
+    if (is_explicit && length == indefinite)
+        if (result = encoder.end_of_contents(site); result != success)
+            return encoder.fail(site, code::write_end_of_contents, result);
+    return success;
+}
+
+Result encode_component(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure) {
+    if (component.tag.tagging != Tagging::none)
+        return encode_tagged(encoder, site, component, value, measure);
+    const Result result = encode(encoder, encode_row(component), value, measure);
+    return result == success ? success : encoder.fail(site, encode_code(component), result);
+}
+
+// The signed component is written as it was read, or as it is written this first time.
+Result encode_signed(Encoder &encoder, Site site, const Component &component, Record &record, uint8_t slot) {
+    Octets &kept = kept_of(record)[1];
+    if (is_kept(kept))
+        return encoder.put(site, kept.data(*record.arena), kept.length);
+    encoder.hold();
+    const int64_t begin = encoder.written();
+    Result result = encode_component(encoder, site, component, record.slots[slot], Measure::fresh);
+    if (result == success)
+        result = keep(encoder, site, begin, *record.arena, kept);
+    encoder.release();
+    return result;
+}
+
+int32_t structure_content_length(const Type &type, Value *value, Measure known) {
+    const Structure &shape = shape_of(type);
+    auto *record = static_cast<Record *>(value);
+    if (record == nullptr || (shape.refuses_length && !shape.allows(*record)))
+        return unknown;
+    return known == Measure::known ? record->measured : measure(shape, *record);
+}
+
+Result encode_structure_content(Encoder &encoder, const Type &type, Value *value, int32_t length) {
+    const Structure &shape = shape_of(type);
+    auto *record = static_cast<Record *>(value);
+    if (!encoder.has_stream() || record == nullptr)
+        return encoder.fail(in(shape), code::null_argument);
+    if (length < indefinite)
+        return encoder.fail(in(shape), code::bad_argument);
+    if (shape.allows != nullptr && !shape.allows(*record))
+        return encoder.fail(in(shape), shape.refusal);
+    // Measuring stops at the first component of indefinite length: what follows it was not measured.
+    const Measure measure = length >= 0 && record->measured >= 0 ? Measure::known : Measure::fresh;
+    for (uint8_t i = 0; i < shape.count; ++i) {
+        const Component &component = shape.components[i];
+        const Site site = at(shape, component);
+        Result result = success;
+        if (i == shape.signed_slot)
+            result = encode_signed(encoder, site, component, *record, i);
+        else if (component.presence == Presence::required || is_written(component, record->slots[i]))
+            result = encode_component(encoder, site, component, record->slots[i], measure);
+        if (result != success)
+            return result;
+    }
+    if (length == indefinite)
+        if (const Result result = encoder.end_of_contents(in(shape)); result != success)
+            return encoder.fail(in(shape), code::write_end_of_contents, result);
+    return success;
+}
+
+int32_t kept_length(const Type &type, Value *value, Measure known) {
+    auto *record = static_cast<Record *>(value);
+    const int32_t content = structure_content_length(type, value, Measure::known);
+    if (record != nullptr && is_kept(*kept_of(*record)) && !(content == unknown && shape_of(type).refuses_length))
+        return static_cast<int32_t>(kept_of(*record)->length);
+    return whole_length_of(type.tag, structure_content_length(type, value, known));
+}
+
+Result encode_kept(Encoder &encoder, const Type &type, Value *value) {
+    const Structure &shape = shape_of(type);
+    auto *record = static_cast<Record *>(value);
+    if (!encoder.has_stream() || record == nullptr)
+        return encoder.fail(in(shape), code::null_argument);
+    if (shape.allows != nullptr && !shape.allows(*record))
+        return encoder.fail(in(shape), shape.refusal);
+    Octets &kept = *kept_of(*record);
+    if (is_kept(kept))
+        return encoder.put(in(shape), kept.data(*record->arena), kept.length);
+    const int32_t length = record->measured;
+    if (length == unknown)
+        return encoder.fail(in(shape), code::no_length);
+    encoder.hold();
+    const int64_t begin = encoder.written();
+    Result result = encoder.identifier(in(shape), Class::universal, Form::constructed, type.tag);
+    if (result != success)
+        result = encoder.fail(in(shape), code::write_identifier, result);
+    else if (result = encoder.length(in(shape), length); result != success)
+        result = encoder.fail(in(shape), code::no_length, result);
+    else
+        result = encode_structure_content(encoder, type, value, length);
+    if (result == success)
+        result = keep(encoder, in(shape), begin, *record->arena, kept);
+    encoder.release();
+    return result;
+}
+
+// Decoding.
+
+// One walk through the components of a structure.
+class Reader {
+public:
+    Reader(Decoder &decoder, const Structure &shape, Element element, Record &record)
+        : decoder_(decoder), shape_(shape), record_(record), begin_(decoder.position()), length_(element.length) {}
+
+    Result read() {
+        for (uint8_t i = 0; i < shape_.count && !ended_; ++i) {
+            const Component &component = shape_.components[i];
+            if (const Result result = read_component(component, i); result != success)
+                return result;
+            if (!is_indefinite() && consumed() > static_cast<uint32_t>(length_))
+                return decoder_.fail(at(shape_, component), code::incorrect_length);
+        }
+        for (uint8_t i = 0; i < shape_.count; ++i)
+            if (record_.slots[i] == nullptr && shape_.components[i].presence == Presence::defaulted)
+                if ((record_.slots[i] = shape_.components[i].fallback->make(decoder_.arena())) == nullptr)
+                    return decoder_.fail(at(shape_, shape_.components[i]), code::no_memory);
+        return ended_ ? success : finish();
+    }
+
+private:
+    [[nodiscard]] bool is_indefinite() const { return length_ == indefinite; }
+    [[nodiscard]] uint32_t consumed() const { return decoder_.position() - begin_; }
+
+    // Does the component begin with the identifier that was read?
+    [[nodiscard]] bool matches(const Component &component) const {
+        const Type &type = decode_row(component);
+        switch (component.tag.tagging) {
+        case Tagging::none:
+            return begins(type, identifier_);
+        case Tagging::implicit:
+            return identifier_.is(Class::context, component.tag.number) &&
+                   (type.form != Form::constructed || identifier_.form == Form::constructed);
+        case Tagging::explicit_:
+            return identifier_.is(Class::context, component.tag.number) && identifier_.form == Form::constructed;
+        }
+        return false;
+    }
+
+    Result read_component(const Component &component, uint8_t slot) {
+        const bool is_required = component.presence == Presence::required;
+        const bool is_plain = component.tag.tagging == Tagging::none;
+        Value *&place = record_.slots[slot];
+        if (!identifier_read_) {
+            if (!is_required && !is_indefinite() && consumed() == static_cast<uint32_t>(length_))
+                return success;
+            if (slot == shape_.signed_slot)
+                return read_signed(component, place);
+            if (is_plain && (is_required || component.type == KOVRA_ASN1_TYPE_ANY))
+                return read_whole(component, place);
+            identifier_start_ = decoder_.position();
+            if (const Result result = decode_identifier(decoder_, identifier_); result != success)
+                return result;
+            identifier_read_ = true;
+        } else if (is_plain && component.type == KOVRA_ASN1_TYPE_ANY) {
+            identifier_read_ = false;
+            decoder_.rewind(identifier_start_);
+            return read_whole(component, place);
+        }
+        if (!matches(component))
+            return is_required ? decoder_.fail(at(shape_, component), code::incorrect_item) : success;
+        identifier_read_ = false;
+        int32_t length = 0;
+        if (const Result result = decode_length(decoder_, length); result != success)
+            return result;
+        return component.tag.tagging == Tagging::explicit_ ? read_explicit(component, length, place)
+                                                           : read_content(component, length, place);
+    }
+
+    Result read_whole(const Component &component, Value *&place) {
+        Value *value = nullptr;
+        const Site site = at(shape_, component);
+        const Result result = decode(decoder_, decode_row(component), value);
+        if (result != success)
+            return decoder_.fail(site, decode_code(component), result);
+        if (component.type == KOVRA_ASN1_TYPE_ANY && static_cast<const Any *>(value)->end_of_contents) {
+            if (component.presence == Presence::required || !is_indefinite())
+                return decoder_.fail(site, code::incorrect_item);
+            ended_ = true;
+            return success;
+        }
+        place = value;
+        return success;
+    }
+
+    // Behind an identifier that the component begins with, tagged or not.
+    Result read_content(const Component &component, int32_t length, Value *&place) {
+        const Type &type = decode_row(component);
+        const bool is_own = component.tag.tagging == Tagging::none;
+        const Element element{identifier_.form, length, is_own ? identifier_start_ : Element::no_start};
+        const Result result = is_own ? decode_begun(decoder_, type, identifier_, element, place)
+                                     : type.operations->decode_content(decoder_, type, element, place);
+        return result == success ? success : decoder_.fail(at(shape_, component), decode_code(component), result);
+    }
+
+    Result read_explicit(const Component &component, int32_t length, Value *&place) {
+        const Site site = at(shape_, component);
+        const uint32_t begin = decoder_.position();
+        if (const Result result = read_whole(component, place); result != success)
+            return result;
+        if (ended_)
+            return decoder_.fail(site, code::incorrect_item);
+        if (length == indefinite) {
+            Value *none = nullptr;
+            const Result result = decode(decoder_, row(KOVRA_ASN1_TYPE_END_OF_CONTENTS), none);
+            return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
+        }
+        return decoder_.position() - begin == static_cast<uint32_t>(length)
+                   ? success
+                   : decoder_.fail(site, code::incorrect_length);
+    }
+
+    // The component is decoded from its exact octets, which stay with the record.
+    Result read_signed(const Component &component, Value *&place) {
+        const Site site = at(shape_, component);
+        Extent extent;
+        if (const Result result = walk_element(decoder_, extent); result != success)
+            return decoder_.fail(site, code::decode_any, result);
+        if (!is_indefinite() && consumed() > static_cast<uint32_t>(length_))
+            return decoder_.fail(site, code::incorrect_length);
+        kept_of(record_)[1] = decoder_.octets_from(extent.start);
+        const Decoder::Window window(decoder_, decoder_.position());
+        decoder_.rewind(extent.start);
+        return read_whole(component, place);
+    }
+
+    Result finish() {
+        const Site site = in(shape_);
+        if (identifier_read_) {
+            if (!is_indefinite() || !identifier_.is_end_of_contents())
+                return decoder_.fail(site, code::incorrect_item);
+            const Result result = read_end_of_contents_length(decoder_, site);
+            return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
+        }
+        if (!is_indefinite())
+            return consumed() == static_cast<uint32_t>(length_) ? success
+                                                                : decoder_.fail(site, code::incorrect_length);
+        Value *none = nullptr;
+        const Result result = decode(decoder_, row(KOVRA_ASN1_TYPE_END_OF_CONTENTS), none);
+        return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
+    }
+
+    Decoder &decoder_;
+    const Structure &shape_;
+    Record &record_;
+    uint32_t begin_;
+    int32_t length_;
+    Identifier identifier_;
+    uint32_t identifier_start_ = 0;
+    bool identifier_read_ = false; // an identifier was read that no component has taken yet
+    bool ended_ = false;           // the end-of-contents octets were read in place of a component
+};
+
+Result decode_structure_content(Decoder &decoder, const Type &type, Element element, Value *&out) {
+    const Structure &shape = shape_of(type);
+    if (const Result result = enter(decoder, in(shape)); result != success)
+        return result;
+    if (element.form == Form::primitive)
+        return decoder.fail(in(shape), code::form_error);
+    if (element.length < indefinite)
+        return decoder.fail(in(shape), code::bad_argument);
+    Record *record = new_record_of(decoder.arena(), *shape.shape());
+    if (record == nullptr)
+        return decoder.fail(in(shape), code::no_memory);
+    if (const Result result = Reader(decoder, shape, element, *record).read(); result != success)
+        return result;
+    if (shape.allows != nullptr && !shape.allows(*record))
+        return decoder.fail(in(shape), shape.refusal);
+    out = record;
+    return success;
+}
+
+// A structure that keeps its encoding: the octets from its identifier on.
+Result decode_kept_content(Decoder &decoder, const Type &type, Element element, Value *&out) {
+    if (const Result result = decode_structure_content(decoder, type, element, out); result != success)
+        return result;
+    if (element.start != Element::no_start)
+        *kept_of(*static_cast<Record *>(out)) = decoder.octets_from(element.start);
+    return success;
+}
+
+Result decode_kept(Decoder &decoder, const Type &type, Value *&out) {
+    const Structure &shape = shape_of(type);
+    Extent extent;
+    if (const Result result = walk_element(decoder, extent); result != success)
+        return decoder.fail(in(shape), code::decode_any, result);
+    if (!extent.identifier.is(Class::universal, type.tag) || extent.identifier.form != Form::constructed)
+        return decoder.fail(in(shape), code::incorrect_item);
+    const Decoder::Window window(decoder, decoder.position());
+    decoder.rewind(extent.content);
+    return decode_kept_content(decoder, type, {extent.identifier.form, extent.length, extent.start}, out);
+}
+
+bool holds_structure(const Type &type, const Value &value) {
+    return value.kind == Kind::record && static_cast<const Record &>(value).shape == shape_of(type).shape();
+}
+
+size_t structure_reserve(size_t octets) { return 512 + 4 * octets; }
+
+Value *make_zero(Arena &arena) {
+    static constexpr uint8_t zero = 0;
+    auto *integer = new_record<Integer>(arena);
+    if (integer != nullptr)
+        integer->octets = {&zero, 0, 1};
+    return integer;
+}
+bool is_zero(const Value &value) {
+    int32_t number = 0;
+    return kovra_asn1_integer_getlong(&value, &number) == 1 && number == 0;
+}
+
+Value *make_boolean(Arena &arena, uint32_t word) {
+    auto *boolean = new_record<Boolean>(arena);
+    if (boolean != nullptr)
+        boolean->word = word;
+    return boolean;
+}
+Value *make_false(Arena &arena) { return make_boolean(arena, 0); }
+Value *make_true(Arena &arena) { return make_boolean(arena, 255); }
+bool is_false(const Value &value) { return kovra_asn1_boolean_istrue(&value) == 0; }
+bool is_true(const Value &value) { return kovra_asn1_boolean_istrue(&value) == 1; }
+
+} // namespace
+
+constexpr Default default_zero = {make_zero, is_zero};
+constexpr Default default_false = {make_false, is_false};
+constexpr Default default_true = {make_true, is_true};
+
+constexpr Operations structure_operations = {
+    .holds = holds_structure,
+    .content_length = structure_content_length,
+    .encode_content = encode_structure_content,
+    .decode_content = decode_structure_content,
+    .records_reserve = structure_reserve,
+};
+
+constexpr Operations kept_structure_operations = {
+    .holds = holds_structure,
+    .content_length = structure_content_length,
+    .length = kept_length,
+    .encode_content = encode_structure_content,
+    .encode = encode_kept,
+    .decode_content = decode_kept_content,
+    .decode = decode_kept,
+    .records_reserve = structure_reserve,
+};
+
+Record *new_structure(const Structure &shape) {
+    const Structure &own = *shape.shape();
+    Arena *arena = Arena::create(sizeof(Record) + own.count * sizeof(Value *) + 2 * sizeof(Octets));
+    if (arena == nullptr)
+        return nullptr;
+    Record *record = new_record_of(*arena, own);
+    if (record == nullptr)
+        Arena::destroy(arena);
+    else
+        arena->root = record;
+    return record;
+}
+
+bool store(Record &record, uint8_t slot, Value *value) {
+    if (value == nullptr || !record.arena->adopt(value))
+        return false;
+    record.slots[slot] = value;
+    return true;
+}
+
+bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value) {
+    const Component &component = record.shape->components[slot];
+    if (value == nullptr) {
+        if (component.presence != Presence::defaulted)
+            return component.presence == Presence::optional;
+        record.slots[slot] = component.fallback->make(*record.arena);
+        return record.slots[slot] != nullptr;
+    }
+    Value *copy = duplicate(row(component.type), static_cast<const Value *>(value), nullptr);
+    if (copy == nullptr)
+        return false;
+    return store(record, slot, copy);
+}
+
+Record *as_record(const Structure &shape, const kovra_asn1_value *handle) {
+    auto *record = as<Record>(const_cast<kovra_asn1_value *>(handle));
+    return record != nullptr && record->shape == shape.shape() ? record : nullptr;
+}
+
+Value *component(const Structure &shape, const kovra_asn1_value *handle, uint8_t slot) {
+    const Record *record = as_record(shape, handle);
+    return record != nullptr ? record->slots[slot] : nullptr;
+}
+
+Octets &kept_encoding(Record &record) { return kept_of(record)[0]; }
+Octets &kept_signed_octets(Record &record) { return kept_of(record)[1]; }
+void drop_kept_encoding(Record &record) { kept_of(record)[0] = {}; }
+
+Result signed_octets(Record &record, const uint8_t *&out, uint32_t &out_length) {
+    const Structure &shape = *record.shape;
+    Octets &kept = kept_of(record)[1];
+    if (!is_kept(kept)) {
+        Encoder encoder(static_cast<kovra_err_ctx *>(nullptr));
+        const Component &first = shape.components[shape.signed_slot];
+        const Result result = encode_signed(encoder, at(shape, first), first, record, shape.signed_slot);
+        if (result != success)
+            return result;
+    }
+    out = kept.data(*record.arena);
+    out_length = kept.length;
+    return success;
+}
+
+} // namespace kovra::asn1
