@@ -3,6 +3,7 @@
 #include "core/any.hpp"
 
 #include <cstring>
+#include <initializer_list>
 
 #include "core/content.hpp"
 #include "core/descriptors.hpp"

@@ -67,7 +67,7 @@ public:
         record(ctx_, site, code);
         return result;
     }
-    [[nodiscard]] int64_t count() const { return count_; }
+    [[nodiscard]] int64_t position() const { return count_; }
 
 private:
     kovra_stream *stream_;

@@ -66,7 +66,7 @@ int32_t kovra_asn1_decode_identifier(kovra_stream *stream, uint32_t *out_class, 
     *out_form = static_cast<int32_t>(identifier.form);
     *out_tag = identifier.tag;
     if (out_read != nullptr)
-        *out_read = static_cast<int32_t>(source.count());
+        *out_read = static_cast<int32_t>(source.position());
     return success;
 }
 
@@ -78,7 +78,7 @@ int32_t kovra_asn1_decode_length(kovra_stream *stream, int32_t *out_length, int3
     if (const Result result = read_length(source, lib(), *out_length); result != success)
         return result;
     if (out_read != nullptr)
-        *out_read = static_cast<int32_t>(source.count());
+        *out_read = static_cast<int32_t>(source.position());
     return success;
 }
 
@@ -89,6 +89,6 @@ int32_t kovra_asn1_decode_eoc_length(kovra_stream *stream, int32_t *out_read, ko
     if (const Result result = read_end_of_contents_length(source, lib()); result != success)
         return result;
     if (out_read != nullptr)
-        *out_read = static_cast<int32_t>(source.count());
+        *out_read = static_cast<int32_t>(source.position());
     return success;
 }

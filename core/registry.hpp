@@ -18,25 +18,25 @@ enum class Measure : uint8_t { fresh, known };
 // A null `value` is the absence of one.
 struct Operations {
     // Is this a record that the type's operations work on?
-    bool (*holds)(const Type &, const Value &);
+    bool (*holds)(const Type &, const Value &) = nullptr;
     // Content octets; indefinite when that is how the content will be written; unknown when it cannot be told.
-    int32_t (*content_length)(const Type &, Value *, Measure);
+    int32_t (*content_length)(const Type &, Value *, Measure) = nullptr;
     // Octets of identifier, length and content. Null: computed from the content length.
-    int32_t (*length)(const Type &, Value *, Measure);
+    int32_t (*length)(const Type &, Value *, Measure) = nullptr;
     // Writes the content, `length` being what measuring gave (indefinite: with its end-of-contents).
-    Result (*encode_content)(Encoder &, const Type &, Value *, int32_t length);
+    Result (*encode_content)(Encoder &, const Type &, Value *, int32_t length) = nullptr;
     // Writes the whole value. Null: universal identifier, length, content.
-    Result (*encode)(Encoder &, const Type &, Value *);
+    Result (*encode)(Encoder &, const Type &, Value *) = nullptr;
     // Reads the content of an element.
-    Result (*decode_content)(Decoder &, const Type &, Element, Value *&out);
+    Result (*decode_content)(Decoder &, const Type &, Element, Value *&out) = nullptr;
     // Reads a whole value. Null: the identifier must be the row's.
-    Result (*decode)(Decoder &, const Type &, Value *&out);
+    Result (*decode)(Decoder &, const Type &, Value *&out) = nullptr;
     // Can a value begin with this identifier? Null: it must be the row's.
-    bool (*begins)(const Type &, const Identifier &);
+    bool (*begins)(const Type &, const Identifier &) = nullptr;
     // Reads the content behind an identifier that the value can begin with. Null: `decode_content`.
-    Result (*decode_begun)(Decoder &, const Type &, const Identifier &, Element, Value *&out);
+    Result (*decode_begun)(Decoder &, const Type &, const Identifier &, Element, Value *&out) = nullptr;
     // Octets of records to make room for when this many octets are to be decoded.
-    size_t (*records_reserve)(size_t octets);
+    size_t (*records_reserve)(size_t octets) = nullptr;
 };
 
 // A row of the registry.

@@ -37,7 +37,7 @@ bool is_written(const Component &component, const Value *value) {
 }
 
 Record *new_record_of(Arena &arena, const Structure &shape) {
-    const size_t size = offsetof(Record, slots) + shape.count * sizeof(Value *) + 2 * sizeof(Octets);
+    const size_t size = sizeof(Record) - sizeof(Record::slots) + shape.count * sizeof(Value *) + 2 * sizeof(Octets);
     auto *record = new_record<Record>(arena, size);
     if (record != nullptr)
         record->shape = &shape;

@@ -1,0 +1,308 @@
+// BIT STRING (X.690, 8.6 and 11.2). Bit 0 is the most significant bit of the first octet.
+
+#include "kovra/asn1_bitstring.h"
+
+#include <algorithm>
+
+#include "core/content.hpp"
+#include "core/descriptors.hpp"
+#include "core/registry.hpp"
+#include "types/segments.hpp"
+
+namespace kovra::asn1 {
+
+namespace {
+
+Site here(int32_t line = __builtin_LINE()) { return {"ASN1_BitString", line}; }
+
+constexpr int32_t segment = 8192;
+
+int32_t bit_string_content_length(const Type &, Value *value, Measure) {
+    if (value == nullptr)
+        return unknown;
+    const int32_t length = size_of(static_cast<const BitString *>(value)->content);
+    return length < 0 ? length : length < max_length ? length + 1 : unknown;
+}
+
+Result write_segment(Encoder &encoder, uint8_t unused_bits, const uint8_t *octets, int32_t length) {
+    Result result = encoder.identifier(here(), Class::universal, Form::primitive, tag::bit_string);
+    if (result != success)
+        return encoder.fail(here(), code::write_identifier, result);
+    if (result = encoder.length(here(), length + 1); result != success)
+        return encoder.fail(here(), code::write_length, result);
+    result = encoder.put(here(), &unused_bits, 1);
+    return result == success ? encoder.put(here(), octets, static_cast<size_t>(length)) : result;
+}
+
+// A stream of unknown length, as segments; one piece is held back because only the last segment has unused bits.
+Result write_segments(Encoder &encoder, kovra_stream *stream, uint8_t unused_bits) {
+    if (kovra_stream_ctrl(stream, KOVRA_STREAM_REWIND, 0, nullptr) != success)
+        return encoder.fail(here(), code::stream_control);
+    uint8_t octets[2][segment];
+    int32_t held = 0;
+    for (int current = 0;; current ^= 1) {
+        int32_t got = 0;
+        Result result = kovra_stream_read(stream, octets[current], segment, &got, encoder.ctx());
+        if (result != success)
+            return result;
+        if (held > 0)
+            if (result = write_segment(encoder, got > 0 ? 0 : unused_bits, octets[current ^ 1], held);
+                result != success)
+                return result;
+        if (got <= 0)
+            break;
+        held = got;
+    }
+    if (kovra_stream_ctrl(stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) != success)
+        return encoder.fail(here(), code::stream_control);
+    const Result result = encoder.end_of_contents(here());
+    return result == success ? success : encoder.fail(here(), code::write_end_of_contents, result);
+}
+
+Result encode_bit_string_content(Encoder &encoder, const Type &, Value *value, int32_t length) {
+    const auto *bits = static_cast<const BitString *>(value);
+    if (!encoder.has_stream() || bits == nullptr)
+        return encoder.fail(here(), code::null_argument);
+    const auto unused_bits = static_cast<uint8_t>(bits->unused_bits);
+    if (length == indefinite) {
+        if (bits->content.stream != nullptr)
+            return write_segments(encoder, bits->content.stream, unused_bits);
+        const Result result = write_segment(encoder, unused_bits, bits->content.octets.data(*bits->arena),
+                                            static_cast<int32_t>(bits->content.octets.length));
+        return result == success ? encoder.end_of_contents(here()) : result;
+    }
+    if (length < 1)
+        return encoder.fail(here(), code::bad_argument);
+    int64_t copied = 0;
+    Result result = encoder.put(here(), &unused_bits, 1);
+    if (result == success)
+        result = put_content(encoder, here(), bits->content, *bits->arena, copied);
+    if (result != success)
+        return result;
+    return copied == length - 1 ? success : encoder.fail(here(), code::short_copy);
+}
+
+Result encode_bit_string(Encoder &encoder, const Type &type, Value *value) {
+    const int32_t length = bit_string_content_length(type, value, Measure::fresh);
+    if (length == unknown)
+        return encoder.fail(here(), code::bad_length);
+    const Form form = length == indefinite ? Form::constructed : Form::primitive;
+    Result result = encoder.identifier(here(), Class::universal, form, tag::bit_string);
+    if (result != success)
+        return result;
+    if (result = encoder.length(here(), length); result != success)
+        return encoder.fail(here(), code::write_length, result);
+    return encode_bit_string_content(encoder, type, value, length);
+}
+
+Result decode_bit_string_content(Decoder &decoder, const Type &, Element element, Value *&out) {
+    if (const Result result = enter(decoder, here()); result != success)
+        return result;
+    auto *bits = new_record<BitString>(decoder.arena());
+    if (bits == nullptr)
+        return decoder.fail(here(), code::no_memory);
+    const Result result = decode_segments<true>(decoder, here(), element, bits->content, bits->unused_bits);
+    if (result == success)
+        out = bits;
+    return result;
+}
+
+Result decode_bit_string(Decoder &decoder, const Type &type, Value *&out) {
+    Identifier identifier;
+    int32_t length = 0;
+    const Result result = read_segment(decoder, here(), tag::bit_string, identifier, length);
+    if (result != success)
+        return result;
+    if (identifier.is_end_of_contents())
+        return decoder.fail(here(), code::decode_bit_string);
+    return decode_bit_string_content(decoder, type, {identifier.form, length}, out);
+}
+
+Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE()) {
+    record(ctx, here(line), code);
+    return failure;
+}
+
+Result decode_into(StreamSource &source, kovra_stream *content_stream, Element element,
+                   kovra_asn1_value **out_bitstring, kovra_err_ctx *ctx) {
+    auto *bits = new_root<BitString>();
+    if (bits == nullptr)
+        return refuse(ctx, code::no_memory);
+    const auto copy = [&](uint32_t count) { return source.copy(here(), count, content_stream); };
+    const Result result = SegmentWalk<true>::run(source, here(), element, copy, bits->unused_bits);
+    if (result != success) {
+        Arena::destroy(bits->arena);
+        return result;
+    }
+    bits->content.stream = content_stream;
+    *out_bitstring = bits;
+    return success;
+}
+
+} // namespace
+
+constexpr Operations bit_string_operations = {
+    .holds = holds_kind<BitString>,
+    .content_length = bit_string_content_length,
+    .encode_content = encode_bit_string_content,
+    .encode = encode_bit_string,
+    .decode_content = decode_bit_string_content,
+    .decode = decode_bit_string,
+    .records_reserve = leaf_reserve<2 * sizeof(BitString)>,
+};
+
+} // namespace kovra::asn1
+
+using namespace kovra::asn1;
+
+kovra_asn1_value *kovra_asn1_bitstring_new(int32_t unused_bits, const void *data, int32_t length) noexcept {
+    if (length < 0 || unused_bits < 0 || unused_bits > 7 || (data == nullptr && length > 0) ||
+        (unused_bits != 0 && length == 0))
+        return nullptr;
+    auto *bits = new_with_content<BitString>(data, static_cast<uint32_t>(length));
+    if (bits == nullptr)
+        return nullptr;
+    bits->unused_bits = static_cast<uint32_t>(unused_bits);
+    if (unused_bits != 0)
+        const_cast<uint8_t *>(bits->content.octets.memory)[length - 1] &= static_cast<uint8_t>(0xFF << unused_bits);
+    return bits;
+}
+
+kovra_asn1_value *kovra_asn1_bitstring_newbits(const int32_t *positions, int32_t count) noexcept {
+    if (count < 0)
+        return nullptr;
+    if (positions == nullptr)
+        return kovra_asn1_bitstring_new(0, nullptr, 0);
+    // The first position counts even when the count is 0.
+    const int32_t *end = positions + std::max(count, 1);
+    if (std::any_of(positions, end, [](int32_t position) { return position < 0; }))
+        return nullptr;
+    const int32_t highest = *std::max_element(positions, end);
+    const auto length = static_cast<uint32_t>(highest / 8 + 1);
+    auto *bits = new_root<BitString>(length);
+    auto *octets = bits != nullptr ? static_cast<uint8_t *>(bits->arena->allocate(length)) : nullptr;
+    if (octets == nullptr) {
+        if (bits != nullptr)
+            Arena::destroy(bits->arena);
+        return nullptr;
+    }
+    std::fill_n(octets, length, uint8_t{0});
+    for (const int32_t *position = positions; position != end; ++position)
+        octets[*position / 8] |= static_cast<uint8_t>(0x80 >> (*position % 8));
+    bits->content.octets = {octets, 0, length};
+    bits->unused_bits = static_cast<uint32_t>(7 - highest % 8);
+    return bits;
+}
+
+kovra_asn1_value *kovra_asn1_bitstring_newbitset(const kovra_bitset *set) noexcept {
+    int32_t unused_bits = 0;
+    kovra_data_blob *octets = set != nullptr ? kovra_bitset_getdata(set, &unused_bits) : nullptr;
+    if (octets == nullptr)
+        return nullptr;
+    kovra_asn1_value *bits =
+        kovra_asn1_bitstring_new(unused_bits, kovra_data_blob_getdata(octets), kovra_data_blob_getlength(octets));
+    kovra_data_blob_free(octets);
+    return bits;
+}
+
+kovra_bitset *kovra_asn1_bitstring_getbitset(kovra_asn1_value *bitstring) noexcept {
+    const auto *bits = as<BitString>(bitstring);
+    const int32_t length = kovra_asn1_bitstring_getlength(bitstring);
+    if (length < 0)
+        return nullptr;
+    const auto unused_bits = static_cast<int32_t>(bits->unused_bits);
+    if (length == 0)
+        return unused_bits == 0 ? kovra_bitset_empty() : nullptr;
+    if (bits->content.stream == nullptr)
+        return kovra_bitset_new(unused_bits, bits->content.octets.data(*bits->arena), length);
+    void *copy = kovra_malloc(static_cast<size_t>(length), "ASN1_BitString", __LINE__);
+    if (copy == nullptr)
+        return nullptr;
+    kovra_bitset *set =
+        copy_out(bits->content, *bits->arena, copy) ? kovra_bitset_new(unused_bits, copy, length) : nullptr;
+    kovra_free(copy);
+    return set;
+}
+
+int32_t kovra_asn1_bitstring_getlength(const kovra_asn1_value *bitstring) noexcept {
+    const auto *bits = as<BitString>(bitstring);
+    return bits != nullptr ? size_of(bits->content) : unknown;
+}
+
+int32_t kovra_asn1_bitstring_getunusedbits(const kovra_asn1_value *bitstring) noexcept {
+    const auto *bits = as<BitString>(bitstring);
+    return bits != nullptr ? static_cast<int32_t>(bits->unused_bits) : 0;
+}
+
+int32_t kovra_asn1_bitstring_getbit(kovra_asn1_value *bitstring, int32_t bit) noexcept {
+    const auto *bits = as<BitString>(bitstring);
+    const int64_t length = kovra_asn1_bitstring_getlength(bitstring);
+    if (bits == nullptr || bit < 0 || bit >= length * 8 - bits->unused_bits)
+        return 0;
+    uint8_t octet = 0;
+    if (bits->content.stream == nullptr) {
+        octet = bits->content.octets.data(*bits->arena)[bit / 8];
+    } else if (kovra_stream_ctrl(bits->content.stream, KOVRA_STREAM_SEEK, bit / 8, nullptr) != success ||
+               kovra_stream_readn(bits->content.stream, &octet, 1, nullptr, nullptr) != success) {
+        return 0;
+    }
+    return (octet & 0x80 >> bit % 8) != 0 ? 1 : 0;
+}
+
+int32_t kovra_asn1_bitstring_getall(kovra_asn1_value *bitstring, void *buffer) noexcept {
+    const auto *bits = as<BitString>(bitstring);
+    return bits != nullptr && buffer != nullptr && copy_out(bits->content, *bits->arena, buffer) ? 1 : 0;
+}
+
+int32_t kovra_asn1_bitstring_get(kovra_asn1_value *bitstring, int32_t mode, void *buffer, int32_t size,
+                                 int32_t *out_count, kovra_err_ctx *ctx) noexcept {
+    auto *bits = as<BitString>(bitstring);
+    if (bits == nullptr || buffer == nullptr)
+        return refuse(ctx, code::null_argument);
+    return read_piece(bits->content, *bits->arena, here(), mode, buffer, size, out_count, ctx);
+}
+
+int32_t kovra_asn1_bitstring_getobject(kovra_asn1_value *bitstring, uint32_t type, kovra_asn1_value **out_value,
+                                       kovra_err_ctx *ctx) noexcept {
+    auto *bits = as<BitString>(bitstring);
+    if (bits == nullptr || out_value == nullptr)
+        return refuse(ctx, code::null_argument);
+    if (type >= type_count)
+        return refuse(ctx, code::unsupported_type);
+    return decode_from(bits->content, *bits->arena, here(), row(type), nullptr, out_value, ctx);
+}
+
+int32_t kovra_asn1_decode_bitstring_ex(kovra_stream *stream, kovra_stream *content_stream,
+                                       kovra_asn1_value **out_bitstring, int32_t *out_read,
+                                       kovra_err_ctx *ctx) noexcept {
+    if (out_bitstring != nullptr)
+        *out_bitstring = nullptr;
+    if (stream == nullptr || content_stream == nullptr || out_bitstring == nullptr)
+        return refuse(ctx, code::null_argument);
+    StreamSource source(stream, ctx);
+    Identifier identifier;
+    int32_t length = 0;
+    Result result = read_segment(source, here(), tag::bit_string, identifier, length);
+    if (result == success && identifier.is_end_of_contents())
+        result = refuse(ctx, code::decode_bit_string);
+    if (result == success)
+        result = decode_into(source, content_stream, {identifier.form, length}, out_bitstring, ctx);
+    if (result == success && out_read != nullptr)
+        *out_read = static_cast<int32_t>(source.position());
+    return result;
+}
+
+int32_t kovra_asn1_decode_bitstring_content_ex(kovra_stream *stream, kovra_stream *content_stream,
+                                               kovra_asn1_value **out_bitstring, int32_t form, int32_t length,
+                                               int32_t *out_read, kovra_err_ctx *ctx) noexcept {
+    if (out_bitstring != nullptr)
+        *out_bitstring = nullptr;
+    if (stream == nullptr || content_stream == nullptr || out_bitstring == nullptr)
+        return refuse(ctx, code::null_argument);
+    StreamSource source(stream, ctx);
+    const Element element{form == 0 ? Form::constructed : Form::primitive, length};
+    const Result result = decode_into(source, content_stream, element, out_bitstring, ctx);
+    if (result == success && out_read != nullptr)
+        *out_read = static_cast<int32_t>(source.position());
+    return result;
+}

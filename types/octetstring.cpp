@@ -1,0 +1,325 @@
+// OCTET STRING (X.690, 8.7) and the character strings (8.23), whose contents are octets just as they are.
+
+#include "kovra/asn1_octetstring.h"
+
+#include "core/content.hpp"
+#include "core/descriptors.hpp"
+#include "core/registry.hpp"
+#include "kovra/asn1_types.h"
+#include "types/segments.hpp"
+
+namespace kovra::asn1 {
+
+namespace {
+
+Site here(int32_t line = __builtin_LINE()) { return {"ASN1_OctetString", line}; }
+
+// Contents of this many octets that are not in memory are written in segments.
+constexpr int64_t segmented_from = 0x500000;
+constexpr int32_t segment = 8192;
+
+int32_t string_length(const String *string) {
+    if (string == nullptr)
+        return unknown;
+    kovra_stream *stream = string->content.stream;
+    if (stream == nullptr)
+        return static_cast<int32_t>(string->content.octets.length);
+    const int64_t size = kovra_stream_ctrl(stream, KOVRA_STREAM_SIZE, 0, nullptr);
+    if (size < 0)
+        return unknown;
+    if (kovra_stream_gettype(stream) == KOVRA_STREAM_MEMORY)
+        return size <= max_length ? static_cast<int32_t>(size) : unknown;
+    return size < segmented_from ? static_cast<int32_t>(size) : indefinite;
+}
+
+int32_t string_content_length(const Type &, Value *value, Measure) {
+    return string_length(static_cast<const String *>(value));
+}
+
+Result write_segment(Encoder &encoder, const uint8_t *octets, int32_t length) {
+    Result result = encoder.identifier(here(), Class::universal, Form::primitive, tag::octet_string);
+    if (result == success)
+        result = encoder.length(here(), length);
+    if (result != success)
+        return encoder.fail(here(), code::write_identifier, result);
+    return encoder.put(here(), octets, static_cast<size_t>(length));
+}
+
+// A stream of any length, as the segments of a constructed string.
+Result write_segments(Encoder &encoder, kovra_stream *stream) {
+    if (kovra_stream_ctrl(stream, KOVRA_STREAM_REWIND, 0, nullptr) != success)
+        return encoder.fail(here(), code::stream_control);
+    for (;;) {
+        uint8_t octets[segment];
+        int32_t got = 0;
+        if (const Result result = kovra_stream_read(stream, octets, segment, &got, encoder.ctx()); result != success)
+            return result;
+        if (got <= 0)
+            break;
+        if (const Result result = write_segment(encoder, octets, got); result != success)
+            return result;
+    }
+    if (kovra_stream_ctrl(stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) != success)
+        return encoder.fail(here(), code::stream_control);
+    const Result result = encoder.end_of_contents(here());
+    return result == success ? success : encoder.fail(here(), code::write_end_of_contents, result);
+}
+
+Result encode_string_content(Encoder &encoder, const Type &, Value *value, int32_t length) {
+    const auto *string = static_cast<const String *>(value);
+    if (!encoder.has_stream() || string == nullptr)
+        return encoder.fail(here(), code::null_argument);
+    if (length == indefinite && string->content.stream != nullptr)
+        return write_segments(encoder, string->content.stream);
+    if (length == indefinite) {
+        const Result result = write_segment(encoder, string->content.octets.data(*string->arena),
+                                            static_cast<int32_t>(string->content.octets.length));
+        return result == success ? encoder.end_of_contents(here()) : result;
+    }
+    if (length < 0)
+        return encoder.fail(here(), code::bad_argument);
+    int64_t copied = 0;
+    if (const Result result = put_content(encoder, here(), string->content, *string->arena, copied); result != success)
+        return result;
+    return copied == length ? success : encoder.fail(here(), code::short_copy);
+}
+
+Form form_of(int32_t length) { return length == indefinite ? Form::constructed : Form::primitive; }
+
+Result encode_octet_string(Encoder &encoder, const Type &type, Value *value) {
+    const int32_t length = string_length(static_cast<const String *>(value));
+    if (length == unknown)
+        return encoder.fail(here(), code::bad_length);
+    Result result = encoder.identifier(here(), Class::universal, form_of(length), tag::octet_string);
+    if (result != success)
+        return result;
+    if (result = encoder.length(here(), length); result != success)
+        return encoder.fail(here(), code::write_length, result);
+    return encode_string_content(encoder, type, value, length);
+}
+
+// The codes are those of other failures: this library records them so.
+Result encode_character_string(Encoder &encoder, const Type &type, Value *value) {
+    const int32_t length = string_length(static_cast<const String *>(value));
+    if (length == unknown)
+        return encoder.fail(here(), code::no_length);
+    Result result = encoder.identifier(here(), Class::universal, form_of(length), type.tag);
+    if (result != success)
+        return encoder.fail(here(), code::write_identifier, result);
+    if (result = encoder.length(here(), length); result != success)
+        return encoder.fail(here(), code::write_length, result);
+    return encode_string_content(encoder, type, value, length);
+}
+
+Result decode_string_content(Decoder &decoder, const Type &, Element element, Value *&out) {
+    if (const Result result = enter(decoder, here()); result != success)
+        return result;
+    auto *string = new_record<String>(decoder.arena());
+    if (string == nullptr)
+        return decoder.fail(here(), code::no_memory);
+    uint32_t unused_bits = 0;
+    const Result result = decode_segments<false>(decoder, here(), element, string->content, unused_bits);
+    if (result == success)
+        out = string;
+    return result;
+}
+
+Result decode_octet_string(Decoder &decoder, const Type &type, Value *&out) {
+    Identifier identifier;
+    int32_t length = 0;
+    const Result result = read_segment(decoder, here(), tag::octet_string, identifier, length);
+    if (result != success)
+        return result;
+    if (identifier.is_end_of_contents())
+        return decoder.fail(here(), code::decode_octet_string);
+    return decode_string_content(decoder, type, {identifier.form, length}, out);
+}
+
+// A string without a tag of its own can only be written and read under the tag of its holder.
+Result refuse_encode(Encoder &encoder, const Type &, Value *) {
+    return encoder.fail(here(), code::unsupported_encode);
+}
+Result refuse_decode(Decoder &decoder, const Type &, Value *&) {
+    return decoder.fail(here(), code::unsupported_decode);
+}
+
+Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE()) {
+    record(ctx, here(line), code);
+    return failure;
+}
+
+// Appends the content octets of a string whose identifier and length were read to a stream that the record then uses.
+Result decode_into(StreamSource &source, kovra_stream *content_stream, Element element, kovra_asn1_value **out_string,
+                   kovra_err_ctx *ctx) {
+    auto *string = new_root<String>();
+    if (string == nullptr)
+        return refuse(ctx, code::no_memory);
+    const auto copy = [&](uint32_t count) { return source.copy(here(), count, content_stream); };
+    uint32_t unused_bits = 0;
+    const Result result = SegmentWalk<false>::run(source, here(), element, copy, unused_bits);
+    if (result != success) {
+        Arena::destroy(string->arena);
+        return result;
+    }
+    string->content.stream = content_stream;
+    *out_string = string;
+    return success;
+}
+
+} // namespace
+
+constexpr Operations octet_string_operations = {
+    .holds = holds_kind<String>,
+    .content_length = string_content_length,
+    .encode_content = encode_string_content,
+    .encode = encode_octet_string,
+    .decode_content = decode_string_content,
+    .decode = decode_octet_string,
+    .records_reserve = leaf_reserve<2 * sizeof(String)>,
+};
+
+constexpr Operations character_string_operations = {
+    .holds = holds_kind<String>,
+    .content_length = string_content_length,
+    .encode_content = encode_string_content,
+    .encode = encode_character_string,
+    .decode_content = decode_string_content,
+    .records_reserve = leaf_reserve<2 * sizeof(String)>,
+};
+
+constexpr Operations untagged_string_operations = {
+    .holds = holds_kind<String>,
+    .content_length = string_content_length,
+    .encode_content = encode_string_content,
+    .encode = refuse_encode,
+    .decode_content = decode_string_content,
+    .decode = refuse_decode,
+    .records_reserve = leaf_reserve<2 * sizeof(String)>,
+};
+
+} // namespace kovra::asn1
+
+using namespace kovra::asn1;
+
+kovra_asn1_value *kovra_asn1_octetstring_new(const void *data, int32_t length) noexcept {
+    if (length < 0 || (data == nullptr && length > 0))
+        return nullptr;
+    return new_with_content<String>(data, static_cast<uint32_t>(length));
+}
+
+kovra_asn1_value *kovra_asn1_string_new(const void *data, int32_t length) noexcept {
+    return kovra_asn1_octetstring_new(data, length);
+}
+
+kovra_asn1_value *kovra_asn1_octetstring_newstream(kovra_stream *stream) noexcept {
+    if (stream == nullptr)
+        return nullptr;
+    auto *string = new_root<String>();
+    if (string != nullptr)
+        string->content.stream = stream;
+    return string;
+}
+
+int32_t kovra_asn1_octetstring_getlength(const kovra_asn1_value *string) noexcept {
+    return string_length(as<String>(string));
+}
+
+int32_t kovra_asn1_string_getlength(const kovra_asn1_value *string) noexcept {
+    return string_length(as<String>(string));
+}
+
+int32_t kovra_asn1_octetstring_getall(kovra_asn1_value *string, void *buffer) noexcept {
+    const auto *record = as<String>(string);
+    return record != nullptr && buffer != nullptr && copy_out(record->content, *record->arena, buffer) ? 1 : 0;
+}
+
+int32_t kovra_asn1_string_get(kovra_asn1_value *string, void *buffer) noexcept {
+    return kovra_asn1_octetstring_getall(string, buffer);
+}
+
+kovra_data_blob *kovra_asn1_octetstring_getblob(kovra_asn1_value *string) noexcept {
+    const auto *record = as<String>(string);
+    const int32_t length = string_length(record);
+    if (length < 0)
+        return nullptr;
+    if (record->content.stream == nullptr)
+        return kovra_data_blob_new(record->content.octets.data(*record->arena), length);
+    void *copy = kovra_malloc(length > 0 ? static_cast<size_t>(length) : 1, "ASN1_OctetString", __LINE__);
+    if (copy == nullptr)
+        return nullptr;
+    kovra_data_blob *blob =
+        copy_out(record->content, *record->arena, copy) ? kovra_data_blob_new(copy, length) : nullptr;
+    kovra_free(copy);
+    return blob;
+}
+
+int32_t kovra_asn1_octetstring_get(kovra_asn1_value *string, int32_t mode, void *buffer, int32_t size,
+                                   int32_t *out_count, kovra_err_ctx *ctx) noexcept {
+    auto *record = as<String>(string);
+    if (record == nullptr || buffer == nullptr)
+        return refuse(ctx, code::null_argument);
+    return read_piece(record->content, *record->arena, here(), mode, buffer, size, out_count, ctx);
+}
+
+int32_t kovra_asn1_octetstring_getobject(kovra_asn1_value *string, uint32_t type, kovra_asn1_value **out_value,
+                                         kovra_err_ctx *ctx) noexcept {
+    auto *record = as<String>(string);
+    if (record == nullptr || out_value == nullptr)
+        return refuse(ctx, code::null_argument);
+    if (type >= type_count)
+        return refuse(ctx, code::unsupported_type);
+    return decode_from(record->content, *record->arena, here(), row(type), nullptr, out_value, ctx);
+}
+
+int32_t kovra_asn1_decode_octetstring_ex(kovra_stream *stream, kovra_stream *content_stream,
+                                         kovra_asn1_value **out_string, int32_t *out_read,
+                                         kovra_err_ctx *ctx) noexcept {
+    if (out_string != nullptr)
+        *out_string = nullptr;
+    if (stream == nullptr || content_stream == nullptr || out_string == nullptr)
+        return refuse(ctx, code::null_argument);
+    StreamSource source(stream, ctx);
+    Identifier identifier;
+    int32_t length = 0;
+    Result result = read_segment(source, here(), tag::octet_string, identifier, length);
+    if (result == success && identifier.is_end_of_contents())
+        result = refuse(ctx, code::decode_octet_string);
+    if (result == success)
+        result = decode_into(source, content_stream, {identifier.form, length}, out_string, ctx);
+    if (result == success && out_read != nullptr)
+        *out_read = static_cast<int32_t>(source.position());
+    return result;
+}
+
+int32_t kovra_asn1_decode_octetstring_content_ex(kovra_stream *stream, kovra_stream *content_stream,
+                                                 kovra_asn1_value **out_string, int32_t form, int32_t length,
+                                                 int32_t *out_read, kovra_err_ctx *ctx) noexcept {
+    if (out_string != nullptr)
+        *out_string = nullptr;
+    if (stream == nullptr || content_stream == nullptr || out_string == nullptr)
+        return refuse(ctx, code::null_argument);
+    StreamSource source(stream, ctx);
+    const Element element{form == 0 ? Form::constructed : Form::primitive, length};
+    const Result result = decode_into(source, content_stream, element, out_string, ctx);
+    if (result == success && out_read != nullptr)
+        *out_read = static_cast<int32_t>(source.position());
+    return result;
+}
+
+int32_t kovra_asn1_encode_octetstring_init(kovra_stream *stream) noexcept {
+    static constexpr uint8_t octets[] = {0x20 | tag::octet_string, 0x80};
+    return kovra_stream_writen(stream, octets, sizeof octets, nullptr, nullptr);
+}
+
+int32_t kovra_asn1_encode_octetstring_update(kovra_stream *stream, const void *data, int32_t length) noexcept {
+    if (length < 0 || (data == nullptr && length > 0))
+        return failure;
+    Encoder encoder(stream, nullptr);
+    const Result result = write_segment(encoder, static_cast<const uint8_t *>(data), length);
+    return result == success ? encoder.flush() : result;
+}
+
+int32_t kovra_asn1_encode_octetstring_end(kovra_stream *stream) noexcept {
+    static constexpr uint8_t octets[] = {0x00, 0x00};
+    return kovra_stream_writen(stream, octets, sizeof octets, nullptr, nullptr);
+}

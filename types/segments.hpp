@@ -1,0 +1,173 @@
+// The content of OCTET STRING and BIT STRING (X.690, 8.6 and 8.7): primitive, or constructed of segments that may
+// themselves be constructed, as deep as the input likes.
+#pragma once
+
+#include <cstdint>
+
+#include "core/codes.hpp"
+#include "core/decoder.hpp"
+#include "core/failure.hpp"
+#include "core/octets.hpp"
+#include "kovra/util_memory.h"
+
+namespace kovra::asn1 {
+
+// The constructed strings that are open while their segments are read.
+class OpenStrings {
+public:
+    static constexpr int64_t until_end_of_contents = -1;
+    struct Level {
+        int64_t end;         // position behind the last segment, or until_end_of_contents
+        uint32_t unused_bits; // of the last segment of a BIT STRING
+    };
+
+    OpenStrings() = default;
+    ~OpenStrings() {
+        if (levels_ != first_)
+            kovra_free(levels_);
+    }
+    OpenStrings(const OpenStrings &) = delete;
+    OpenStrings &operator=(const OpenStrings &) = delete;
+
+    // False when memory is short.
+    bool open(int64_t end);
+    void close() { --count_; }
+    [[nodiscard]] bool empty() const { return count_ == 0; }
+    [[nodiscard]] Level &top() { return levels_[count_ - 1]; }
+
+private:
+    static constexpr uint32_t first_capacity = 8;
+    Level first_[first_capacity];
+    Level *levels_ = first_;
+    uint32_t count_ = 0;
+    uint32_t capacity_ = first_capacity;
+};
+
+// Reads a segment's identifier and length. An end-of-contents marker that stands there was read to its end.
+template <class Source>
+Result read_segment(Source &source, Site site, int32_t tag, Identifier &identifier, int32_t &length) {
+    if (const Result result = read_identifier(source, site, identifier); result != success)
+        return source.fail(site, code::read_identifier, result);
+    if (identifier.is_end_of_contents()) {
+        uint8_t octet = 0;
+        if (const Result result = source.octet(site, octet); result != success)
+            return source.fail(site, code::read_end_of_contents, result);
+        return octet == 0 ? success : failure;
+    }
+    if (!identifier.is(Class::universal, tag))
+        return source.fail(site, code::incorrect_item);
+    const Result result = read_length(source, site, length);
+    return result == success ? success : source.fail(site, code::read_length, result);
+}
+
+// Walks the content of a string and calls take(length) where content octets stand, which takes that many of them from
+// the source. For a BIT STRING the unused-bits octets are read here, and `unused_bits` tells the last.
+template <bool of_bits> class SegmentWalk {
+public:
+    template <class Source, class Take>
+    static Result run(Source &source, Site site, Element element, Take take, uint32_t &unused_bits) {
+        unused_bits = 0;
+        if (element.form == Form::primitive)
+            return primitive(source, site, element.length, take, unused_bits);
+        if (element.length < indefinite)
+            return source.fail(site, code::bad_length);
+        if (element.length == 0)
+            return success;
+        OpenStrings open;
+        const Result result = constructed(source, site, element.length, take, open, unused_bits);
+        // Each BIT STRING of indefinite length that was open tells that it failed.
+        for (; of_bits && result != success && !open.empty(); open.close())
+            if (open.top().end == OpenStrings::until_end_of_contents)
+                source.fail(site, code::decode_bit_string);
+        return result;
+    }
+
+private:
+    static constexpr int32_t tag = of_bits ? tag::bit_string : tag::octet_string;
+
+    template <class Source, class Take>
+    static Result primitive(Source &source, Site site, int32_t length, Take &take, uint32_t &unused_bits) {
+        if (length == indefinite)
+            return source.fail(site, code::definite_wanted);
+        if (length < (of_bits ? 1 : 0))
+            return source.fail(site, code::bad_length);
+        auto count = static_cast<uint32_t>(length);
+        if constexpr (of_bits) {
+            uint8_t octet = 0;
+            if (const Result result = source.octet(site, octet); result != success)
+                return result;
+            if (octet >= 8 || (octet != 0 && length == 1))
+                return source.fail(site, code::bad_unused_bits);
+            --count;
+            unused_bits = octet;
+        }
+        return take(count);
+    }
+
+    template <class Source, class Take>
+    static Result constructed(Source &source, Site site, int32_t length, Take &take, OpenStrings &open,
+                              uint32_t &unused_bits) {
+        const auto enter = [&](int32_t content) {
+            const int64_t end = content == indefinite ? OpenStrings::until_end_of_contents
+                                                      : static_cast<int64_t>(source.position()) + content;
+            return open.open(end) ? success : source.fail(site, code::no_memory);
+        };
+        if (const Result result = enter(length); result != success)
+            return result;
+        while (!open.empty()) {
+            OpenStrings::Level &level = open.top();
+            const bool is_indefinite = level.end == OpenStrings::until_end_of_contents;
+            Identifier identifier;
+            int32_t segment = 0;
+            uint32_t unused = 0;
+            if (const Result result = read_segment(source, site, tag, identifier, segment); result != success)
+                return result;
+            if (identifier.is_end_of_contents()) {
+                if (!is_indefinite)
+                    return source.fail(site, code::incorrect_item);
+                unused = level.unused_bits;
+                open.close();
+            } else {
+                // Only the last segment may have unused bits.
+                if (is_indefinite && level.unused_bits != 0)
+                    return source.fail(site, code::bad_unused_bits);
+                if (identifier.form == Form::constructed && segment != 0) {
+                    if (const Result result = enter(segment); result != success)
+                        return result;
+                    continue;
+                }
+                if (identifier.form == Form::primitive)
+                    if (const Result result = primitive(source, site, segment, take, unused); result != success)
+                        return result;
+            }
+            if (const Result result = segment_ended(source, site, open, unused); result != success)
+                return result;
+            unused_bits = unused;
+        }
+        return success;
+    }
+
+    // A segment with `unused` bits ended; strings of definite length that end with it are closed.
+    template <class Source>
+    static Result segment_ended(Source &source, Site site, OpenStrings &open, uint32_t &unused) {
+        while (!open.empty()) {
+            OpenStrings::Level &level = open.top();
+            level.unused_bits = unused;
+            if (level.end == OpenStrings::until_end_of_contents)
+                return success;
+            const auto position = static_cast<int64_t>(source.position());
+            if (position > level.end)
+                return source.fail(site, code::bad_length);
+            if (position < level.end)
+                return unused == 0 ? success : source.fail(site, code::bad_unused_bits);
+            open.close();
+        }
+        return success;
+    }
+};
+
+// Decodes the content of a string into a record's content: a slice of the octets, or the segments put together.
+template <bool of_bits>
+Result decode_segments(Decoder &decoder, Site site, Element element, Content &out, uint32_t &unused_bits);
+
+} // namespace kovra::asn1
