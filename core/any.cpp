@@ -14,7 +14,9 @@ namespace kovra::asn1 {
 
 namespace {
 
-Site here(int32_t line = __builtin_LINE()) { return {"ASN1_Any", line}; }
+Site here(int32_t line = __builtin_LINE()) {
+    return {"ASN1_Any", line};
+}
 
 constexpr uint32_t bits(std::initializer_list<int> tags) {
     uint32_t mask = 0;
@@ -145,7 +147,9 @@ Result decode_any(Decoder &decoder, const Type &, Value *&out) {
 }
 
 // An element, or the end-of-contents that stands where one may stand.
-bool any_begins(const Type &, const Identifier &) { return true; }
+bool any_begins(const Type &, const Identifier &) {
+    return true;
+}
 
 // The content, and the octets that stand before it in the same memory, are one piece: the whole element.
 bool is_one_piece(const Any &any) {
@@ -200,8 +204,8 @@ constexpr Operations any_operations = {
 
 using namespace kovra::asn1;
 
-kovra_asn1_value *kovra_asn1_any_new(uint32_t tag_class, int32_t form, int32_t tag, int32_t length,
-                                     const void *content, int32_t content_length) noexcept {
+kovra_asn1_value *kovra_asn1_any_new(uint32_t tag_class, int32_t form, int32_t tag, int32_t length, const void *content,
+                                     int32_t content_length) noexcept {
     const auto *octets = static_cast<const uint8_t *>(content);
     if (content_length < 0 || (octets == nullptr && content_length > 0) || (tag_class & ~0xC0U) != 0 || tag < 0 ||
         length < indefinite)
@@ -285,8 +289,7 @@ int32_t kovra_asn1_any_toobject(kovra_asn1_value *any, uint32_t type, kovra_asn1
     Encoder encoder(ctx);
     Content whole{};
     if (is_one_piece(*element) && !element->end_of_contents &&
-        (element->length == indefinite ||
-         element->content.octets.length == static_cast<uint32_t>(element->length))) {
+        (element->length == indefinite || element->content.octets.length == static_cast<uint32_t>(element->length))) {
         whole.octets = {nullptr, element->header.offset, element->header.length + element->content.octets.length};
     } else {
         if (encode_any(encoder, row(KOVRA_ASN1_TYPE_ANY), element) != success)

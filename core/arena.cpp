@@ -68,7 +68,9 @@ Arena::Block *Arena::resize_block(Block *block, size_t size) {
     return static_cast<Block *>(kovra_realloc(block, sizeof(Block) + size, source, __LINE__));
 }
 
-void Arena::drop_block(Block *block) { kovra_free(block); }
+void Arena::drop_block(Block *block) {
+    kovra_free(block);
+}
 
 void Arena::link(Block *block) {
     block->previous = nullptr;

@@ -9,11 +9,15 @@ namespace kovra::asn1 {
 
 namespace {
 
-Site here(int32_t line = __builtin_LINE()) { return {"ASN1_Boolean", line}; }
+Site here(int32_t line = __builtin_LINE()) {
+    return {"ASN1_Boolean", line};
+}
 
 constexpr uint32_t true_word = 255;
 
-int32_t boolean_content_length(const Type &, Value *, Measure) { return 1; }
+int32_t boolean_content_length(const Type &, Value *, Measure) {
+    return 1;
+}
 
 Result encode_boolean_content(Encoder &encoder, const Type &, Value *value, int32_t length) {
     const auto *boolean = static_cast<const Boolean *>(value);
@@ -52,9 +56,15 @@ Boolean *new_boolean(uint32_t word) {
 
 // NULL and end-of-contents have no record: whatever value comes with them is ignored.
 
-bool holds_anything(const Type &, const Value &) { return true; }
-int32_t no_content_length(const Type &, Value *, Measure) { return 0; }
-int32_t two_octets(const Type &, Value *, Measure) { return 2; }
+bool holds_anything(const Type &, const Value &) {
+    return true;
+}
+int32_t no_content_length(const Type &, Value *, Measure) {
+    return 0;
+}
+int32_t two_octets(const Type &, Value *, Measure) {
+    return 2;
+}
 
 Result encode_null_content(Encoder &encoder, const Type &, Value *, int32_t length) {
     if (!encoder.has_stream())
@@ -145,9 +155,13 @@ constexpr Operations end_of_contents_operations = {
 
 using namespace kovra::asn1;
 
-kovra_asn1_value *kovra_asn1_boolean_true(void) noexcept { return new_boolean(true_word); }
+kovra_asn1_value *kovra_asn1_boolean_true(void) noexcept {
+    return new_boolean(true_word);
+}
 
-kovra_asn1_value *kovra_asn1_boolean_false(void) noexcept { return new_boolean(0); }
+kovra_asn1_value *kovra_asn1_boolean_false(void) noexcept {
+    return new_boolean(0);
+}
 
 int32_t kovra_asn1_boolean_istrue(const kovra_asn1_value *value) noexcept {
     const auto *boolean = as<Boolean>(value);

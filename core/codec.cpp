@@ -8,7 +8,9 @@ namespace kovra::asn1 {
 
 namespace {
 
-Site here(int32_t line = __builtin_LINE()) { return {"ASN1", line}; }
+Site here(int32_t line = __builtin_LINE()) {
+    return {"ASN1", line};
+}
 
 Result encode_generic(Encoder &encoder, const Type &type, Value *value, int32_t content) {
     Result result = success;
@@ -141,7 +143,9 @@ Value *duplicate(const Type &type, const Value *value, kovra_err_ctx *ctx) {
     return convert_with(type, value, type, ctx);
 }
 
-Value *convert(const Type &from, const Value *value, const Type &to) { return convert_with(from, value, to, nullptr); }
+Value *convert(const Type &from, const Value *value, const Type &to) {
+    return convert_with(from, value, to, nullptr);
+}
 
 Result refuse_decode_content(Decoder &decoder, const Type &, Element, Value *&) {
     return decoder.fail(here(), code::unsupported_decode);
@@ -288,4 +292,6 @@ kovra_asn1_value *kovra_asn1_dupobject(uint32_t type, const kovra_asn1_value *va
     return duplicate(row(type), record_of(value), ctx);
 }
 
-const char *kovra_asn1_version(void) noexcept { return "KOVRA ASN.1 Library 1.2.12,Build on 2012"; }
+const char *kovra_asn1_version(void) noexcept {
+    return "KOVRA ASN.1 Library 1.2.12,Build on 2012";
+}

@@ -104,9 +104,10 @@ Result decode_from(Content &content, const Arena &arena, Site site, const Type &
     Decoder decoder(content.stream, ctx);
     const Result result = run(decoder, value);
     decoder.advance_stream();
-    return finish(
-        result,
-        result == success && kovra_stream_ctrl(content.stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) == success, value);
+    return finish(result,
+                  result == success &&
+                      kovra_stream_ctrl(content.stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) == success,
+                  value);
 }
 
 Result StreamSource::copy(Site site, uint32_t count, kovra_stream *destination) {

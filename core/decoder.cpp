@@ -9,7 +9,9 @@ namespace kovra::asn1 {
 
 namespace {
 
-Site here(int32_t line = __builtin_LINE()) { return {"ASN1_Lib", line}; }
+Site here(int32_t line = __builtin_LINE()) {
+    return {"ASN1_Lib", line};
+}
 
 // Arenas of up to this many octets of encoding hold their copy in the same allocation as their records.
 constexpr size_t one_allocation = 16384;
@@ -62,11 +64,12 @@ bool Decoder::pull(uint32_t count) {
             if (arena_ != nullptr)
                 arena_->octets = base_;
         }
-        const auto room = std::min<size_t>({missing, pulled_capacity_ - size_, static_cast<size_t>(max_length - size_)});
+        const auto room =
+            std::min<size_t>({missing, pulled_capacity_ - size_, static_cast<size_t>(max_length - size_)});
         int32_t got = 0;
-        const Result result = room == 0 ? success
-                                        : kovra_stream_read(stream_, pulled_->memory() + size_,
-                                                            static_cast<int32_t>(room), &got, ctx_);
+        const Result result =
+            room == 0 ? success
+                      : kovra_stream_read(stream_, pulled_->memory() + size_, static_cast<int32_t>(room), &got, ctx_);
         if (result != success) {
             stream_result_ = result;
             stream_ = nullptr;

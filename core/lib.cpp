@@ -9,10 +9,11 @@ using namespace kovra::asn1;
 
 namespace {
 
-Site lib(int32_t line = __builtin_LINE()) { return {"ASN1_Lib", line}; }
+Site lib(int32_t line = __builtin_LINE()) {
+    return {"ASN1_Lib", line};
+}
 
-Result write_all(kovra_stream *stream, const uint8_t *octets, int32_t count, int32_t *out_written,
-                 kovra_err_ctx *ctx) {
+Result write_all(kovra_stream *stream, const uint8_t *octets, int32_t count, int32_t *out_written, kovra_err_ctx *ctx) {
     const Result result = kovra_stream_writen(stream, octets, count, nullptr, ctx);
     if (result == success && out_written != nullptr)
         *out_written = count;
@@ -26,9 +27,13 @@ Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE())
 
 } // namespace
 
-int32_t kovra_asn1_identifier_length(int32_t tag) noexcept { return identifier_length(tag); }
+int32_t kovra_asn1_identifier_length(int32_t tag) noexcept {
+    return identifier_length(tag);
+}
 
-int32_t kovra_asn1_length_length(int32_t length) noexcept { return length_length(length); }
+int32_t kovra_asn1_length_length(int32_t length) noexcept {
+    return length_length(length);
+}
 
 int32_t kovra_asn1_encode_identifier(kovra_stream *stream, uint32_t tag_class, int32_t form, int32_t tag,
                                      int32_t *out_written, kovra_err_ctx *ctx) noexcept {
@@ -39,8 +44,8 @@ int32_t kovra_asn1_encode_identifier(kovra_stream *stream, uint32_t tag_class, i
     if (tag < 0)
         return refuse(ctx, code::bad_tag);
     uint8_t octets[max_identifier_octets];
-    const int32_t count = put_identifier(octets, static_cast<Class>(tag_class),
-                                         form == 0 ? Form::constructed : Form::primitive, tag);
+    const int32_t count =
+        put_identifier(octets, static_cast<Class>(tag_class), form == 0 ? Form::constructed : Form::primitive, tag);
     return write_all(stream, octets, count, out_written, ctx);
 }
 

@@ -14,14 +14,18 @@ namespace kovra::asn1 {
 
 namespace {
 
-Site here(int32_t line = __builtin_LINE()) { return {"ASN1_List", line}; }
+Site here(int32_t line = __builtin_LINE()) {
+    return {"ASN1_List", line};
+}
 
 constexpr uint32_t first_capacity = 32;
 
 // A decoded list of more elements keeps their places and builds them when they are asked for.
 constexpr uint32_t most_built_at_once = 32;
 
-const ListShape &shape_of(const Type &type) { return *static_cast<const ListShape *>(type.shape); }
+const ListShape &shape_of(const Type &type) {
+    return *static_cast<const ListShape *>(type.shape);
+}
 
 // Slots for at least `wanted` elements, those of elements that are not built being null.
 bool make_slots(List &list, uint32_t wanted) {
@@ -184,8 +188,7 @@ private:
         if (index == places_capacity_) {
             const uint32_t capacity = places_capacity_ == 0 ? 4 * most_built_at_once : places_capacity_ * 2;
             const size_t size = size_t{capacity} * sizeof(uint32_t);
-            Arena::Block *block =
-                places_ == nullptr ? Arena::new_block(size) : Arena::resize_block(places_, size);
+            Arena::Block *block = places_ == nullptr ? Arena::new_block(size) : Arena::resize_block(places_, size);
             if (block == nullptr)
                 return false;
             places_ = block;
@@ -328,7 +331,9 @@ Result encode_any_list_content(Encoder &encoder, const Type &type, Value *value,
     return encode_elements(encoder, row(shape_of(type).element), static_cast<List *>(value), length, true);
 }
 
-size_t list_reserve(size_t octets) { return 256 + 3 * octets; }
+size_t list_reserve(size_t octets) {
+    return 256 + 3 * octets;
+}
 
 } // namespace
 

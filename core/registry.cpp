@@ -12,9 +12,15 @@ namespace kovra::asn1 {
 namespace {
 
 // Rows whose structure is not built yet only refuse.
-Site here(int32_t line = __builtin_LINE()) { return {"ASN1", line}; }
-bool holds_nothing(const Type &, const Value &) { return false; }
-int32_t no_content_length(const Type &, Value *, Measure) { return unknown; }
+Site here(int32_t line = __builtin_LINE()) {
+    return {"ASN1", line};
+}
+bool holds_nothing(const Type &, const Value &) {
+    return false;
+}
+int32_t no_content_length(const Type &, Value *, Measure) {
+    return unknown;
+}
 Result refuse_encode_content(Encoder &encoder, const Type &, Value *, int32_t) {
     return encoder.fail(here(), code::unsupported_encode);
 }
@@ -281,6 +287,8 @@ constexpr auto registry = numbered(std::make_index_sequence<type_count>());
 
 } // namespace
 
-const Type &row(uint32_t number) { return registry[number]; }
+const Type &row(uint32_t number) {
+    return registry[number];
+}
 
 } // namespace kovra::asn1

@@ -43,8 +43,8 @@ struct Operations {
 struct Type {
     uint8_t number;
     Form form;
-    uint8_t tag;    // universal
-    int32_t base;   // code of a failed encode; that of a failed decode is one above
+    uint8_t tag;  // universal
+    int32_t base; // code of a failed encode; that of a failed decode is one above
     const Operations *operations;
     const void *shape; // the declaration that shared operations work from; null for the leaves
 };
@@ -104,8 +104,12 @@ inline Result enter_primitive(Decoder &decoder, Site site, Element element) {
 }
 
 // Building blocks for tables of operations.
-template <class T> bool holds_kind(const Type &, const Value &value) { return value.kind == T::own_kind; }
-template <size_t record_octets> size_t leaf_reserve(size_t) { return record_octets; }
+template <class T> bool holds_kind(const Type &, const Value &value) {
+    return value.kind == T::own_kind;
+}
+template <size_t record_octets> size_t leaf_reserve(size_t) {
+    return record_octets;
+}
 Result refuse_decode_content(Decoder &decoder, const Type &, Element, Value *&);
 
 } // namespace kovra::asn1

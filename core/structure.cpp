@@ -11,11 +11,17 @@ namespace kovra::asn1 {
 
 namespace {
 
-const Structure &shape_of(const Type &type) { return *static_cast<const Structure *>(type.shape); }
+const Structure &shape_of(const Type &type) {
+    return *static_cast<const Structure *>(type.shape);
+}
 
 // Entries name the module of the structure and the line of the component's row.
-Site at(const Structure &shape, const Component &component) { return {shape.source, component.line}; }
-Site in(const Structure &shape, int32_t line = __builtin_LINE()) { return {shape.source, line}; }
+Site at(const Structure &shape, const Component &component) {
+    return {shape.source, component.line};
+}
+Site in(const Structure &shape, int32_t line = __builtin_LINE()) {
+    return {shape.source, line};
+}
 
 const Type &encode_row(const Component &component) {
     return row(component.encode_type != 0 ? component.encode_type : component.type);
@@ -44,7 +50,9 @@ Record *new_record_of(Arena &arena, const Structure &shape) {
     return record;
 }
 
-Octets *kept_of(Record &record) { return reinterpret_cast<Octets *>(record.slots + record.shape->count); }
+Octets *kept_of(Record &record) {
+    return reinterpret_cast<Octets *>(record.slots + record.shape->count);
+}
 
 // Copies what was just encoded for keeping.
 Result keep(Encoder &encoder, Site site, int64_t begin, Arena &arena, Octets &out) {
@@ -102,9 +110,8 @@ Result encode_tagged(Encoder &encoder, Site site, const Component &component, Va
     if (length < indefinite)
         return encoder.fail(site, code::no_length);
     const bool is_constructed = is_explicit || type.form == Form::constructed || length == indefinite;
-    Result result =
-        encoder.identifier(site, Class::context, is_constructed ? Form::constructed : Form::primitive,
-                           component.tag.number);
+    Result result = encoder.identifier(site, Class::context, is_constructed ? Form::constructed : Form::primitive,
+                                       component.tag.number);
     if (result != success)
         return encoder.fail(site, code::write_identifier, result);
     if (result = encoder.length(site, length); result != success)
@@ -350,8 +357,7 @@ private:
             return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
         }
         if (!is_indefinite())
-            return consumed() == static_cast<uint32_t>(length_) ? success
-                                                                : decoder_.fail(site, code::incorrect_length);
+            return consumed() == static_cast<uint32_t>(length_) ? success : decoder_.fail(site, code::incorrect_length);
         Value *none = nullptr;
         const Result result = decode(decoder_, row(KOVRA_ASN1_TYPE_END_OF_CONTENTS), none);
         return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
@@ -412,7 +418,9 @@ bool holds_structure(const Type &type, const Value &value) {
     return value.kind == Kind::record && static_cast<const Record &>(value).shape == shape_of(type).shape();
 }
 
-size_t structure_reserve(size_t octets) { return 512 + 4 * octets; }
+size_t structure_reserve(size_t octets) {
+    return 512 + 4 * octets;
+}
 
 Value *make_zero(Arena &arena) {
     static constexpr uint8_t zero = 0;
@@ -432,10 +440,18 @@ Value *make_boolean(Arena &arena, uint32_t word) {
         boolean->word = word;
     return boolean;
 }
-Value *make_false(Arena &arena) { return make_boolean(arena, 0); }
-Value *make_true(Arena &arena) { return make_boolean(arena, 255); }
-bool is_false(const Value &value) { return kovra_asn1_boolean_istrue(&value) == 0; }
-bool is_true(const Value &value) { return kovra_asn1_boolean_istrue(&value) == 1; }
+Value *make_false(Arena &arena) {
+    return make_boolean(arena, 0);
+}
+Value *make_true(Arena &arena) {
+    return make_boolean(arena, 255);
+}
+bool is_false(const Value &value) {
+    return kovra_asn1_boolean_istrue(&value) == 0;
+}
+bool is_true(const Value &value) {
+    return kovra_asn1_boolean_istrue(&value) == 1;
+}
 
 } // namespace
 
@@ -506,9 +522,15 @@ Value *component(const Structure &shape, const kovra_asn1_value *handle, uint8_t
     return record != nullptr ? record->slots[slot] : nullptr;
 }
 
-Octets &kept_encoding(Record &record) { return kept_of(record)[0]; }
-Octets &kept_signed_octets(Record &record) { return kept_of(record)[1]; }
-void drop_kept_encoding(Record &record) { kept_of(record)[0] = {}; }
+Octets &kept_encoding(Record &record) {
+    return kept_of(record)[0];
+}
+Octets &kept_signed_octets(Record &record) {
+    return kept_of(record)[1];
+}
+void drop_kept_encoding(Record &record) {
+    kept_of(record)[0] = {};
+}
 
 Result signed_octets(Record &record, const uint8_t *&out, uint32_t &out_length) {
     const Structure &shape = *record.shape;

@@ -1,8 +1,8 @@
 // Structures as tables.
 //
 // A structure is declared once, as a constant table in the order of its ASN.1 definition, which stands above it. One
-// engine walks the table to measure, encode and decode; it knows no structure by name. What a structure does that others
-// do not is an attribute of its row or of its table.
+// engine walks the table to measure, encode and decode; it knows no structure by name. What a structure does that
+// others do not is an attribute of its row or of its table.
 #pragma once
 
 #include <cstdint>
@@ -31,8 +31,12 @@ struct Tag {
     uint8_t number;
 };
 constexpr Tag untagged{Tagging::none, 0};
-constexpr Tag implicit_tag(uint8_t number) { return {Tagging::implicit, number}; }
-constexpr Tag explicit_tag(uint8_t number) { return {Tagging::explicit_, number}; }
+constexpr Tag implicit_tag(uint8_t number) {
+    return {Tagging::implicit, number};
+}
+constexpr Tag explicit_tag(uint8_t number) {
+    return {Tagging::explicit_, number};
+}
 
 struct Component {
     const char *name;
@@ -95,14 +99,12 @@ struct Structure {
     [[nodiscard]] constexpr const Structure *shape() const { return record != nullptr ? record : this; }
 };
 
-template <size_t count>
-constexpr Structure structure(const char *source, const Component (&components)[count]) {
+template <size_t count> constexpr Structure structure(const char *source, const Component (&components)[count]) {
     static_assert(count < no_slot);
     return {source, components, count};
 }
 // A structure that is signed: its first component is what the signature covers.
-template <size_t count>
-constexpr Structure signed_structure(const char *source, const Component (&components)[count]) {
+template <size_t count> constexpr Structure signed_structure(const char *source, const Component (&components)[count]) {
     Structure made = structure(source, components);
     made.signed_slot = 0;
     return made;
@@ -151,7 +153,9 @@ Value *component(const Structure &shape, const kovra_asn1_value *handle, uint8_t
 // Exact octets that a record keeps.
 Octets &kept_encoding(Record &record);
 Octets &kept_signed_octets(Record &record);
-inline bool is_kept(const Octets &octets) { return octets.length != 0; }
+inline bool is_kept(const Octets &octets) {
+    return octets.length != 0;
+}
 // Drops what is kept of the whole record, so that the next encoding is made from the fields.
 void drop_kept_encoding(Record &record);
 

@@ -106,7 +106,7 @@ struct Any : Value {
 // their places in the arena's octets are kept.
 struct List : Value {
     static constexpr Kind own_kind = Kind::list;
-    Value **items; // null while no element behind the places was asked for; a null item is not built yet
+    Value **items;             // null while no element behind the places was asked for; a null item is not built yet
     Arena::Block *items_block; // the block that holds `items`, if any
     const uint32_t *places;    // offset of each element that was decoded; null when all were built at once
     const Type *element;       // what the places hold
@@ -150,7 +150,8 @@ template <class T> T *new_record(Arena &arena, size_t size = sizeof(T)) {
     return record;
 }
 
-// A new record that is the root of an arena of its own, with room for `extra` further octets. Null when memory is short.
+// A new record that is the root of an arena of its own, with room for `extra` further octets. Null when memory is
+// short.
 template <class T> T *new_root(size_t extra = 0) {
     Arena *arena = Arena::create(sizeof(T) + extra + 2 * sizeof(void *));
     if (arena == nullptr)

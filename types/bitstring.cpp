@@ -13,7 +13,9 @@ namespace kovra::asn1 {
 
 namespace {
 
-Site here(int32_t line = __builtin_LINE()) { return {"ASN1_BitString", line}; }
+Site here(int32_t line = __builtin_LINE()) {
+    return {"ASN1_BitString", line};
+}
 
 constexpr int32_t segment = 8192;
 

@@ -12,9 +12,13 @@ namespace kovra::asn1 {
 
 namespace {
 
-Site here(int32_t line = __builtin_LINE()) { return {"ASN1_Integer", line}; }
+Site here(int32_t line = __builtin_LINE()) {
+    return {"ASN1_Integer", line};
+}
 
-const uint8_t *octets_of(const Integer &integer) { return integer.octets.data(*integer.arena); }
+const uint8_t *octets_of(const Integer &integer) {
+    return integer.octets.data(*integer.arena);
+}
 
 // Is the first octet nothing but a repetition of the sign of the second?
 bool is_redundant(uint8_t first, uint8_t second) {
@@ -90,7 +94,9 @@ kovra_asn1_value *kovra_asn1_integer_value(int32_t number) noexcept {
     return kovra_asn1_integer_new(octets, sizeof octets);
 }
 
-kovra_asn1_value *kovra_asn1_enum_value(int32_t number) noexcept { return kovra_asn1_integer_value(number); }
+kovra_asn1_value *kovra_asn1_enum_value(int32_t number) noexcept {
+    return kovra_asn1_integer_value(number);
+}
 
 kovra_asn1_value *kovra_asn1_integer_new(const void *octets, int32_t length) noexcept {
     const auto *from = static_cast<const uint8_t *>(octets);
@@ -125,16 +131,16 @@ kovra_asn1_value *kovra_asn1_integer_newbigint(const kovra_biginteger *number) n
     kovra_data_blob *octets = number != nullptr ? kovra_biginteger_getdata(number) : nullptr;
     if (octets == nullptr)
         return nullptr;
-    kovra_asn1_value *integer = kovra_asn1_integer_new(kovra_data_blob_getdata(octets), kovra_data_blob_getlength(octets));
+    kovra_asn1_value *integer =
+        kovra_asn1_integer_new(kovra_data_blob_getdata(octets), kovra_data_blob_getlength(octets));
     kovra_data_blob_free(octets);
     return integer;
 }
 
 kovra_biginteger *kovra_asn1_integer_getbigintger(const kovra_asn1_value *integer) noexcept {
     const auto *record = as<Integer>(integer);
-    return record != nullptr
-               ? kovra_biginteger_newdata(octets_of(*record), static_cast<int32_t>(record->octets.length))
-               : nullptr;
+    return record != nullptr ? kovra_biginteger_newdata(octets_of(*record), static_cast<int32_t>(record->octets.length))
+                             : nullptr;
 }
 
 int32_t kovra_asn1_integer_get(const kovra_asn1_value *integer, void *buffer) noexcept {

@@ -12,7 +12,9 @@ namespace kovra::asn1 {
 
 namespace {
 
-Site here(int32_t line = __builtin_LINE()) { return {"ASN1_OctetString", line}; }
+Site here(int32_t line = __builtin_LINE()) {
+    return {"ASN1_OctetString", line};
+}
 
 // Contents of this many octets that are not in memory are written in segments.
 constexpr int64_t segmented_from = 0x500000;
@@ -84,7 +86,9 @@ Result encode_string_content(Encoder &encoder, const Type &, Value *value, int32
     return copied == length ? success : encoder.fail(here(), code::short_copy);
 }
 
-Form form_of(int32_t length) { return length == indefinite ? Form::constructed : Form::primitive; }
+Form form_of(int32_t length) {
+    return length == indefinite ? Form::constructed : Form::primitive;
+}
 
 Result encode_octet_string(Encoder &encoder, const Type &type, Value *value) {
     const int32_t length = string_length(static_cast<const String *>(value));

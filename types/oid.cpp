@@ -13,7 +13,9 @@ namespace kovra::asn1 {
 
 namespace {
 
-Site here(int32_t line = __builtin_LINE()) { return {"ASN1_Oid", line}; }
+Site here(int32_t line = __builtin_LINE()) {
+    return {"ASN1_Oid", line};
+}
 
 constexpr size_t max_arc_digits = 20;
 
@@ -71,7 +73,9 @@ Result decode_oid_content(Decoder &decoder, const Type &type, Element element, V
     return success;
 }
 
-char *put_number(char *out, uint64_t number) { return std::to_chars(out, out + max_arc_digits, number).ptr; }
+char *put_number(char *out, uint64_t number) {
+    return std::to_chars(out, out + max_arc_digits, number).ptr;
+}
 
 // The dotted text, in the arena of the record; null when memory is short.
 const char *text_of(ObjectIdentifier &oid) {
@@ -120,7 +124,9 @@ bool read_arc(const char *begin, const char *end, uint64_t &out) {
     return error == std::errc{} && stop == end && out != UINT64_MAX;
 }
 
-bool is_digit(char character) { return character >= '0' && character <= '9'; }
+bool is_digit(char character) {
+    return character >= '0' && character <= '9';
+}
 
 ObjectIdentifier *from_text(const char *text, bool relative) {
     const size_t least = relative ? 1 : 3;
@@ -187,10 +193,18 @@ constexpr Operations object_identifier_operations = {
 
 using namespace kovra::asn1;
 
-kovra_asn1_value *kovra_asn1_oid_new(const char *text) noexcept { return from_text(text, false); }
+kovra_asn1_value *kovra_asn1_oid_new(const char *text) noexcept {
+    return from_text(text, false);
+}
 
-kovra_asn1_value *kovra_asn1_relative_oid_new(const char *text) noexcept { return from_text(text, true); }
+kovra_asn1_value *kovra_asn1_relative_oid_new(const char *text) noexcept {
+    return from_text(text, true);
+}
 
-const char *kovra_asn1_oid_getstring(const kovra_asn1_value *oid) noexcept { return get_text(oid); }
+const char *kovra_asn1_oid_getstring(const kovra_asn1_value *oid) noexcept {
+    return get_text(oid);
+}
 
-const char *kovra_asn1_relative_oid_getstring(const kovra_asn1_value *oid) noexcept { return get_text(oid); }
+const char *kovra_asn1_relative_oid_getstring(const kovra_asn1_value *oid) noexcept {
+    return get_text(oid);
+}

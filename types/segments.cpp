@@ -9,8 +9,9 @@ bool OpenStrings::open(int64_t end) {
         if (capacity_ > UINT32_MAX / (2 * sizeof(Level)))
             return false;
         const size_t size = size_t{capacity_} * 2 * sizeof(Level);
-        auto *grown = static_cast<Level *>(levels_ == first_ ? kovra_malloc(size, "ASN1_OctetString", __LINE__)
-                                                             : kovra_realloc(levels_, size, "ASN1_OctetString", __LINE__));
+        auto *grown =
+            static_cast<Level *>(levels_ == first_ ? kovra_malloc(size, "ASN1_OctetString", __LINE__)
+                                                   : kovra_realloc(levels_, size, "ASN1_OctetString", __LINE__));
         if (grown == nullptr)
             return false;
         if (levels_ == first_)

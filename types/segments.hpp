@@ -17,7 +17,7 @@ class OpenStrings {
 public:
     static constexpr int64_t until_end_of_contents = -1;
     struct Level {
-        int64_t end;         // position behind the last segment, or until_end_of_contents
+        int64_t end;          // position behind the last segment, or until_end_of_contents
         uint32_t unused_bits; // of the last segment of a BIT STRING
     };
 

@@ -15,7 +15,9 @@ namespace kovra::asn1 {
 
 namespace {
 
-Site here(int32_t line = __builtin_LINE()) { return {"ASN1_Time", line}; }
+Site here(int32_t line = __builtin_LINE()) {
+    return {"ASN1_Time", line};
+}
 
 // The row of a time, or either row for the choice.
 bool is_of_row(const Type &type, const Time &time) {
@@ -24,7 +26,8 @@ bool is_of_row(const Type &type, const Time &time) {
 
 bool read_text(uint8_t tag, const uint8_t *text, uint32_t length, TimeFields &out) {
     const auto *characters = reinterpret_cast<const char *>(text);
-    return tag == tag::utc_time ? read_utc_time(characters, length, out) : read_generalized_time(characters, length, out);
+    return tag == tag::utc_time ? read_utc_time(characters, length, out)
+                                : read_generalized_time(characters, length, out);
 }
 
 int32_t time_content_length(const Type &, Value *value, Measure) {
@@ -71,13 +74,11 @@ Result decode_text(Decoder &decoder, uint8_t tag, Element element, Value *&out) 
         return decoder.fail(here(), code::no_memory);
     Content content{};
     uint32_t unused_bits = 0;
-    if (const Result result = decode_segments<false>(decoder, here(), element, content, unused_bits);
-        result != success)
+    if (const Result result = decode_segments<false>(decoder, here(), element, content, unused_bits); result != success)
         return result;
     time->tag = tag;
     time->text = content.octets;
-    const uint8_t *text =
-        content.octets.memory != nullptr ? content.octets.memory : decoder.at(content.octets.offset);
+    const uint8_t *text = content.octets.memory != nullptr ? content.octets.memory : decoder.at(content.octets.offset);
     TimeFields fields;
     if (!read_text(tag, text, content.octets.length, fields))
         return decoder.fail(here(), code::bad_time_text);
@@ -127,8 +128,7 @@ Time *new_time(uint8_t tag, kovra_time *value) {
     if (value == nullptr)
         return nullptr;
     char text[longest_time_text];
-    const uint32_t length =
-        tag == tag::utc_time ? write_utc_time(value, text) : write_generalized_time(value, text);
+    const uint32_t length = tag == tag::utc_time ? write_utc_time(value, text) : write_generalized_time(value, text);
     kovra_time_free(value);
     auto *time = length != 0 ? new_root<Time>(length) : nullptr;
     auto *copy = time != nullptr ? static_cast<uint8_t *>(time->arena->allocate(length)) : nullptr;
@@ -144,7 +144,9 @@ Time *new_time(uint8_t tag, kovra_time *value) {
 }
 
 // The years that UTCTime is used for.
-bool has_utc_time(int32_t year) { return year >= 1950 && year <= 2049; }
+bool has_utc_time(int32_t year) {
+    return year >= 1950 && year <= 2049;
+}
 
 } // namespace
 

@@ -9,9 +9,15 @@ namespace {
 constexpr int32_t first_year = 1582;
 constexpr int32_t last_year = 9999;
 
-bool is_digit(char character) { return character >= '0' && character <= '9'; }
-int32_t digit(char character) { return character - '0'; }
-int32_t two_digits(const char *text) { return digit(text[0]) * 10 + digit(text[1]); }
+bool is_digit(char character) {
+    return character >= '0' && character <= '9';
+}
+int32_t digit(char character) {
+    return character - '0';
+}
+int32_t two_digits(const char *text) {
+    return digit(text[0]) * 10 + digit(text[1]);
+}
 
 uint32_t count_digits(const char *text, uint32_t length) {
     uint32_t count = 0;
@@ -73,8 +79,8 @@ bool has_next_day(const TimeFields &fields) {
 }
 
 bool is_leap_second(const TimeFields &fields) {
-    kovra_time *time = kovra_time_newutctime(fields.year, fields.month, fields.day, fields.hour, fields.minute,
-                                             fields.second, 0);
+    kovra_time *time =
+        kovra_time_newutctime(fields.year, fields.month, fields.day, fields.hour, fields.minute, fields.second, 0);
     const bool is = time != nullptr && kovra_time_isleapsecond(time) == 1;
     kovra_time_free(time);
     return is;
@@ -143,11 +149,10 @@ bool is_certain(const TimeFields &fields) {
 }
 
 kovra_time *time_of(const TimeFields &fields) {
-    kovra_time *time = fields.is_local
-                           ? kovra_time_newlocaltime(fields.year, fields.month, fields.day, fields.hour, fields.minute,
-                                                     fields.second, fields.ns, 0)
-                           : kovra_time_newutctime(fields.year, fields.month, fields.day, fields.hour, fields.minute,
-                                                   fields.second, fields.ns);
+    kovra_time *time = fields.is_local ? kovra_time_newlocaltime(fields.year, fields.month, fields.day, fields.hour,
+                                                                 fields.minute, fields.second, fields.ns, 0)
+                                       : kovra_time_newutctime(fields.year, fields.month, fields.day, fields.hour,
+                                                               fields.minute, fields.second, fields.ns);
     if (time != nullptr && fields.minutes_to_add != 0 && kovra_time_addminute(time, fields.minutes_to_add) != 1) {
         kovra_time_free(time);
         return nullptr;
@@ -163,10 +168,9 @@ uint32_t write_utc_time(const kovra_time *time, char (&out)[longest_time_text]) 
     const int32_t short_year = year >= 1950 && year <= 1999 ? year - 1900 : year - 2000;
     // The form has no leap seconds.
     const int32_t second = kovra_time_getsecond(time);
-    return static_cast<uint32_t>(std::snprintf(out, sizeof out, "%02d%02d%02d%02d%02d%02dZ", short_year,
-                                               kovra_time_getmonth(time), kovra_time_getday(time),
-                                               kovra_time_gethour(time), kovra_time_getminute(time),
-                                               second == 60 ? 59 : second));
+    return static_cast<uint32_t>(std::snprintf(
+        out, sizeof out, "%02d%02d%02d%02d%02d%02dZ", short_year, kovra_time_getmonth(time), kovra_time_getday(time),
+        kovra_time_gethour(time), kovra_time_getminute(time), second == 60 ? 59 : second));
 }
 
 uint32_t write_generalized_time(const kovra_time *time, char (&out)[longest_time_text]) {
