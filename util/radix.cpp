@@ -1,0 +1,189 @@
+#include "util/radix.hpp"
+
+#include <cstring>
+#include <utility>
+
+#include "kovra/util_memory.h"
+
+namespace kovra::util {
+namespace {
+
+constexpr const char *module = "UTIL_BigInteger";
+
+// `per_other` is the number of digits that one digit of the other base takes, in ten-thousandths, rounded up.
+struct Binary {
+    static constexpr uint64_t base = uint64_t{1} << 32;
+    static constexpr size_t per_other = 9343;
+};
+struct Decimal {
+    static constexpr uint64_t base = 1'000'000'000;
+    static constexpr size_t per_other = 10704;
+};
+
+// Up to here the plain methods are faster.
+constexpr size_t plain_conversion = 28;
+constexpr size_t plain_product = 32;
+
+// to += from; the carry out.
+template <class Base> uint32_t add(uint32_t *to, const uint32_t *from, size_t count) {
+    uint32_t carry = 0;
+    for (size_t i = 0; i < count; ++i) {
+        const uint64_t sum = uint64_t{to[i]} + from[i] + carry;
+        carry = sum >= Base::base ? 1 : 0;
+        to[i] = static_cast<uint32_t>(carry != 0 ? sum - Base::base : sum);
+    }
+    return carry;
+}
+
+template <class Base> void add_carry(uint32_t *to, uint32_t carry) {
+    for (; carry != 0; ++to) {
+        const uint64_t sum = uint64_t{*to} + carry;
+        carry = sum >= Base::base ? 1 : 0;
+        *to = static_cast<uint32_t>(carry != 0 ? sum - Base::base : sum);
+    }
+}
+
+// to = left - right; the borrow out. `to` may be either of them.
+template <class Base> uint32_t subtract(uint32_t *to, const uint32_t *left, const uint32_t *right, size_t count) {
+    uint32_t borrow = 0;
+    for (size_t i = 0; i < count; ++i) {
+        const uint64_t taken = uint64_t{right[i]} + borrow;
+        borrow = left[i] < taken ? 1 : 0;
+        to[i] = static_cast<uint32_t>(left[i] + (borrow != 0 ? Base::base : 0) - taken);
+    }
+    return borrow;
+}
+
+// to = |left - right|; true when the difference is negative.
+template <class Base> bool difference(uint32_t *to, const uint32_t *left, const uint32_t *right, size_t count) {
+    size_t top = count;
+    while (top > 0 && left[top - 1] == right[top - 1])
+        --top;
+    const bool negative = top > 0 && left[top - 1] < right[top - 1];
+    subtract<Base>(to, negative ? right : left, negative ? left : right, count);
+    return negative;
+}
+
+template <class Base>
+void multiply_plainly(uint32_t *product, const uint32_t *left, const uint32_t *right, size_t count) {
+    std::memset(product, 0, 2 * count * sizeof *product);
+    for (size_t i = 0; i < count; ++i) {
+        uint64_t carry = 0;
+        for (size_t j = 0; j < count; ++j) {
+            const uint64_t sum = uint64_t{left[i]} * right[j] + product[i + j] + carry;
+            product[i + j] = static_cast<uint32_t>(sum % Base::base);
+            carry = sum / Base::base;
+        }
+        product[i + count] = static_cast<uint32_t>(carry);
+    }
+}
+
+// Karatsuba: a0 b1 + a1 b0 = a0 b0 + a1 b1 + (a0 - a1)(b1 - b0). The product has 2 * count digits, the scratch room as
+// many. A count above plain_product is even, and so is its half while above it. Depth: log2 of the count.
+template <class Base>
+void multiply(uint32_t *product, const uint32_t *left, const uint32_t *right, size_t count, uint32_t *scratch) {
+    if (count <= plain_product) {
+        multiply_plainly<Base>(product, left, right, count);
+        return;
+    }
+    const size_t half = count / 2;
+    const bool left_negative = difference<Base>(product, left, left + half, half);
+    const bool right_negative = difference<Base>(product + half, right + half, right, half);
+    multiply<Base>(scratch, product, product + half, half, scratch + count);
+    multiply<Base>(product, left, right, half, scratch + count);
+    multiply<Base>(product + count, left + half, right + half, half, scratch + count);
+
+    // A borrow wraps around, and the carry that follows it brings it back.
+    uint32_t carry = left_negative != right_negative ? 0 - subtract<Base>(scratch, product, scratch, count)
+                                                     : add<Base>(scratch, product, count);
+    carry += add<Base>(scratch, product + count, count);
+    carry += add<Base>(product + half, scratch, count);
+    add_carry<Base>(product + half + count, carry);
+}
+
+// Writes `width` digits, enough for the number; quadratic.
+template <class From, class To> void convert_plainly(uint32_t *to, size_t width, const uint32_t *from, size_t count) {
+    std::memset(to, 0, width * sizeof *to);
+    size_t used = 0;
+    while (count > 0) {
+        uint64_t carry = from[--count];
+        for (size_t i = 0; i < used; ++i) {
+            const uint64_t sum = to[i] * From::base + carry;
+            to[i] = static_cast<uint32_t>(sum % To::base);
+            carry = sum / To::base;
+        }
+        for (; carry != 0; carry /= To::base)
+            to[used++] = static_cast<uint32_t>(carry % To::base);
+    }
+}
+
+bool is_zero(const uint32_t *values, size_t count) {
+    for (size_t i = 0; i < count; ++i)
+        if (values[i] != 0)
+            return false;
+    return true;
+}
+
+template <class From, class To> Digits convert(const uint32_t *values, size_t count) {
+    // 2^levels chunks of equal size, each of `width` digits when converted; then neighbours are joined, level by level.
+    size_t chunk = count;
+    size_t levels = 0;
+    for (; chunk > plain_conversion; ++levels)
+        chunk = chunk / 2 + chunk % 2;
+    const size_t width = chunk * To::per_other / 10000 + 1;
+    constexpr size_t most = SIZE_MAX / (4 * sizeof(uint32_t));
+    if (width > most >> levels)
+        return {};
+    const size_t total = width << levels;
+    auto *result = static_cast<uint32_t *>(kovra_malloc(total * sizeof(uint32_t), module, __LINE__));
+    if (result == nullptr)
+        return {};
+    for (size_t i = 0; i < size_t{1} << levels; ++i) {
+        const size_t begin = chunk * i;
+        const size_t here = begin >= count ? 0 : (count - begin < chunk ? count - begin : chunk);
+        convert_plainly<From, To>(result + width * i, width, values + (here > 0 ? begin : 0), here);
+    }
+    if (levels > 0) {
+        // A product and its scratch room, and two powers of half that size.
+        auto *work = static_cast<uint32_t *>(kovra_malloc(3 * total * sizeof(uint32_t), module, __LINE__));
+        if (work == nullptr) {
+            kovra_free(result);
+            return {};
+        }
+        uint32_t *product = work;
+        uint32_t *scratch = product + total;
+        uint32_t *power = scratch + total; // the worth of one unit of an upper half
+        uint32_t *next_power = power + total / 2;
+        uint32_t unit[plain_conversion + 1] = {};
+        unit[chunk] = 1;
+        convert_plainly<From, To>(power, width, unit, chunk + 1);
+        for (size_t size = width; size < total; size *= 2) {
+            for (uint32_t *low = result; low < result + total; low += 2 * size) {
+                uint32_t *high = low + size;
+                if (is_zero(high, size))
+                    continue;
+                multiply<To>(product, high, power, size, scratch);
+                add_carry<To>(product + size, add<To>(product, low, size));
+                std::memcpy(low, product, 2 * size * sizeof *low);
+            }
+            if (2 * size < total) {
+                multiply<To>(next_power, power, power, size, scratch);
+                std::swap(power, next_power);
+            }
+        }
+        kovra_free(work);
+    }
+    return {result, total};
+}
+
+} // namespace
+
+Digits binary_to_decimal(const uint32_t *values, size_t count) {
+    return convert<Binary, Decimal>(values, count);
+}
+
+Digits decimal_to_binary(const uint32_t *values, size_t count) {
+    return convert<Decimal, Binary>(values, count);
+}
+
+} // namespace kovra::util
