@@ -26,6 +26,8 @@ extern const Operations character_string_operations;
 extern const Operations object_identifier_operations;
 extern const Operations any_time_operations;
 extern const Operations time_operations;
+extern const Operations choice_operations;
+extern const Operations string_choice_operations;
 extern const Operations unbuilt_operations;
 
 } // namespace kovra::asn1

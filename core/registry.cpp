@@ -6,6 +6,7 @@
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/structure.hpp"
+#include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {
 

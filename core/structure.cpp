@@ -4,8 +4,7 @@
 
 #include "core/any.hpp"
 #include "core/descriptors.hpp"
-#include "kovra/asn1_boolean.h"
-#include "kovra/asn1_integer.h"
+#include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {
 
@@ -15,25 +14,16 @@ const Structure &shape_of(const Type &type) {
     return *static_cast<const Structure *>(type.shape);
 }
 
+bool is_end_of_contents(const Value *value) {
+    return value->kind == Kind::any && static_cast<const Any *>(value)->end_of_contents;
+}
+
 // Entries name the module of the structure and the line of the component's row.
 Site at(const Structure &shape, const Component &component) {
     return {shape.source, component.line};
 }
 Site in(const Structure &shape, int32_t line = __builtin_LINE()) {
     return {shape.source, line};
-}
-
-const Type &encode_row(const Component &component) {
-    return row(component.encode_type != 0 ? component.encode_type : component.type);
-}
-const Type &decode_row(const Component &component) {
-    return row(component.decode_type != 0 ? component.decode_type : component.type);
-}
-int32_t encode_code(const Component &component) {
-    return component.encode_code != 0 ? component.encode_code : encode_row(component).base;
-}
-int32_t decode_code(const Component &component) {
-    return component.decode_code != 0 ? component.decode_code : decode_row(component).base + 1;
 }
 
 bool is_written(const Component &component, const Value *value) {
@@ -67,20 +57,6 @@ Result keep(Encoder &encoder, Site site, int64_t begin, Arena &arena, Octets &ou
     return success;
 }
 
-// Octets that a component takes, its tag included.
-int32_t component_length(const Component &component, Value *value) {
-    const Type &type = encode_row(component);
-    switch (component.tag.tagging) {
-    case Tagging::none:
-        return whole_length(type, value);
-    case Tagging::implicit:
-        return whole_length_of(component.tag.number, content_length(type, value));
-    case Tagging::explicit_:
-        return whole_length_of(component.tag.number, whole_length(type, value));
-    }
-    return unknown;
-}
-
 int32_t measure(const Structure &shape, Record &record) {
     int64_t total = 0;
     record.measured = unknown;
@@ -101,36 +77,6 @@ int32_t measure(const Structure &shape, Record &record) {
         total += length;
     }
     return record.measured = total <= max_length ? static_cast<int32_t>(total) : unknown;
-}
-
-Result encode_tagged(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure) {
-    const Type &type = encode_row(component);
-    const bool is_explicit = component.tag.tagging == Tagging::explicit_;
-    const int32_t length = is_explicit ? whole_length(type, value, measure) : content_length(type, value, measure);
-    if (length < indefinite)
-        return encoder.fail(site, code::no_length);
-    const bool is_constructed = is_explicit || type.form == Form::constructed || length == indefinite;
-    Result result = encoder.identifier(site, Class::context, is_constructed ? Form::constructed : Form::primitive,
-                                       component.tag.number);
-    if (result != success)
-        return encoder.fail(site, code::write_identifier, result);
-    if (result = encoder.length(site, length); result != success)
-        return encoder.fail(site, code::write_length, result);
-    result = is_explicit ? encode(encoder, type, value, length >= 0 ? measure : Measure::fresh)
-                         : type.operations->encode_content(encoder, type, value, length);
-    if (result != success)
-        return encoder.fail(site, encode_code(component), result);
-    if (is_explicit && length == indefinite)
-        if (result = encoder.end_of_contents(site); result != success)
-            return encoder.fail(site, code::write_end_of_contents, result);
-    return success;
-}
-
-Result encode_component(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure) {
-    if (component.tag.tagging != Tagging::none)
-        return encode_tagged(encoder, site, component, value, measure);
-    const Result result = encode(encoder, encode_row(component), value, measure);
-    return result == success ? success : encoder.fail(site, encode_code(component), result);
 }
 
 // The signed component is written as it was read, or as it is written this first time.
@@ -287,17 +233,17 @@ private:
         int32_t length = 0;
         if (const Result result = decode_length(decoder_, length); result != success)
             return result;
-        return component.tag.tagging == Tagging::explicit_ ? read_explicit(component, length, place)
-                                                           : read_content(component, length, place);
+        return component.tag.tagging == Tagging::explicit_
+                   ? decode_explicit(decoder_, at(shape_, component), component, length, place)
+                   : read_content(component, length, place);
     }
 
     Result read_whole(const Component &component, Value *&place) {
         Value *value = nullptr;
         const Site site = at(shape_, component);
-        const Result result = decode(decoder_, decode_row(component), value);
-        if (result != success)
-            return decoder_.fail(site, decode_code(component), result);
-        if (component.type == KOVRA_ASN1_TYPE_ANY && static_cast<const Any *>(value)->end_of_contents) {
+        if (const Result result = decode_component(decoder_, site, component, value); result != success)
+            return result;
+        if (is_end_of_contents(value)) {
             if (component.presence == Presence::required || !is_indefinite())
                 return decoder_.fail(site, code::incorrect_item);
             ended_ = true;
@@ -315,23 +261,6 @@ private:
         const Result result = is_own ? decode_begun(decoder_, type, identifier_, element, place)
                                      : type.operations->decode_content(decoder_, type, element, place);
         return result == success ? success : decoder_.fail(at(shape_, component), decode_code(component), result);
-    }
-
-    Result read_explicit(const Component &component, int32_t length, Value *&place) {
-        const Site site = at(shape_, component);
-        const uint32_t begin = decoder_.position();
-        if (const Result result = read_whole(component, place); result != success)
-            return result;
-        if (ended_)
-            return decoder_.fail(site, code::incorrect_item);
-        if (length == indefinite) {
-            Value *none = nullptr;
-            const Result result = decode(decoder_, row(KOVRA_ASN1_TYPE_END_OF_CONTENTS), none);
-            return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
-        }
-        return decoder_.position() - begin == static_cast<uint32_t>(length)
-                   ? success
-                   : decoder_.fail(site, code::incorrect_length);
     }
 
     // The component is decoded from its exact octets, which stay with the record.
@@ -422,42 +351,7 @@ size_t structure_reserve(size_t octets) {
     return 512 + 4 * octets;
 }
 
-Value *make_zero(Arena &arena) {
-    static constexpr uint8_t zero = 0;
-    auto *integer = new_record<Integer>(arena);
-    if (integer != nullptr)
-        integer->octets = {&zero, 0, 1};
-    return integer;
-}
-bool is_zero(const Value &value) {
-    int32_t number = 0;
-    return kovra_asn1_integer_getlong(&value, &number) == 1 && number == 0;
-}
-
-Value *make_boolean(Arena &arena, uint32_t word) {
-    auto *boolean = new_record<Boolean>(arena);
-    if (boolean != nullptr)
-        boolean->word = word;
-    return boolean;
-}
-Value *make_false(Arena &arena) {
-    return make_boolean(arena, 0);
-}
-Value *make_true(Arena &arena) {
-    return make_boolean(arena, 255);
-}
-bool is_false(const Value &value) {
-    return kovra_asn1_boolean_istrue(&value) == 0;
-}
-bool is_true(const Value &value) {
-    return kovra_asn1_boolean_istrue(&value) == 1;
-}
-
 } // namespace
-
-constexpr Default default_zero = {make_zero, is_zero};
-constexpr Default default_false = {make_false, is_false};
-constexpr Default default_true = {make_true, is_true};
 
 constexpr Operations structure_operations = {
     .holds = holds_structure,

@@ -7,79 +7,11 @@
 
 #include <cstdint>
 
+#include "core/component.hpp"
 #include "core/registry.hpp"
 #include "core/value.hpp"
-#include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {
-
-enum class Tagging : uint8_t { none, implicit, explicit_ };
-enum class Presence : uint8_t { required, optional, defaulted };
-
-// What an absent component stands for.
-struct Default {
-    Value *(*make)(Arena &); // null when memory is short
-    bool (*is)(const Value &);
-};
-
-extern const Default default_zero;  // INTEGER 0, as far as it reads as a 32-bit number
-extern const Default default_false; // BOOLEAN FALSE
-extern const Default default_true;  // BOOLEAN TRUE
-
-struct Tag {
-    Tagging tagging;
-    uint8_t number;
-};
-constexpr Tag untagged{Tagging::none, 0};
-constexpr Tag implicit_tag(uint8_t number) {
-    return {Tagging::implicit, number};
-}
-constexpr Tag explicit_tag(uint8_t number) {
-    return {Tagging::explicit_, number};
-}
-
-struct Component {
-    const char *name;
-    uint8_t type;
-    Presence presence;
-    Tag tag;
-    const Default *fallback; // of a defaulted component
-    int32_t line;
-    // Codes that stand in for those of the component's type; 0: none does.
-    int32_t encode_code = 0;
-    int32_t decode_code = 0;
-    // Types that stand in for the component's own in one direction; 0: none does.
-    uint8_t encode_type = 0;
-    uint8_t decode_type = 0;
-
-    constexpr Component codes(int32_t encode, int32_t decode) const {
-        Component changed = *this;
-        changed.encode_code = encode;
-        changed.decode_code = decode;
-        return changed;
-    }
-    constexpr Component encode_as(uint8_t other) const {
-        Component changed = *this;
-        changed.encode_type = other;
-        return changed;
-    }
-    constexpr Component decode_as(uint8_t other) const {
-        Component changed = *this;
-        changed.decode_type = other;
-        return changed;
-    }
-};
-
-constexpr Component required(const char *name, uint8_t type, Tag tag = untagged, int32_t line = __builtin_LINE()) {
-    return {name, type, Presence::required, tag, nullptr, line};
-}
-constexpr Component optional(const char *name, uint8_t type, Tag tag = untagged, int32_t line = __builtin_LINE()) {
-    return {name, type, Presence::optional, tag, nullptr, line};
-}
-constexpr Component defaulted(const char *name, uint8_t type, const Default &fallback, Tag tag = untagged,
-                              int32_t line = __builtin_LINE()) {
-    return {name, type, Presence::defaulted, tag, &fallback, line};
-}
 
 inline constexpr uint8_t no_slot = 0xFF;
 
@@ -108,21 +40,6 @@ template <size_t count> constexpr Structure signed_structure(const char *source,
     Structure made = structure(source, components);
     made.signed_slot = 0;
     return made;
-}
-
-// Contradictions in a table, for a static_assert beside it: a tag on a component that is told apart from another by the
-// same tag, a default without a maker.
-template <size_t count> consteval bool is_sound(const Component (&components)[count]) {
-    for (size_t i = 0; i < count; ++i) {
-        if ((components[i].presence == Presence::defaulted) != (components[i].fallback != nullptr))
-            return false;
-        if (components[i].tag.tagging == Tagging::none)
-            continue;
-        for (size_t j = 0; j < i; ++j)
-            if (components[j].tag.tagging != Tagging::none && components[j].tag.number == components[i].tag.number)
-                return false;
-    }
-    return true;
 }
 
 // A new, empty record in an arena of its own; null when memory is short.

@@ -11,6 +11,7 @@
 
 namespace kovra::asn1 {
 
+struct ChoiceShape;
 struct Structure;
 struct Type;
 
@@ -26,6 +27,7 @@ enum class Kind : uint32_t {
     any,
     list,
     tagged_string,
+    choice,
     record,
 };
 
@@ -120,6 +122,14 @@ struct TaggedString : Value {
     static constexpr Kind own_kind = Kind::tagged_string;
     int32_t tag;
     String *string;
+};
+
+// A choice: the number of the alternative in its table, and the value.
+struct Choice : Value {
+    static constexpr Kind own_kind = Kind::choice;
+    const ChoiceShape *shape;
+    Value *value;
+    uint32_t alternative;
 };
 
 // Every other structure: a slot for each component, null when it is absent, and behind the slots the kept encodings.

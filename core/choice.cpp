@@ -1,0 +1,302 @@
+#include "core/choice.hpp"
+
+#include "core/descriptors.hpp"
+#include "kovra/asn1_types.h"
+
+namespace kovra::asn1 {
+
+namespace {
+
+const ChoiceShape &choice_of(const Type &type) {
+    return *static_cast<const ChoiceShape *>(type.shape);
+}
+const StringChoice &strings_of(const Type &type) {
+    return *static_cast<const StringChoice *>(type.shape);
+}
+
+Site in(const ChoiceShape &shape, int32_t line = __builtin_LINE()) {
+    return {shape.source, line};
+}
+Site in(const StringChoice &shape, int32_t line = __builtin_LINE()) {
+    return {shape.source, line};
+}
+Site at(const ChoiceShape &shape, const Component &component) {
+    return {shape.source, component.line};
+}
+
+const Component &chosen(const Choice &choice) {
+    return choice.shape->alternatives[choice.alternative];
+}
+
+bool holds_choice(const Type &type, const Value &value) {
+    return value.kind == Kind::choice && static_cast<const Choice &>(value).shape == &choice_of(type);
+}
+
+// What stands behind the identifier of the alternative.
+int32_t choice_content_length(const Type &, Value *value, Measure measure) {
+    auto *choice = static_cast<Choice *>(value);
+    if (choice == nullptr)
+        return unknown;
+    if (measure == Measure::known)
+        return choice->measured;
+    const Component &component = chosen(*choice);
+    const Type &type = encode_row(component);
+    choice->measured = component.tag.tagging == Tagging::explicit_ ? whole_length(type, choice->value)
+                                                                   : content_length(type, choice->value);
+    return choice->measured;
+}
+
+int32_t choice_length(const Type &type, Value *value, Measure measure) {
+    auto *choice = static_cast<Choice *>(value);
+    if (choice == nullptr)
+        return unknown;
+    if (measure == Measure::fresh)
+        choice_content_length(type, value, measure);
+    return component_length(chosen(*choice), choice->value, Measure::known);
+}
+
+Result encode_choice(Encoder &encoder, const Type &type, Value *value) {
+    auto *choice = static_cast<Choice *>(value);
+    const ChoiceShape &shape = choice_of(type);
+    if (!encoder.has_stream() || choice == nullptr)
+        return encoder.fail(in(shape), code::null_argument);
+    const Component &component = chosen(*choice);
+    return encode_component(encoder, at(shape, component), component, choice->value, Measure::known);
+}
+
+Result encode_choice_content(Encoder &encoder, const Type &type, Value *value, int32_t length) {
+    auto *choice = static_cast<Choice *>(value);
+    const ChoiceShape &shape = choice_of(type);
+    if (!encoder.has_stream() || choice == nullptr)
+        return encoder.fail(in(shape), code::null_argument);
+    const Component &component = chosen(*choice);
+    const Type &content = encode_row(component);
+    const Result result = component.tag.tagging == Tagging::explicit_
+                              ? encode(encoder, content, choice->value)
+                              : content.operations->encode_content(encoder, content, choice->value, length);
+    return result == success ? success : encoder.fail(at(shape, component), encode_code(component), result);
+}
+
+// The alternative that an identifier begins; the table's count when it begins none.
+uint8_t find(const ChoiceShape &shape, const Identifier &identifier) {
+    uint8_t i = 0;
+    for (; i < shape.count; ++i) {
+        const Component &component = shape.alternatives[i];
+        const Type &type = decode_row(component);
+        if (component.tag.tagging == Tagging::none) {
+            if (begins(type, identifier))
+                break;
+            continue;
+        }
+        const bool is_constructed = component.tag.tagging == Tagging::explicit_ || type.form == Form::constructed;
+        if (identifier.is(Class::context, component.tag.number) &&
+            (shape.any_form || !is_constructed || identifier.form == Form::constructed))
+            break;
+    }
+    return i;
+}
+
+bool choice_begins(const Type &type, const Identifier &identifier) {
+    return find(choice_of(type), identifier) != choice_of(type).count;
+}
+
+Result decode_begun_choice(Decoder &decoder, const Type &type, const Identifier &identifier, Element element,
+                           Value *&out) {
+    const ChoiceShape &shape = choice_of(type);
+    const uint8_t number = find(shape, identifier);
+    const Component &component = shape.alternatives[number];
+    const Site site = at(shape, component);
+    Value *value = nullptr;
+    Result result = success;
+    if (component.tag.tagging == Tagging::explicit_) {
+        if (identifier.form != Form::constructed)
+            return decoder.fail(site, code::form_error);
+        result = decode_explicit(decoder, site, component, element.length, value);
+    } else {
+        const Type &content = decode_row(component);
+        if (component.tag.tagging == Tagging::none) {
+            result = decode_begun(decoder, content, identifier, element, value);
+        } else {
+            element.start = Element::no_start;
+            result = content.operations->decode_content(decoder, content, element, value);
+        }
+        if (result != success)
+            decoder.fail(site, decode_code(component), result);
+    }
+    if (result != success)
+        return result;
+    auto *choice = new_record<Choice>(decoder.arena());
+    if (choice == nullptr)
+        return decoder.fail(site, code::no_memory);
+    choice->shape = &shape;
+    choice->alternative = number;
+    choice->value = value;
+    out = choice;
+    return success;
+}
+
+Result decode_choice(Decoder &decoder, const Type &type, Value *&out) {
+    const ChoiceShape &shape = choice_of(type);
+    Identifier identifier;
+    int32_t length = 0;
+    const uint32_t start = decoder.position();
+    if (const Result result = decode_identifier(decoder, identifier); result != success)
+        return result;
+    if (find(shape, identifier) == shape.count)
+        return decoder.fail(in(shape), code::incorrect_item);
+    if (const Result result = decode_length(decoder, length); result != success)
+        return result;
+    if (!decoder.has_place())
+        return decoder.fail(in(shape), code::null_argument);
+    return decode_begun_choice(decoder, type, identifier, {identifier.form, length, start}, out);
+}
+
+size_t choice_reserve(size_t octets) {
+    return 256 + 4 * octets;
+}
+
+// Character string choices.
+
+int32_t string_choice_content_length(const Type &, Value *value, Measure measure) {
+    const auto *tagged = static_cast<const TaggedString *>(value);
+    return tagged != nullptr ? content_length(row(KOVRA_ASN1_TYPE_OCTET_STRING), tagged->string, measure) : unknown;
+}
+
+int32_t string_choice_length(const Type &type, Value *value, Measure measure) {
+    const int32_t content = string_choice_content_length(type, value, measure);
+    return content == unknown ? unknown : whole_length_of(static_cast<const TaggedString *>(value)->tag, content);
+}
+
+Result encode_string_choice_content(Encoder &encoder, const Type &type, Value *value, int32_t length) {
+    if (!encoder.has_stream() || value == nullptr)
+        return encoder.fail(in(strings_of(type)), code::null_argument);
+    const Type &octets = row(KOVRA_ASN1_TYPE_OCTET_STRING);
+    return octets.operations->encode_content(encoder, octets, static_cast<TaggedString *>(value)->string, length);
+}
+
+Result encode_string_choice(Encoder &encoder, const Type &type, Value *value) {
+    const Site site = in(strings_of(type));
+    if (!encoder.has_stream() || value == nullptr)
+        return encoder.fail(site, code::null_argument);
+    const int32_t length = string_choice_content_length(type, value, Measure::fresh);
+    if (length == unknown)
+        return encoder.fail(site, code::no_length);
+    const Form form = length == indefinite ? Form::constructed : Form::primitive;
+    Result result = encoder.identifier(site, Class::universal, form, static_cast<TaggedString *>(value)->tag);
+    if (result != success)
+        return encoder.fail(site, code::write_identifier, result);
+    if (result = encoder.length(site, length); result != success)
+        return encoder.fail(site, code::write_length, result);
+    return encode_string_choice_content(encoder, type, value, length);
+}
+
+bool string_choice_begins(const Type &type, const Identifier &identifier) {
+    return identifier.tag_class == Class::universal && allows(strings_of(type), identifier.tag);
+}
+
+Result decode_begun_string_choice(Decoder &decoder, const Type &type, const Identifier &identifier, Element element,
+                                  Value *&out) {
+    const Site site = in(strings_of(type));
+    const Type &octets = row(KOVRA_ASN1_TYPE_OCTET_STRING);
+    Value *string = nullptr;
+    const Result result = octets.operations->decode_content(decoder, octets, element, string);
+    if (result != success)
+        return decoder.fail(site, code::decode_octet_string, result);
+    auto *tagged = new_record<TaggedString>(decoder.arena());
+    if (tagged == nullptr)
+        return decoder.fail(site, code::no_memory);
+    tagged->tag = identifier.tag;
+    tagged->string = static_cast<String *>(string);
+    out = tagged;
+    return success;
+}
+
+Result decode_string_choice(Decoder &decoder, const Type &type, Value *&out) {
+    Identifier identifier;
+    int32_t length = 0;
+    const uint32_t start = decoder.position();
+    if (const Result result = decode_identifier(decoder, identifier); result != success)
+        return result;
+    if (!string_choice_begins(type, identifier))
+        return fail_decode(decoder, in(strings_of(type)), type);
+    if (const Result result = decode_length(decoder, length); result != success)
+        return result;
+    return decode_begun_string_choice(decoder, type, identifier, {identifier.form, length, start}, out);
+}
+
+} // namespace
+
+constexpr Operations choice_operations = {
+    .holds = holds_choice,
+    .content_length = choice_content_length,
+    .length = choice_length,
+    .encode_content = encode_choice_content,
+    .encode = encode_choice,
+    .decode_content = refuse_decode_content,
+    .decode = decode_choice,
+    .begins = choice_begins,
+    .decode_begun = decode_begun_choice,
+    .records_reserve = choice_reserve,
+};
+
+constexpr Operations string_choice_operations = {
+    .holds = holds_kind<TaggedString>,
+    .content_length = string_choice_content_length,
+    .length = string_choice_length,
+    .encode_content = encode_string_choice_content,
+    .encode = encode_string_choice,
+    .decode_content = refuse_decode_content,
+    .decode = decode_string_choice,
+    .begins = string_choice_begins,
+    .decode_begun = decode_begun_string_choice,
+    .records_reserve = leaf_reserve<2 * (sizeof(TaggedString) + sizeof(String))>,
+};
+
+Choice *construct_choice(const ChoiceShape &shape, uint32_t alternative, const kovra_asn1_value *value,
+                         uint8_t copied_as) {
+    const uint8_t type = copied_as != 0 ? copied_as : shape.alternatives[alternative].type;
+    Value *copy = value != nullptr ? duplicate(row(type), static_cast<const Value *>(value), nullptr) : nullptr;
+    if (copy == nullptr)
+        return nullptr;
+    auto *choice = new_root<Choice>();
+    if (choice == nullptr || !choice->arena->adopt(copy)) {
+        Arena::destroy(copy->arena);
+        if (choice != nullptr)
+            Arena::destroy(choice->arena);
+        return nullptr;
+    }
+    choice->shape = &shape;
+    choice->alternative = alternative;
+    choice->value = copy;
+    return choice;
+}
+
+const Choice *as_choice(const ChoiceShape &shape, const kovra_asn1_value *handle) {
+    const auto *choice = as<Choice>(handle);
+    return choice != nullptr && choice->shape == &shape ? choice : nullptr;
+}
+
+Value *alternative(const ChoiceShape &shape, const kovra_asn1_value *handle, uint32_t number) {
+    const Choice *choice = as_choice(shape, handle);
+    return choice != nullptr && choice->alternative == number ? choice->value : nullptr;
+}
+
+TaggedString *construct_string_choice(const StringChoice &shape, int32_t tag, const kovra_asn1_value *string) {
+    if (!allows(shape, tag) || as<String>(string) == nullptr)
+        return nullptr;
+    Value *copy = duplicate(row(KOVRA_ASN1_TYPE_OCTET_STRING), static_cast<const Value *>(string), nullptr);
+    if (copy == nullptr)
+        return nullptr;
+    auto *tagged = new_root<TaggedString>();
+    if (tagged == nullptr || !tagged->arena->adopt(copy)) {
+        Arena::destroy(copy->arena);
+        if (tagged != nullptr)
+            Arena::destroy(tagged->arena);
+        return nullptr;
+    }
+    tagged->tag = tag;
+    tagged->string = static_cast<String *>(copy);
+    return tagged;
+}
+
+} // namespace kovra::asn1

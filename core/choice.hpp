@@ -1,0 +1,46 @@
+// Choices as tables: like a structure's, with one row for each alternative, of which a value holds one.
+#pragma once
+
+#include "core/component.hpp"
+#include "core/value.hpp"
+
+namespace kovra::asn1 {
+
+struct ChoiceShape {
+    const char *source; // module that the entries of failures name
+    const Component *alternatives;
+    uint8_t count;
+    // Alternatives are told apart by class and tag number alone: whether the form fits is found when the content is
+    // read.
+    bool any_form = false;
+};
+
+template <size_t count>
+constexpr ChoiceShape choice(const char *source, const Component (&alternatives)[count], bool any_form = false) {
+    return {source, alternatives, count, any_form};
+}
+
+// A new choice that holds a copy of `value`, made as `copied_as` (0: as the alternative's type). Null when there is no
+// value, or it cannot be copied.
+Choice *construct_choice(const ChoiceShape &shape, uint32_t alternative, const kovra_asn1_value *value,
+                         uint8_t copied_as = 0);
+
+// The choice behind a handle, if it is one of this table.
+const Choice *as_choice(const ChoiceShape &shape, const kovra_asn1_value *handle);
+// Its value, borrowed, when it holds this alternative; else null.
+Value *alternative(const ChoiceShape &shape, const kovra_asn1_value *handle, uint32_t number);
+
+// Character string choices: the row of a TaggedString says which universal tags it may have.
+struct StringChoice {
+    const char *source;
+    uint32_t tags; // a bit for each universal tag number
+};
+
+constexpr bool allows(const StringChoice &shape, int32_t tag) {
+    return tag >= 0 && tag < 32 && (shape.tags >> tag & 1) != 0;
+}
+
+// A new string choice with a copy of an OCTET STRING's content; null when the tag is not allowed or it cannot be had.
+TaggedString *construct_string_choice(const StringChoice &shape, int32_t tag, const kovra_asn1_value *string);
+
+} // namespace kovra::asn1

@@ -1,0 +1,127 @@
+#include "core/component.hpp"
+
+#include "kovra/asn1_boolean.h"
+#include "kovra/asn1_integer.h"
+#include "kovra/asn1_types.h"
+
+namespace kovra::asn1 {
+
+const Type &encode_row(const Component &component) {
+    return row(component.encode_type != 0 ? component.encode_type : component.type);
+}
+const Type &decode_row(const Component &component) {
+    return row(component.decode_type != 0 ? component.decode_type : component.type);
+}
+int32_t encode_code(const Component &component) {
+    return component.encode_code != 0 ? component.encode_code : encode_row(component).base;
+}
+int32_t decode_code(const Component &component) {
+    return component.decode_code != 0 ? component.decode_code : decode_row(component).base + 1;
+}
+
+int32_t component_length(const Component &component, Value *value, Measure measure) {
+    const Type &type = encode_row(component);
+    switch (component.tag.tagging) {
+    case Tagging::none:
+        return whole_length(type, value, measure);
+    case Tagging::implicit:
+        return whole_length_of(component.tag.number, content_length(type, value, measure));
+    case Tagging::explicit_:
+        return whole_length_of(component.tag.number, whole_length(type, value, measure));
+    }
+    return unknown;
+}
+
+namespace {
+
+Result encode_tagged(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure) {
+    const Type &type = encode_row(component);
+    const bool is_explicit = component.tag.tagging == Tagging::explicit_;
+    const int32_t length = is_explicit ? whole_length(type, value, measure) : content_length(type, value, measure);
+    if (length < indefinite)
+        return encoder.fail(site, code::no_length);
+    const bool is_constructed = is_explicit || type.form == Form::constructed || length == indefinite;
+    Result result = encoder.identifier(site, Class::context, is_constructed ? Form::constructed : Form::primitive,
+                                       component.tag.number);
+    if (result != success)
+        return encoder.fail(site, code::write_identifier, result);
+    if (result = encoder.length(site, length); result != success)
+        return encoder.fail(site, code::write_length, result);
+    result = is_explicit ? encode(encoder, type, value, length >= 0 ? measure : Measure::fresh)
+                         : type.operations->encode_content(encoder, type, value, length);
+    if (result != success)
+        return encoder.fail(site, encode_code(component), result);
+    if (is_explicit && length == indefinite)
+        if (result = encoder.end_of_contents(site); result != success)
+            return encoder.fail(site, code::write_end_of_contents, result);
+    return success;
+}
+
+} // namespace
+
+Result encode_component(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure) {
+    if (component.tag.tagging != Tagging::none)
+        return encode_tagged(encoder, site, component, value, measure);
+    const Result result = encode(encoder, encode_row(component), value, measure);
+    return result == success ? success : encoder.fail(site, encode_code(component), result);
+}
+
+Result decode_component(Decoder &decoder, Site site, const Component &component, Value *&out) {
+    const Result result = decode(decoder, decode_row(component), out);
+    return result == success ? success : decoder.fail(site, decode_code(component), result);
+}
+
+Result decode_explicit(Decoder &decoder, Site site, const Component &component, int32_t length, Value *&out) {
+    const uint32_t begin = decoder.position();
+    if (const Result result = decode_component(decoder, site, component, out); result != success)
+        return result;
+    if (out->kind == Kind::any && static_cast<const Any *>(out)->end_of_contents)
+        return decoder.fail(site, code::incorrect_item);
+    if (length != indefinite)
+        return decoder.position() - begin == static_cast<uint32_t>(length) ? success
+                                                                           : decoder.fail(site, code::incorrect_length);
+    Value *none = nullptr;
+    const Result result = decode(decoder, row(KOVRA_ASN1_TYPE_END_OF_CONTENTS), none);
+    return result == success ? success : decoder.fail(site, code::read_end_of_contents, result);
+}
+
+namespace {
+
+Value *make_zero(Arena &arena) {
+    static constexpr uint8_t zero = 0;
+    auto *integer = new_record<Integer>(arena);
+    if (integer != nullptr)
+        integer->octets = {&zero, 0, 1};
+    return integer;
+}
+bool is_zero(const Value &value) {
+    int32_t number = 0;
+    return kovra_asn1_integer_getlong(&value, &number) == 1 && number == 0;
+}
+
+Value *make_boolean(Arena &arena, uint32_t word) {
+    auto *boolean = new_record<Boolean>(arena);
+    if (boolean != nullptr)
+        boolean->word = word;
+    return boolean;
+}
+Value *make_false(Arena &arena) {
+    return make_boolean(arena, 0);
+}
+Value *make_true(Arena &arena) {
+    return make_boolean(arena, 255);
+}
+bool is_false(const Value &value) {
+    return kovra_asn1_boolean_istrue(&value) == 0;
+}
+bool is_true(const Value &value) {
+    return kovra_asn1_boolean_istrue(&value) == 1;
+}
+
+} // namespace
+
+constexpr Default default_zero = {make_zero, is_zero};
+constexpr Default default_false = {make_false, is_false};
+constexpr Default default_true = {make_true, is_true};
+
+} // namespace kovra::asn1
