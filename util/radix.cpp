@@ -78,6 +78,29 @@ void multiply_plainly(uint32_t *product, const uint32_t *left, const uint32_t *r
     }
 }
 
+// Division by 10^9 is what costs here: whole columns are summed before it, which 64 bits hold with one reduction.
+template <>
+void multiply_plainly<Decimal>(uint32_t *product, const uint32_t *left, const uint32_t *right, size_t count) {
+    constexpr uint64_t much = 8 * Decimal::base * Decimal::base; // two products more still fit
+    uint64_t carry = 0;
+    for (size_t column = 0; column + 1 < 2 * count; ++column) {
+        uint64_t sum = 0;
+        uint64_t next = 0;
+        const size_t last = column < count ? column : count - 1;
+        for (size_t i = column - last; i <= last; ++i) {
+            sum += uint64_t{left[i]} * right[column - i];
+            if (sum >= much) {
+                sum -= much;
+                next += 8 * Decimal::base;
+            }
+        }
+        sum += carry;
+        product[column] = static_cast<uint32_t>(sum % Decimal::base);
+        carry = sum / Decimal::base + next;
+    }
+    product[2 * count - 1] = static_cast<uint32_t>(carry);
+}
+
 // Karatsuba: a0 b1 + a1 b0 = a0 b0 + a1 b1 + (a0 - a1)(b1 - b0). The product has 2 * count digits, the scratch room as
 // many. A count above plain_product is even, and so is its half while above it. Depth: log2 of the count.
 template <class Base>
