@@ -55,6 +55,7 @@ KOVRA_UTIL_API void *kovra_pemdecode(const char *text, int64_t length, const cha
  * than printable ASCII, a negative length, null data with a positive length, and when memory is short. */
 KOVRA_UTIL_API char *kovra_pemencode(const void *data, int32_t length, const char *label,
                                      int64_t *out_length) KOVRA_NOTHROW;
+
 /* kovra_pemnext gives the next block at or after `*position`, whatever its label, by the rules of kovra_pemdecode: 1
  * with the octets in `*out_data`, the label as a slice of the text in `*out_label` (both label pointers may be null)
  * and `*position` behind the block. 0 when there is none, and for null text, position or data pointers or a position

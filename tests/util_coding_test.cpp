@@ -1,0 +1,229 @@
+#include <optional>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "util_handles.hpp"
+
+using namespace kovra::test;
+
+namespace {
+
+using Result = std::optional<std::string>;
+
+// Copied to memory of exactly that size, so that reading beyond it is seen.
+template <class Decode> Result decoded(const std::string &text, Decode decode) {
+    const std::vector<char> exact(text.begin(), text.end());
+    int32_t length = -1;
+    const Memory<void> octets(decode(exact.data(), static_cast<int64_t>(exact.size()), &length));
+    if (octets == nullptr) {
+        EXPECT_EQ(0, length);
+        return std::nullopt;
+    }
+    return std::string(static_cast<const char *>(octets.get()), static_cast<size_t>(length));
+}
+
+Result from_hex(const std::string &text) {
+    return decoded(text, kovra_hexdecode);
+}
+
+Result from_base64(const std::string &text, int32_t mode) {
+    return decoded(
+        text, [&](const char *t, int64_t length, int32_t *out) { return kovra_base64decode(t, length, mode, out); });
+}
+
+Result from_pem(const std::string &text, const char *label) {
+    return decoded(text,
+                   [&](const char *t, int64_t length, int32_t *out) { return kovra_pemdecode(t, length, label, out); });
+}
+
+template <class Encode, class Parameter>
+std::string encoded(Encode encode, const std::string &octets, Parameter parameter) {
+    int64_t length = -1;
+    const Memory<char> text(encode(octets.data(), size_of(octets), parameter, &length));
+    if (text == nullptr)
+        return "(null)";
+    EXPECT_EQ(static_cast<size_t>(length), strlen(text.get()));
+    return text.get();
+}
+
+} // namespace
+
+TEST(UtilCoding, Hexadecimal) {
+    const std::string octets("\x00\x7F\xA5\xFF", 4);
+    EXPECT_EQ("007fa5ff", encoded(kovra_hexencode, octets, KOVRA_HEX_LOWER));
+    EXPECT_EQ("007FA5FF", encoded(kovra_hexencode, octets, KOVRA_HEX_UPPER));
+    EXPECT_EQ("", encoded(kovra_hexencode, "", KOVRA_HEX_LOWER));
+    EXPECT_EQ("(null)", encoded(kovra_hexencode, octets, 3));
+    EXPECT_EQ(octets, from_hex("007fA5Ff"));
+    EXPECT_EQ("", from_hex(""));
+    for (const char *bad : {"0", "0g", "g0", "00 1", "0x00", "00\n0", "\xC3\xA4"})
+        EXPECT_EQ(std::nullopt, from_hex(bad)) << bad;
+    EXPECT_EQ(std::nullopt, from_hex(std::string("0\0", 2)));
+    EXPECT_EQ(nullptr, kovra_hexencode(nullptr, 1, 1, nullptr));
+    EXPECT_EQ(nullptr, kovra_hexencode("a", -1, 1, nullptr));
+    EXPECT_EQ(nullptr, kovra_hexdecode(nullptr, 2, nullptr));
+    EXPECT_EQ(nullptr, kovra_hexdecode("00", -2, nullptr));
+}
+
+TEST(UtilCoding, Base64Vectors) {
+    // RFC 4648, section 10, and the two last characters of the alphabet.
+    const char *rows[][2] = {{"", ""},
+                             {"f", "Zg=="},
+                             {"fo", "Zm8="},
+                             {"foo", "Zm9v"},
+                             {"foob", "Zm9vYg=="},
+                             {"fooba", "Zm9vYmE="},
+                             {"foobar", "Zm9vYmFy"},
+                             {"\xFB\xEF\xFF", "++//"}};
+    for (const auto &[octets, text] : rows) {
+        EXPECT_EQ(text, encoded(kovra_base64encode, octets, 0));
+        EXPECT_EQ(octets, from_base64(text, KOVRA_BASE64_STRICT));
+        EXPECT_EQ(octets, from_base64(text, KOVRA_BASE64_IGNORE_SPACE));
+        EXPECT_EQ(std::nullopt, from_base64(text, 3));
+        // White space anywhere is for mode 2 only.
+        for (size_t at = 0; at <= strlen(text); ++at) {
+            std::string spaced = text;
+            spaced.insert(at, " \t\r\n\v\f");
+            EXPECT_EQ(octets, from_base64(spaced, KOVRA_BASE64_IGNORE_SPACE)) << spaced;
+            EXPECT_EQ(std::nullopt, from_base64(spaced, KOVRA_BASE64_STRICT)) << spaced;
+        }
+    }
+}
+
+TEST(UtilCoding, Base64Refusals) {
+    const struct {
+        const char *why;
+        std::vector<const char *> texts;
+    } rows[] = {
+        {"padding is missing", {"Z", "Zg", "Zg=", "Zm8", "Zm9vZ", "Zm9vZg=", "Zm9vZm8"}},
+        {"too much or misplaced padding", {"=", "====", "Z===", "Zm9v=", "Zm9v====", "Zg===", "Zm8==", "Zg=a", "Z=g="}},
+        {"something follows", {"Zg==Zg==", "Zm8=Zm9v", "Zg==a"}},
+        {"idle bits are not 0", {"Zh==", "Zm9=", "Zv==", "Zm//Zg/="}},
+        {"not in the alphabet", {"Zm9\xC3", "Zm9-", "Zm9_", "Zm*v", "Zm9v!", "Zm9v\x7F"}},
+    };
+    for (const auto &row : rows)
+        for (const char *text : row.texts)
+            for (const int32_t mode : {KOVRA_BASE64_STRICT, KOVRA_BASE64_IGNORE_SPACE})
+                EXPECT_EQ(std::nullopt, from_base64(text, mode)) << row.why << ": " << text;
+    EXPECT_EQ(std::nullopt, from_base64(std::string("Zm9\0", 4), KOVRA_BASE64_IGNORE_SPACE));
+    EXPECT_EQ(nullptr, kovra_base64decode(nullptr, 4, 1, nullptr));
+    EXPECT_EQ(nullptr, kovra_base64decode("Zm9v", -4, 1, nullptr));
+    EXPECT_EQ(nullptr, kovra_base64encode("a", 1, -1, nullptr));
+    EXPECT_EQ(nullptr, kovra_base64encode("a", -1, 0, nullptr));
+    EXPECT_EQ(nullptr, kovra_base64encode(nullptr, 1, 0, nullptr));
+}
+
+TEST(UtilCoding, EveryLengthComesBackInEveryArmour) {
+    EXPECT_EQ("Zm9v\nYmFy\n", encoded(kovra_base64encode, "foobar", 4));
+    EXPECT_EQ("Zm9vY\nmFy\n", encoded(kovra_base64encode, "foobar", 5));
+    for (size_t size = 0; size < 200; ++size) {
+        const std::string octets = noise(size);
+        ASSERT_EQ(octets, from_hex(encoded(kovra_hexencode, octets, KOVRA_HEX_UPPER)));
+        for (const int32_t line : {1, 3, 64, 76})
+            ASSERT_EQ(octets, from_base64(encoded(kovra_base64encode, octets, line), KOVRA_BASE64_IGNORE_SPACE));
+        const std::string pem = encoded(kovra_pemencode, octets, "X509 CRL");
+        ASSERT_EQ(octets, from_pem(pem, "X509 CRL"));
+        for (size_t cut = 0; cut + 1 < pem.size(); cut += 7)
+            ASSERT_EQ(std::nullopt, from_pem(pem.substr(0, cut), "X509 CRL")) << cut;
+    }
+}
+
+TEST(UtilCoding, PemText) {
+    EXPECT_EQ("-----BEGIN A B-----\n" + std::string(64, 'A') + "\nAAA=\n-----END A B-----\n",
+              encoded(kovra_pemencode, std::string(50, '\0'), "A B"));
+    EXPECT_EQ("-----BEGIN -----\n-----END -----\n", encoded(kovra_pemencode, "", ""));
+    for (const char *bad : {"a\nb", "a\rb", "\xC3\xA4", "a\tb"})
+        EXPECT_EQ("(null)", encoded(kovra_pemencode, "a", bad));
+    EXPECT_EQ(nullptr, kovra_pemencode("a", 1, nullptr, nullptr));
+
+    const struct {
+        const char *what;
+        std::string text;
+        Result expected;
+    } rows[] = {
+        {"plain", "-----BEGIN T-----\nZm9v\n-----END T-----\n", "foo"},
+        {"no final newline", "-----BEGIN T-----\nZm9v\n-----END T-----", "foo"},
+        {"CR LF", "-----BEGIN T-----\r\nZm9v\r\nYmFy\r\n-----END T-----\r\n", "foobar"},
+        {"blanks at line ends", "-----BEGIN T----- \t\nZm9v \n-----END T-----  ", "foo"},
+        {"empty", "-----BEGIN T-----\n-----END T-----\n", ""},
+        {"blank lines", "-----BEGIN T-----\n\n\nZm9v\n\n-----END T-----\n", "foo"},
+        {"text around", "subject: -----BEGIN T-----\n----\nBEGIN\n-----BEGIN T-----\nZm9v\n-----END T-----\nmore",
+         "foo"},
+        {"byte order mark", "\xEF\xBB\xBF-----BEGIN T-----\nZm9v\n-----END T-----\n", "foo"},
+        {"headers", "-----BEGIN T-----\nProc-Type: 4,ENCRYPTED\nDEK-Info: AES,\n 00FF\n\tAB\n\nZm9v\n-----END T-----\n",
+         "foo"},
+        {"headers, CR LF", "-----BEGIN T-----\r\nA: b\r\n\r\nZm9v\r\n-----END T-----\r\n", "foo"},
+        {"headers, no blank line", "-----BEGIN T-----\nA: b\nZm9v\n-----END T-----\n", "foo"},
+        {"headers only", "-----BEGIN T-----\nA: b\n\n-----END T-----\n", ""},
+        {"header after the body began", "-----BEGIN T-----\nZm9v\nA: b\n-----END T-----\n", std::nullopt},
+        {"first of two", "-----BEGIN T-----\nZm9v\n-----END T-----\n-----BEGIN T-----\nYmFy\n-----END T-----\n", "foo"},
+        {"after others",
+         "-----BEGIN TT-----\n*\n-----END TT-----\n-----BEGIN t-----\nYmFy\n-----END t-----\n"
+         "-----BEGIN T-----\nZm9v\n-----END T-----\n",
+         "foo"},
+        {"after an unfinished other", "-----BEGIN U-----\nYmFy\n-----BEGIN T-----\nZm9v\n-----END T-----\n", "foo"},
+        {"unfinished, then good", "-----BEGIN T-----\nYmFy\n-----BEGIN T-----\nZm9v\n-----END T-----\n", std::nullopt},
+        {"no end", "-----BEGIN T-----\nZm9v\n", std::nullopt},
+        {"end of another", "-----BEGIN T-----\nZm9v\n-----END U-----\n-----END T-----\n", std::nullopt},
+        {"end not at a line start", "-----BEGIN T-----\nZm9v-----END T-----\n", std::nullopt},
+        {"begin not at a line start", " -----BEGIN T-----\nZm9v\n-----END T-----\n", std::nullopt},
+        {"bad base64", "-----BEGIN T-----\nZm9\n-----END T-----\n", std::nullopt},
+        {"four dashes", "-----BEGIN T----\nZm9v\n-----END T----\n", std::nullopt},
+        {"only overlapping dashes", "-----BEGIN -----END -----", std::nullopt},
+        {"nothing", "", std::nullopt},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(row.expected, from_pem(row.text, "T")) << row.what;
+    EXPECT_EQ(nullptr, kovra_pemdecode(nullptr, 0, "T", nullptr));
+    EXPECT_EQ(nullptr, kovra_pemdecode("", -1, "T", nullptr));
+    EXPECT_EQ(nullptr, kovra_pemdecode("", 0, nullptr, nullptr));
+}
+
+TEST(UtilCoding, PemBlocksOneByOne) {
+    const std::string text =
+        "intro\n-----BEGIN A-----\nZm9v\n-----END A-----\n-----BEGIN BB-----\nZm9v!\n-----END BB-----\n"
+        "-----BEGIN C-----\nZm9v\n-----BEGIN D-----\n-----END D-----\n-----BEGIN E-----\n";
+    const struct {
+        int32_t result;
+        const char *label;
+        const char *octets;
+    } expected[] = {{1, "A", "foo"}, {-1, "BB", nullptr}, {-1, "C", nullptr},
+                    {1, "D", ""},    {-1, "E", nullptr},  {0, "", nullptr}};
+    int64_t position = 0;
+    for (const auto &row : expected) {
+        const char *label = nullptr;
+        int32_t label_length = -1;
+        void *data = nullptr;
+        int32_t length = -1;
+        EXPECT_EQ(row.result,
+                  kovra_pemnext(text.data(), size_of(text), &position, &label, &label_length, &data, &length));
+        const Memory<void> octets(data);
+        EXPECT_EQ(row.label, std::string(label == nullptr ? "" : label, static_cast<size_t>(label_length)));
+        EXPECT_EQ(row.octets != nullptr, data != nullptr);
+        if (data != nullptr) {
+            EXPECT_EQ(row.octets, std::string(static_cast<const char *>(data), static_cast<size_t>(length)));
+        }
+    }
+    EXPECT_EQ(size_of(text), position);
+
+    void *data = nullptr;
+    int32_t length = 0;
+    for (int64_t outside : {int64_t{-1}, int64_t{size_of(text)} + 1})
+        EXPECT_EQ(0, kovra_pemnext(text.data(), size_of(text), &outside, nullptr, nullptr, &data, &length));
+}
+
+// Would take hours if each block were searched for its end anew.
+TEST(UtilCoding, PemWithoutEndsIsReadOnce) {
+    std::string text;
+    for (int i = 0; i < 200000; ++i)
+        text += "-----BEGIN " + std::to_string(i) + "-----\n";
+    int64_t position = 0;
+    int32_t blocks = 0;
+    void *data = nullptr;
+    int32_t length = 0;
+    while (kovra_pemnext(text.data(), size_of(text), &position, nullptr, nullptr, &data, &length) == -1)
+        ++blocks;
+    EXPECT_EQ(200000, blocks);
+    EXPECT_EQ(std::nullopt, from_pem(text, "T"));
+}

@@ -1,0 +1,181 @@
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "util_handles.hpp"
+
+using namespace kovra::test;
+
+namespace {
+
+std::string octets_of(const BigInteger &number) {
+    const Blob blob(kovra_biginteger_getdata(number.get()));
+    return text_of(blob.get());
+}
+
+BigInteger number_of(const std::string &octets) {
+    return BigInteger(kovra_biginteger_newdata(octets.data(), size_of(octets)));
+}
+
+std::string decimal_of(const BigInteger &number) {
+    return Memory<char>(kovra_biginteger_todecimal(number.get())).get();
+}
+
+std::string hex_of(const BigInteger &number) {
+    return Memory<char>(kovra_biginteger_tohex(number.get())).get();
+}
+
+} // namespace
+
+TEST(UtilBigInteger, OctetsAndTexts) {
+    using namespace std::string_literals;
+    // As few octets as possible, decimal text, hexadecimal text.
+    const struct {
+        std::string octets;
+        const char *decimal;
+        const char *hex;
+    } rows[] = {
+        {"\0"s, "0", "0"},
+        {"\x01", "1", "1"},
+        {"\x7F", "127", "7f"},
+        {"\0\x80"s, "128", "80"},
+        {"\xFF", "-1", "-1"},
+        {"\x80", "-128", "-80"},
+        {"\xFF\x7F", "-129", "-81"},
+        {"\xFF\0"s, "-256", "-100"},
+        {"\x80\0\0\0"s, "-2147483648", "-80000000"},
+        {"\0\xFF\xFF\xFF\xFF"s, "4294967295", "ffffffff"},
+        {"\x3B\x9A\xC9\xFF", "999999999", "3b9ac9ff"},
+        {"\x3B\x9A\xCA\0"s, "1000000000", "3b9aca00"},
+        {"\x0D\xE0\xB6\xB3\xA7\x64\0\0"s, "1000000000000000000", "de0b6b3a7640000"},
+        {"\xF2\x1F\x49\x4C\x58\x9C\0\0"s, "-1000000000000000000", "-de0b6b3a7640000"},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.decimal);
+        const BigInteger number = number_of(row.octets);
+        EXPECT_EQ(row.decimal, decimal_of(number));
+        EXPECT_EQ(row.hex, hex_of(number));
+        EXPECT_EQ(row.octets, octets_of(BigInteger(kovra_biginteger_newdecimal(row.decimal))));
+        EXPECT_EQ(row.octets, octets_of(BigInteger(kovra_biginteger_newhex(row.hex))));
+        // Redundant octets are kept, and do not change the value.
+        const std::string redundant = std::string(5, row.octets[0] < 0 ? '\xFF' : '\0') + row.octets;
+        const BigInteger same = number_of(redundant);
+        const BigInteger copy(kovra_biginteger_dup(same.get()));
+        EXPECT_EQ(redundant, octets_of(copy));
+        EXPECT_EQ(row.decimal, decimal_of(copy));
+        int32_t order = 9;
+        EXPECT_EQ(1, kovra_biginteger_compare(number.get(), copy.get(), &order));
+        EXPECT_EQ(0, order);
+    }
+    EXPECT_EQ("-31", decimal_of(BigInteger(kovra_biginteger_newhex("-1F"))));
+    EXPECT_EQ("0", hex_of(BigInteger(kovra_biginteger_newdecimal("-000000000000"))));
+    for (const char *bad : {"", "-", "+1", " 1", "1 ", "--1", "1-", "0x1", "g", "12a4567890\xFF"})
+        EXPECT_EQ(nullptr, kovra_biginteger_newdecimal(bad)) << bad;
+    for (const char *bad : {"", "-", "+1", " 1", "0x1", "g", "1:2"})
+        EXPECT_EQ(nullptr, kovra_biginteger_newhex(bad)) << bad;
+    EXPECT_EQ(nullptr, kovra_biginteger_newdata(nullptr, 1));
+    EXPECT_EQ(nullptr, kovra_biginteger_newdata("a", 0));
+    EXPECT_EQ(nullptr, kovra_biginteger_newdecimal(nullptr));
+}
+
+TEST(UtilBigInteger, OrderIsThatOfTheValues) {
+    const char *ascending[] = {"-80000000000", "-1000001", "-1000000", "-10000",
+                               "-ffff",        "-100",     "-81",      "-80",
+                               "-2",           "-1",       "0",        "1",
+                               "7f",           "80",       "ff",       "100",
+                               "101",          "ffff",     "10000",    "fffffffffffffffffffff"};
+    for (size_t i = 0; i < std::size(ascending); ++i)
+        for (size_t j = 0; j < std::size(ascending); ++j) {
+            const BigInteger left(kovra_biginteger_newhex(ascending[i]));
+            const BigInteger right(kovra_biginteger_newhex(ascending[j]));
+            int32_t order = 9;
+            EXPECT_EQ(1, kovra_biginteger_compare(left.get(), right.get(), &order));
+            EXPECT_EQ(i < j ? -1 : (i > j ? 1 : 0), order) << ascending[i] << " " << ascending[j];
+        }
+}
+
+// Sizes around every change of method: plain, one level of halves, several; both carries and borrows all the way.
+TEST(UtilBigInteger, LargeNumbersSurviveDecimalText) {
+    std::mt19937 random(7);
+    for (const size_t size : {4, 100, 112, 113, 223, 224, 225, 447, 449, 900, 1791, 1793, 5000, 14337}) {
+        for (const int pattern : {0, 1, 2, 3}) {
+            std::string octets(size, pattern == 1 ? '\xFF' : '\0');
+            if (pattern == 0)
+                for (char &octet : octets)
+                    octet = static_cast<char>(random());
+            octets[0] = pattern == 3 ? '\x80' : '\x4C';
+            const BigInteger number = number_of(octets);
+            const std::string decimal = decimal_of(number);
+            ASSERT_EQ(octets, octets_of(BigInteger(kovra_biginteger_newdecimal(decimal.c_str())))) << size;
+
+            // An independent check of the digits: both texts leave the same rest modulo a prime.
+            constexpr uint64_t prime = 1'000'003;
+            uint64_t by_hex = 0;
+            uint64_t by_decimal = 0;
+            for (const char c : hex_of(number))
+                if (c != '-')
+                    by_hex = (by_hex * 16 + static_cast<uint64_t>(c <= '9' ? c - '0' : c - 'a' + 10)) % prime;
+            for (const char c : decimal)
+                if (c != '-')
+                    by_decimal = (by_decimal * 10 + static_cast<uint64_t>(c - '0')) % prime;
+            ASSERT_EQ(by_hex, by_decimal) << size;
+        }
+    }
+    // Powers of ten have texts that are known.
+    for (const size_t zeros : {9, 243, 252, 261, 500, 999, 3000, 9999}) {
+        for (const std::string &text : {"1" + std::string(zeros, '0'), "-" + std::string(zeros, '9')})
+            ASSERT_EQ(text, decimal_of(BigInteger(kovra_biginteger_newdecimal(text.c_str()))));
+    }
+}
+
+TEST(UtilBitSet, GrowsWithClearBits) {
+    const BitSet set(kovra_bitset_empty());
+    std::vector<bool> model;
+    std::mt19937 random(3);
+    for (int step = 0; step < 2000; ++step) {
+        const size_t bit = random() % (static_cast<size_t>(step) * 2 + 1);
+        const bool value = random() % 2 == 0;
+        if (bit >= model.size())
+            model.resize(bit + 1);
+        model[bit] = value;
+        const auto change = value ? kovra_bitset_set : kovra_bitset_clear;
+        ASSERT_EQ(1, change(set.get(), static_cast<int32_t>(bit)));
+        ASSERT_EQ(static_cast<int32_t>(model.size()), kovra_bitset_getsize(set.get()));
+    }
+    int32_t unused = -1;
+    const Blob blob(kovra_bitset_getdata(set.get(), &unused));
+    const std::string octets = text_of(blob.get());
+    ASSERT_EQ(model.size(), octets.size() * 8 - static_cast<size_t>(unused));
+    const BitSet copy(kovra_bitset_new(unused, octets.data(), size_of(octets)));
+    for (size_t bit = 0; bit < octets.size() * 8; ++bit) {
+        const bool expected = bit < model.size() && model[bit];
+        ASSERT_EQ(expected, (static_cast<uint8_t>(octets[bit / 8]) >> (7 - bit % 8) & 1) != 0);
+        ASSERT_EQ(expected ? 1 : 0, kovra_bitset_test(set.get(), static_cast<int32_t>(bit)));
+        ASSERT_EQ(expected ? 1 : 0, kovra_bitset_test(copy.get(), static_cast<int32_t>(bit)));
+    }
+}
+
+TEST(UtilBitSet, EdgesAndRefusals) {
+    const BitSet set(kovra_bitset_new(5, "\xFF", 1));
+    EXPECT_EQ(3, kovra_bitset_getsize(set.get()));
+    EXPECT_EQ(1, kovra_bitset_clear(set.get(), 9));
+    int32_t unused = -1;
+    EXPECT_EQ(std::string("\xE0\0", 2), text_of(Blob(kovra_bitset_getdata(set.get(), &unused)).get()));
+    EXPECT_EQ(6, unused);
+    for (const int32_t bit : {-1, INT32_MIN, INT32_MAX}) {
+        EXPECT_EQ(0, kovra_bitset_set(set.get(), bit));
+        EXPECT_EQ(0, kovra_bitset_clear(set.get(), bit));
+        EXPECT_EQ(0, kovra_bitset_test(set.get(), bit));
+    }
+    EXPECT_EQ(10, kovra_bitset_getsize(set.get()));
+
+    const BitSet none(kovra_bitset_new(0, nullptr, 0));
+    EXPECT_EQ("", text_of(Blob(kovra_bitset_getdata(none.get(), &unused)).get()));
+    EXPECT_EQ(0, unused);
+    EXPECT_EQ(nullptr, kovra_bitset_new(1, "", 0));
+    EXPECT_EQ(nullptr, kovra_bitset_new(8, "a", 1));
+    EXPECT_EQ(nullptr, kovra_bitset_new(-1, "a", 1));
+    EXPECT_EQ(nullptr, kovra_bitset_new(0, nullptr, 1));
+    EXPECT_EQ(nullptr, kovra_bitset_new(0, "a", -1));
+    EXPECT_EQ(nullptr, kovra_bitset_new(0, "a", 1 << 28)) << "more bits than can be counted; not read";
+}
