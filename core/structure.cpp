@@ -60,6 +60,8 @@ Result keep(Encoder &encoder, Site site, int64_t begin, Arena &arena, Octets &ou
 int32_t measure(const Structure &shape, Record &record) {
     int64_t total = 0;
     record.measured = unknown;
+    if (shape.content != nullptr)
+        return record.measured = content_length(*shape.content, record.slots[0]);
     for (uint8_t i = 0; i < shape.count; ++i) {
         Value *value = record.slots[i];
         const Component &component = shape.components[i];
@@ -110,6 +112,8 @@ Result encode_structure_content(Encoder &encoder, const Type &type, Value *value
         return encoder.fail(in(shape), code::bad_argument);
     if (shape.allows != nullptr && !shape.allows(*record))
         return encoder.fail(in(shape), shape.refusal);
+    if (shape.content != nullptr)
+        return shape.content->operations->encode_content(encoder, *shape.content, record->slots[0], length);
     // Measuring stops at the first component of indefinite length: what follows it was not measured.
     const Measure measure = length >= 0 && record->measured >= 0 ? Measure::known : Measure::fresh;
     for (uint8_t i = 0; i < shape.count; ++i) {
@@ -314,7 +318,11 @@ Result decode_structure_content(Decoder &decoder, const Type &type, Element elem
     Record *record = new_record_of(decoder.arena(), *shape.shape());
     if (record == nullptr)
         return decoder.fail(in(shape), code::no_memory);
-    if (const Result result = Reader(decoder, shape, element, *record).read(); result != success)
+    const Result result =
+        shape.content != nullptr
+            ? shape.content->operations->decode_content(decoder, *shape.content, element, record->slots[0])
+            : Reader(decoder, shape, element, *record).read();
+    if (result != success)
         return result;
     if (shape.allows != nullptr && !shape.allows(*record))
         return decoder.fail(in(shape), shape.refusal);

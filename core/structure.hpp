@@ -27,6 +27,8 @@ struct Structure {
     bool (*allows)(const Record &) = nullptr;
     int32_t refusal = 0;
     bool refuses_length = false; // and has no content length either
+    // The only component is a list whose content is the structure's own; null: the components stand one after another.
+    const Type *content = nullptr;
 
     [[nodiscard]] constexpr const Structure *shape() const { return record != nullptr ? record : this; }
 };
@@ -34,6 +36,24 @@ struct Structure {
 template <size_t count> constexpr Structure structure(const char *source, const Component (&components)[count]) {
     static_assert(count < no_slot);
     return {source, components, count};
+}
+// A list that keeps its encoding, which lists by themselves do not.
+template <size_t count>
+constexpr Structure list_structure(const char *source, const Component (&components)[count], const Type &content) {
+    static_assert(count == 1);
+    Structure made = structure(source, components);
+    made.content = &content;
+    return made;
+}
+// The records of another structure, of which only some are allowed.
+constexpr Structure restricted(const Structure &base, bool (*allows)(const Record &), int32_t refusal,
+                               bool refuses_length) {
+    Structure made = base;
+    made.record = &base;
+    made.allows = allows;
+    made.refusal = refusal;
+    made.refuses_length = refuses_length;
+    return made;
 }
 // A structure that is signed: its first component is what the signature covers.
 template <size_t count> constexpr Structure signed_structure(const char *source, const Component (&components)[count]) {

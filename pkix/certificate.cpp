@@ -1,0 +1,199 @@
+// Certificate and CertificatePair (RFC 5280, 4.1; X.509, 11.2).
+
+#include "core/descriptors.hpp"
+#include "core/structure.hpp"
+#include "kovra/asn1_types.h"
+#include "kovra/asn1_x509.h"
+#include "pkix/signed.hpp"
+
+namespace kovra::asn1 {
+
+namespace {
+
+constexpr char source[] = "ASN1_X509";
+Site here(int32_t line = __builtin_LINE()) {
+    return {source, line};
+}
+
+// TBSCertificate ::= SEQUENCE {
+//     version               [0] EXPLICIT INTEGER DEFAULT v1(0),
+//     serialNumber          INTEGER,
+//     signature             AlgorithmIdentifier,
+//     issuer                Name,
+//     validity              Validity,
+//     subject               Name,
+//     subjectPublicKeyInfo  SubjectPublicKeyInfo,
+//     issuerUniqueID        [1] IMPLICIT BIT STRING OPTIONAL,
+//     subjectUniqueID       [2] IMPLICIT BIT STRING OPTIONAL,
+//     extensions            [3] EXPLICIT Extensions OPTIONAL }
+// No version is tied to the components that follow it.
+namespace tbs {
+enum Slot : uint8_t {
+    version,
+    serial_number,
+    signature,
+    issuer,
+    validity,
+    subject,
+    subject_public_key_info,
+    issuer_unique_id,
+    subject_unique_id,
+    extensions,
+};
+constexpr Component components[] = {
+    defaulted("version", KOVRA_ASN1_TYPE_INTEGER, default_zero, explicit_tag(0)),
+    required("serialNumber", KOVRA_ASN1_TYPE_INTEGER),
+    required("signature", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
+    required("issuer", KOVRA_ASN1_TYPE_NAME),
+    required("validity", KOVRA_ASN1_TYPE_VALIDITY),
+    required("subject", KOVRA_ASN1_TYPE_NAME),
+    required("subjectPublicKeyInfo", KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO),
+    optional("issuerUniqueID", KOVRA_ASN1_TYPE_BIT_STRING, implicit_tag(1)),
+    optional("subjectUniqueID", KOVRA_ASN1_TYPE_BIT_STRING, implicit_tag(2)),
+    optional("extensions", KOVRA_ASN1_TYPE_EXTENSIONS, explicit_tag(3)),
+};
+static_assert(is_sound(components));
+} // namespace tbs
+
+// Certificate ::= SEQUENCE {
+//     tbsCertificate      TBSCertificate,
+//     signatureAlgorithm  AlgorithmIdentifier,
+//     signatureValue      BIT STRING }
+constexpr Component certificate_components[] = {
+    required("tbsCertificate", KOVRA_ASN1_TYPE_TBS_CERTIFICATE),
+    required("signatureAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
+    required("signatureValue", KOVRA_ASN1_TYPE_BIT_STRING),
+};
+
+// CertificatePair ::= SEQUENCE {
+//     issuedToThisCA  [0] EXPLICIT Certificate OPTIONAL,
+//     issuedByThisCA  [1] EXPLICIT Certificate OPTIONAL }
+// A certificate that cannot be decoded is reported with the code of the to-be-signed part.
+namespace pair {
+enum Slot : uint8_t { issued_to_this_ca, issued_by_this_ca };
+constexpr Component components[] = {
+    optional("issuedToThisCA", KOVRA_ASN1_TYPE_CERTIFICATE, explicit_tag(0)).codes(0x10258, 0x10257),
+    optional("issuedByThisCA", KOVRA_ASN1_TYPE_CERTIFICATE, explicit_tag(1)).codes(0x10258, 0x10257),
+};
+static_assert(is_sound(components));
+} // namespace pair
+
+constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATE, "CERTIFICATE", nullptr};
+
+} // namespace
+
+constexpr Structure tbs_certificate = structure(source, tbs::components);
+constexpr Structure certificate = signed_structure(source, certificate_components);
+constexpr Structure certificate_pair = structure(source, pair::components);
+
+namespace {
+
+Value *tbs_component(const kovra_asn1_value *obj, uint8_t slot) {
+    return component(tbs_certificate, component(certificate, obj, signed_object::to_be_signed), slot);
+}
+
+} // namespace
+
+} // namespace kovra::asn1
+
+using namespace kovra::asn1;
+
+kovra_asn1_value *kovra_x509TBSCertificate_new(const kovra_asn1_value *version, const kovra_asn1_value *serial_number,
+                                               const kovra_asn1_value *signature, const kovra_asn1_value *issuer,
+                                               const kovra_asn1_value *validity_period, const kovra_asn1_value *subject,
+                                               const kovra_asn1_value *subject_public_key,
+                                               const kovra_asn1_value *issuer_unique_id,
+                                               const kovra_asn1_value *subject_unique_id,
+                                               const kovra_asn1_value *extensions) noexcept {
+    return construct(tbs_certificate, version, serial_number, signature, issuer, validity_period, subject,
+                     subject_public_key, issuer_unique_id, subject_unique_id, extensions);
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_create(const kovra_asn1_value *tbs_value,
+                                              const kovra_asn1_value *signature_value) noexcept {
+    return assemble(certificate, KOVRA_ASN1_TYPE_CERTIFICATE, tbs_value,
+                    component(tbs_certificate, tbs_value, tbs::signature), signature_value);
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_new(const void *data, int32_t length, kovra_err_ctx *ctx) noexcept {
+    return load(here(), armour, data, length, ctx);
+}
+
+kovra_asn1_value *kovra_x509certpair_new(const kovra_asn1_value *issued_to_this_ca,
+                                         const kovra_asn1_value *issued_by_this_ca) noexcept {
+    if (issued_to_this_ca == nullptr && issued_by_this_ca == nullptr)
+        return nullptr;
+    return construct(certificate_pair, issued_to_this_ca, issued_by_this_ca);
+}
+
+int32_t kovra_x509pubkeycert_gettbsocts(kovra_asn1_value *obj, void *buffer, int32_t *length_in_out) noexcept {
+    return copy_signed_octets(as_record(certificate, obj), buffer, length_in_out);
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getversion(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::version);
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getserialno(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::serial_number);
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getinnersignalgo(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::signature);
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getissuer(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::issuer);
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getvalidity(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::validity);
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getsubject(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::subject);
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getpubkey(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::subject_public_key_info);
+}
+
+int32_t kovra_x509pubkeycert_hasissueruid(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::issuer_unique_id) != nullptr ? 1 : 0;
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getissueruid(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::issuer_unique_id);
+}
+
+int32_t kovra_x509pubkeycert_hassubjectuid(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::subject_unique_id) != nullptr ? 1 : 0;
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getsubjectuid(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::subject_unique_id);
+}
+
+int32_t kovra_x509pubkeycert_hasexts(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::extensions) != nullptr ? 1 : 0;
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getexts(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::extensions);
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getsignalgo(const kovra_asn1_value *obj) noexcept {
+    return component(certificate, obj, signed_object::signature_algorithm);
+}
+
+kovra_asn1_value *kovra_x509pubkeycert_getsignvalue(const kovra_asn1_value *obj) noexcept {
+    return component(certificate, obj, signed_object::signature_value);
+}
+
+kovra_asn1_value *kovra_x509certpair_getissuedtothisca(const kovra_asn1_value *obj) noexcept {
+    return component(certificate_pair, obj, pair::issued_to_this_ca);
+}
+
+kovra_asn1_value *kovra_x509certpair_getissuedbythisca(const kovra_asn1_value *obj) noexcept {
+    return component(certificate_pair, obj, pair::issued_by_this_ca);
+}

@@ -1,0 +1,196 @@
+// CertificateList (RFC 5280, 5.1).
+
+#include "core/descriptors.hpp"
+#include "core/list.hpp"
+#include "core/structure.hpp"
+#include "kovra/asn1_types.h"
+#include "kovra/asn1_x509.h"
+#include "pkix/signed.hpp"
+
+namespace kovra::asn1 {
+
+namespace {
+
+constexpr char source[] = "ASN1_X509";
+Site here(int32_t line = __builtin_LINE()) {
+    return {source, line};
+}
+
+// TBSCertList ::= SEQUENCE {
+//     version              INTEGER OPTIONAL,
+//     signature            AlgorithmIdentifier,
+//     issuer               Name,
+//     thisUpdate           Time,
+//     nextUpdate           Time OPTIONAL,
+//     revokedCertificates  SEQUENCE OF RevokedCertificate OPTIONAL,
+//     crlExtensions        [0] EXPLICIT Extensions OPTIONAL }
+// The version is written whatever its value and whatever follows it.
+namespace tbs {
+enum Slot : uint8_t {
+    version,
+    signature,
+    issuer,
+    this_update,
+    next_update,
+    revoked_certificates,
+    crl_extensions,
+};
+constexpr Component components[] = {
+    optional("version", KOVRA_ASN1_TYPE_INTEGER),
+    required("signature", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
+    required("issuer", KOVRA_ASN1_TYPE_NAME),
+    required("thisUpdate", KOVRA_ASN1_TYPE_TIME),
+    optional("nextUpdate", KOVRA_ASN1_TYPE_TIME),
+    optional("revokedCertificates", KOVRA_ASN1_TYPE_REVOKED_CERTIFICATES),
+    optional("crlExtensions", KOVRA_ASN1_TYPE_EXTENSIONS, explicit_tag(0)),
+};
+static_assert(is_sound(components));
+} // namespace tbs
+
+// RevokedCertificate ::= SEQUENCE {
+//     userCertificate     INTEGER,
+//     revocationDate      Time,
+//     crlEntryExtensions  Extensions OPTIONAL }
+namespace revoked {
+enum Slot : uint8_t { user_certificate, revocation_date, crl_entry_extensions };
+constexpr Component components[] = {
+    required("userCertificate", KOVRA_ASN1_TYPE_INTEGER),
+    required("revocationDate", KOVRA_ASN1_TYPE_TIME),
+    optional("crlEntryExtensions", KOVRA_ASN1_TYPE_EXTENSIONS),
+};
+} // namespace revoked
+
+// CertificateList ::= SEQUENCE {
+//     tbsCertList         TBSCertList,
+//     signatureAlgorithm  AlgorithmIdentifier,
+//     signatureValue      BIT STRING }
+constexpr Component certificate_list_components[] = {
+    required("tbsCertList", KOVRA_ASN1_TYPE_TBS_CERT_LIST),
+    required("signatureAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
+    required("signatureValue", KOVRA_ASN1_TYPE_BIT_STRING),
+};
+
+constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATE_LIST, "X509 CRL", "CRL"};
+
+} // namespace
+
+constexpr Structure tbs_cert_list = structure(source, tbs::components);
+constexpr Structure revoked_certificate = structure(source, revoked::components);
+constexpr ListShape revoked_certificates = {KOVRA_ASN1_TYPE_REVOKED_CERTIFICATE};
+constexpr Structure certificate_list = signed_structure(source, certificate_list_components);
+
+namespace {
+
+Value *tbs_component(const kovra_asn1_value *obj, uint8_t slot) {
+    return component(tbs_cert_list, component(certificate_list, obj, signed_object::to_be_signed), slot);
+}
+
+} // namespace
+
+} // namespace kovra::asn1
+
+using namespace kovra::asn1;
+
+kovra_asn1_value *kovra_x509TBSCertList_new(const kovra_asn1_value *version, const kovra_asn1_value *signature,
+                                            const kovra_asn1_value *issuer, const kovra_asn1_value *this_update,
+                                            const kovra_asn1_value *next_update, kovra_asn1_value *revoked_list,
+                                            int32_t copy_revoked, const kovra_asn1_value *crl_extensions) noexcept {
+    const bool is_taken_over = revoked_list != nullptr && copy_revoked == 0;
+    const kovra_asn1_value *copied = is_taken_over ? nullptr : revoked_list;
+    Record *record =
+        construct(tbs_cert_list, version, signature, issuer, this_update, next_update, copied, crl_extensions);
+    if (record == nullptr || !is_taken_over)
+        return record;
+    if (auto *list = as<List>(revoked_list); list != nullptr && store(*record, tbs::revoked_certificates, list))
+        return record;
+    Arena::destroy(record->arena);
+    return nullptr;
+}
+
+kovra_asn1_value *kovra_x509revcertinfo_new(const kovra_asn1_value *user_certificate,
+                                            const kovra_asn1_value *revocation_date,
+                                            const kovra_asn1_value *crl_entry_extensions) noexcept {
+    return construct(revoked_certificate, user_certificate, revocation_date, crl_entry_extensions);
+}
+
+kovra_asn1_value *kovra_x509crl_create(const kovra_asn1_value *tbs_value,
+                                       const kovra_asn1_value *signature_value) noexcept {
+    return assemble(certificate_list, KOVRA_ASN1_TYPE_CERTIFICATE_LIST, tbs_value,
+                    component(tbs_cert_list, tbs_value, tbs::signature), signature_value);
+}
+
+kovra_asn1_value *kovra_x509crl_new(const void *data, int32_t length, kovra_err_ctx *ctx) noexcept {
+    return load(here(), armour, data, length, ctx);
+}
+
+int32_t kovra_x509crl_gettbsocts(kovra_asn1_value *obj, void *buffer, int32_t *length_in_out) noexcept {
+    return copy_signed_octets(as_record(certificate_list, obj), buffer, length_in_out);
+}
+
+int32_t kovra_x509crl_hasversion(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::version) != nullptr ? 1 : 0;
+}
+
+kovra_asn1_value *kovra_x509crl_getversion(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::version);
+}
+
+kovra_asn1_value *kovra_x509crl_getinnersignalgo(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::signature);
+}
+
+kovra_asn1_value *kovra_x509crl_getissuer(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::issuer);
+}
+
+kovra_asn1_value *kovra_x509crl_getthisupdate(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::this_update);
+}
+
+int32_t kovra_x509crl_hasnextupdate(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::next_update) != nullptr ? 1 : 0;
+}
+
+kovra_asn1_value *kovra_x509crl_getnextupdate(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::next_update);
+}
+
+int32_t kovra_x509crl_hasrevcerts(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::revoked_certificates) != nullptr ? 1 : 0;
+}
+
+kovra_asn1_value *kovra_x509crl_getrevcerts(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::revoked_certificates);
+}
+
+int32_t kovra_x509crl_hasexts(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::crl_extensions) != nullptr ? 1 : 0;
+}
+
+kovra_asn1_value *kovra_x509crl_getexts(const kovra_asn1_value *obj) noexcept {
+    return tbs_component(obj, tbs::crl_extensions);
+}
+
+kovra_asn1_value *kovra_x509crl_getsignalgo(const kovra_asn1_value *obj) noexcept {
+    return component(certificate_list, obj, signed_object::signature_algorithm);
+}
+
+kovra_asn1_value *kovra_x509crl_getsignvalue(const kovra_asn1_value *obj) noexcept {
+    return component(certificate_list, obj, signed_object::signature_value);
+}
+
+kovra_asn1_value *kovra_x509revcertinfo_getserilano(const kovra_asn1_value *obj) noexcept {
+    return component(revoked_certificate, obj, revoked::user_certificate);
+}
+
+kovra_asn1_value *kovra_x509revcertinfo_getrevdate(const kovra_asn1_value *obj) noexcept {
+    return component(revoked_certificate, obj, revoked::revocation_date);
+}
+
+int32_t kovra_x509revcertinfo_hasexts(const kovra_asn1_value *obj) noexcept {
+    return component(revoked_certificate, obj, revoked::crl_entry_extensions) != nullptr ? 1 : 0;
+}
+
+kovra_asn1_value *kovra_x509revcertinfo_getexts(const kovra_asn1_value *obj) noexcept {
+    return component(revoked_certificate, obj, revoked::crl_entry_extensions);
+}

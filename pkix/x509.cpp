@@ -1,0 +1,121 @@
+// AlgorithmIdentifier, Validity and SubjectPublicKeyInfo (RFC 5280, 4.1).
+
+#include "kovra/asn1_x509.h"
+
+#include "core/descriptors.hpp"
+#include "core/structure.hpp"
+#include "kovra/asn1_types.h"
+
+namespace kovra::asn1 {
+
+namespace {
+
+constexpr char source[] = "ASN1_X509";
+
+// AlgorithmIdentifier ::= SEQUENCE {
+//     algorithm   OBJECT IDENTIFIER,
+//     parameters  ANY DEFINED BY algorithm OPTIONAL }
+namespace algid {
+enum Slot : uint8_t { algorithm, parameters };
+constexpr Component components[] = {
+    required("algorithm", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
+    optional("parameters", KOVRA_ASN1_TYPE_ANY),
+};
+static_assert(is_sound(components));
+} // namespace algid
+
+// Validity ::= SEQUENCE { notBefore Time, notAfter Time }
+namespace period {
+enum Slot : uint8_t { not_before, not_after };
+constexpr Component components[] = {
+    required("notBefore", KOVRA_ASN1_TYPE_TIME),
+    required("notAfter", KOVRA_ASN1_TYPE_TIME),
+};
+} // namespace period
+
+// SubjectPublicKeyInfo ::= SEQUENCE {
+//     algorithm         AlgorithmIdentifier,
+//     subjectPublicKey  BIT STRING }
+namespace spki {
+enum Slot : uint8_t { algorithm, subject_public_key };
+constexpr Component components[] = {
+    required("algorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
+    required("subjectPublicKey", KOVRA_ASN1_TYPE_BIT_STRING),
+};
+} // namespace spki
+
+} // namespace
+
+constexpr Structure algorithm_identifier = structure(source, algid::components);
+constexpr Structure validity = structure(source, period::components);
+constexpr Structure subject_public_key_info = structure(source, spki::components);
+
+} // namespace kovra::asn1
+
+using namespace kovra::asn1;
+
+kovra_asn1_value *kovra_x509algoid_new(const kovra_asn1_value *algorithm, uint32_t param_type,
+                                       const kovra_asn1_value *param_value) noexcept {
+    if (algorithm == nullptr || param_type == KOVRA_ASN1_TYPE_END_OF_CONTENTS || param_type >= type_count)
+        return nullptr;
+    Value *parameters = convert(row(param_type), static_cast<const Value *>(param_value), row(KOVRA_ASN1_TYPE_ANY));
+    if (parameters == nullptr)
+        return nullptr;
+    Record *record = construct(algorithm_identifier, algorithm, static_cast<const kovra_asn1_value *>(nullptr));
+    if (record != nullptr && store(*record, algid::parameters, parameters))
+        return record;
+    Arena::destroy(parameters->arena);
+    if (record != nullptr)
+        Arena::destroy(record->arena);
+    return nullptr;
+}
+
+kovra_asn1_value *kovra_x509algoid_new_without_param(const kovra_asn1_value *algorithm) noexcept {
+    return construct(algorithm_identifier, algorithm, static_cast<const kovra_asn1_value *>(nullptr));
+}
+
+int32_t kovra_x509algoid_isnullparam(const kovra_asn1_value *algid) noexcept {
+    const auto *parameters = as<Any>(kovra_x509algoid_getparam(algid));
+    return parameters != nullptr && parameters->tag_class == Class::universal && parameters->form == Form::primitive &&
+                   parameters->tag == tag::null && parameters->length == 0
+               ? 1
+               : 0;
+}
+
+kovra_asn1_value *kovra_x509algoid_getalgo(const kovra_asn1_value *algid) noexcept {
+    return component(algorithm_identifier, algid, algid::algorithm);
+}
+
+kovra_asn1_value *kovra_x509algoid_getparam(const kovra_asn1_value *algid) noexcept {
+    return component(algorithm_identifier, algid, algid::parameters);
+}
+
+int32_t kovra_x509algoid_hasparam(const kovra_asn1_value *algid) noexcept {
+    return component(algorithm_identifier, algid, algid::parameters) != nullptr ? 1 : 0;
+}
+
+kovra_asn1_value *kovra_x509validity_new(const kovra_asn1_value *not_before,
+                                         const kovra_asn1_value *not_after) noexcept {
+    return construct(validity, not_before, not_after);
+}
+
+kovra_asn1_value *kovra_x509validity_getnotbefore(const kovra_asn1_value *obj) noexcept {
+    return component(validity, obj, period::not_before);
+}
+
+kovra_asn1_value *kovra_x509validity_getnotafter(const kovra_asn1_value *obj) noexcept {
+    return component(validity, obj, period::not_after);
+}
+
+kovra_asn1_value *kovra_x509subjpubkeyinfo_new(const kovra_asn1_value *algorithm,
+                                               const kovra_asn1_value *subject_public_key) noexcept {
+    return construct(subject_public_key_info, algorithm, subject_public_key);
+}
+
+kovra_asn1_value *kovra_x509subjpubkeyinfo_getalgo(const kovra_asn1_value *obj) noexcept {
+    return component(subject_public_key_info, obj, spki::algorithm);
+}
+
+kovra_asn1_value *kovra_x509subjpubkeyinfo_getpubkey(const kovra_asn1_value *obj) noexcept {
+    return component(subject_public_key_info, obj, spki::subject_public_key);
+}
