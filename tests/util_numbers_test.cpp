@@ -97,7 +97,7 @@ TEST(UtilBigInteger, OrderIsThatOfTheValues) {
 // Sizes around every change of method: plain, one level of halves, several; both carries and borrows all the way.
 TEST(UtilBigInteger, LargeNumbersSurviveDecimalText) {
     std::mt19937 random(7);
-    for (const size_t size : {4, 100, 112, 113, 223, 224, 225, 447, 449, 900, 1791, 1793, 5000, 14337}) {
+    for (const size_t size : {4U, 100U, 112U, 113U, 223U, 224U, 225U, 447U, 449U, 900U, 1791U, 1793U, 5000U, 14337U}) {
         for (const int pattern : {0, 1, 2, 3}) {
             std::string octets(size, pattern == 1 ? '\xFF' : '\0');
             if (pattern == 0)
@@ -122,7 +122,7 @@ TEST(UtilBigInteger, LargeNumbersSurviveDecimalText) {
         }
     }
     // Powers of ten have texts that are known.
-    for (const size_t zeros : {9, 243, 252, 261, 500, 999, 3000, 9999}) {
+    for (const size_t zeros : {9U, 243U, 252U, 261U, 500U, 999U, 3000U, 9999U}) {
         for (const std::string &text : {"1" + std::string(zeros, '0'), "-" + std::string(zeros, '9')})
             ASSERT_EQ(text, decimal_of(BigInteger(kovra_biginteger_newdecimal(text.c_str()))));
     }

@@ -150,7 +150,7 @@ void expect_failure(const Errors &errors, int32_t code) {
 // Random commands on each kind of stream, checked against a string and a position.
 TEST(UtilStream, EveryKindReadsLikeAModel) {
     for (const Kind &kind : kinds) {
-        for (const size_t size : {0, 1, 300, 8192, 20001}) {
+        for (const size_t size : {0U, 1U, 300U, 8192U, 20001U}) {
             SCOPED_TRACE(std::string(kind.name) + ", " + std::to_string(size));
             const std::string octets = noise(size);
             Backing behind;
@@ -236,7 +236,7 @@ TEST(UtilStream, WritingAppendsWhereverReadingIs) {
 
 TEST(UtilStream, CopiesAnySourceFromItsStart) {
     for (const Kind &kind : kinds) {
-        for (const size_t size : {0, 1, 8191, 8192, 8193, 100000}) {
+        for (const size_t size : {0U, 1U, 8191U, 8192U, 8193U, 100000U}) {
             SCOPED_TRACE(std::string(kind.name) + ", " + std::to_string(size));
             const std::string octets = noise(size);
             Backing behind;
