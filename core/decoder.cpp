@@ -177,12 +177,12 @@ Decoder::Scratch::~Scratch() {
     decoder_.checking_ = checking_;
 }
 
-Result decode_identifier(Decoder &decoder, Identifier &out) {
+Result decode_long_identifier(Decoder &decoder, Identifier &out) {
     const Result result = read_identifier(decoder, here(), out);
     return result == success ? success : decoder.fail(here(), code::read_identifier, result);
 }
 
-Result decode_length(Decoder &decoder, int32_t &out) {
+Result decode_long_length(Decoder &decoder, int32_t &out) {
     const Result result = read_length(decoder, here(), out);
     return result == success ? success : decoder.fail(here(), code::read_length, result);
 }

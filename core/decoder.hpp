@@ -60,6 +60,14 @@ public:
         out = base_[position_++];
         return success;
     }
+    // The next octet, if it is there already, and a step over it.
+    [[nodiscard]] bool look(uint8_t &out) const {
+        if (position_ == size_)
+            return false;
+        out = base_[position_];
+        return true;
+    }
+    void step() { ++position_; }
     // Steps over `count` octets of content.
     Result skip(Site site, uint32_t count) {
         if (count > size_ - position_ && !pull(count))
@@ -208,7 +216,28 @@ template <class Source> Result read_end_of_contents_length(Source &source, Site 
 }
 
 // The same on a decoder, with the entry that every caller adds on failure.
-Result decode_identifier(Decoder &decoder, Identifier &out);
-Result decode_length(Decoder &decoder, int32_t &out);
+Result decode_long_identifier(Decoder &decoder, Identifier &out);
+Result decode_long_length(Decoder &decoder, int32_t &out);
+
+// What nearly every element has, one octet of each, is read in place.
+inline Result decode_identifier(Decoder &decoder, Identifier &out) {
+    uint8_t octet = 0;
+    if (!decoder.look(octet) || (octet & 0x1F) == 0x1F)
+        return decode_long_identifier(decoder, out);
+    decoder.step();
+    out.tag_class = static_cast<Class>(octet & 0xC0);
+    out.form = (octet & 0x20) != 0 ? Form::constructed : Form::primitive;
+    out.tag = octet & 0x1F;
+    return success;
+}
+
+inline Result decode_length(Decoder &decoder, int32_t &out) {
+    uint8_t octet = 0;
+    if (!decoder.look(octet) || octet >= 0x80)
+        return decode_long_length(decoder, out);
+    decoder.step();
+    out = octet;
+    return success;
+}
 
 } // namespace kovra::asn1

@@ -51,8 +51,11 @@ struct Type {
 
 inline constexpr uint32_t type_count = 208;
 
-// The row of a type identifier below type_count.
-const Type &row(uint32_t number);
+// The rows by type identifier.
+extern const Type registry[type_count];
+inline const Type &row(uint32_t number) {
+    return registry[number];
+}
 
 // Is there a value, and one that the type works on?
 inline bool holds(const Type &type, const Value *value) {

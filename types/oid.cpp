@@ -54,6 +54,20 @@ template <class Visit> bool for_each_subidentifier(const uint8_t *octets, uint32
     return true;
 }
 
+// Can a text be made? Subidentifiers of at most nine octets fit 64 bits without counting.
+bool has_text(const uint8_t *octets, uint32_t length) {
+    constexpr uint32_t surely_fits = 9;
+    uint32_t begin = 0;
+    bool is_sure = true;
+    for (uint32_t i = 0; i < length; ++i) {
+        if (octets[i] >= 0x80)
+            continue;
+        is_sure = is_sure && octets[begin] != 0x80 && i - begin < surely_fits;
+        begin = i + 1;
+    }
+    return is_sure || for_each_subidentifier(octets, length, [](uint64_t) {});
+}
+
 Result decode_oid_content(Decoder &decoder, const Type &type, Element element, Value *&out) {
     if (const Result result = enter_primitive(decoder, here(), element); result != success)
         return result;
@@ -67,7 +81,7 @@ Result decode_oid_content(Decoder &decoder, const Type &type, Element element, V
         return result;
     oid->octets = decoder.octets_from(begin);
     oid->relative = type.number == KOVRA_ASN1_TYPE_RELATIVE_OID;
-    if (!for_each_subidentifier(decoder.at(begin), oid->octets.length, [](uint64_t) {}))
+    if (!has_text(decoder.at(begin), oid->octets.length))
         return decoder.fail(here(), code::bad_oid_content);
     out = oid;
     return success;
