@@ -1,3 +1,6 @@
+#include <cstring>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "util_handles.hpp"
@@ -112,16 +115,19 @@ TEST(UtilError, KeepsCopiesOfAllEntriesInOrder) {
     const std::string long_text(100000, 'l');
     constexpr int32_t count = 1000;
     std::vector<std::pair<const char *, std::string>> handed_out;
+    const auto source_of = [](int32_t i) { return std::string(static_cast<size_t>(31 + i / 3 % 50), 's'); };
     for (int32_t i = 0; i < count; ++i) {
-        const std::string source = "Source" + std::to_string(i / 3);
-        std::string message = i % 7 == 0 ? long_text : "message " + std::to_string(i);
+        // Lengths around the room that the first entries have in the context.
+        const std::string source = source_of(i);
+        std::string message =
+            i % 7 == 0 ? long_text : std::string(static_cast<size_t>(92 + i % 8), 'm') + std::to_string(i);
         kovra_err_ctx_put(errors.get(), source.c_str(), i, -i, message.c_str());
         handed_out.emplace_back(entry_of(errors, i).message, std::move(message));
     }
     ASSERT_EQ(count, kovra_err_ctx_getcount(errors.get()));
     for (int32_t i = 0; i < count; ++i) {
         const Entry entry = entry_of(errors, i);
-        EXPECT_EQ("Source" + std::to_string(i / 3), entry.source);
+        EXPECT_EQ(source_of(i), entry.source);
         EXPECT_EQ(i, entry.line);
         EXPECT_EQ(-i, entry.code);
         EXPECT_EQ(handed_out[static_cast<size_t>(i)].first, entry.message) << "texts stay where they were";

@@ -1,0 +1,41 @@
+# The companion library kovra_util and the codec kovra_asn1, shared and static.
+
+file(GLOB KOVRA_UTIL_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/util/*.cpp)
+set(KOVRA_ASN1_SOURCES "")
+foreach(room core types json pkix cms services keys)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${room}/*.cpp)
+  list(APPEND KOVRA_ASN1_SOURCES ${sources})
+endforeach()
+
+# kovra_library(name sources define): one library in both forms, with nothing exported that does not say so.
+function(kovra_library name sources define)
+  set(targets ${name})
+  add_library(${name} SHARED ${sources})
+  if(KOVRA_STATIC_LIBRARIES)
+    add_library(${name}_static STATIC ${sources})
+    target_compile_definitions(${name}_static PUBLIC KOVRA_STATIC)
+    list(APPEND targets ${name}_static)
+  endif()
+  foreach(target ${targets})
+    kovra_warnings(${target})
+    target_compile_definitions(${target} PRIVATE ${define})
+    target_compile_options(${target} PRIVATE -fno-exceptions -fno-rtti)
+    target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/include PRIVATE ${CMAKE_SOURCE_DIR})
+    set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+                                               POSITION_INDEPENDENT_CODE ON)
+  endforeach()
+endfunction()
+
+kovra_library(kovra_util "${KOVRA_UTIL_SOURCES}" KOVRA_BUILDING_UTIL)
+kovra_library(kovra_asn1 "${KOVRA_ASN1_SOURCES}" KOVRA_BUILDING_ASN1)
+target_link_libraries(kovra_asn1 PUBLIC kovra_util)
+if(KOVRA_STATIC_LIBRARIES)
+  target_link_libraries(kovra_asn1_static PUBLIC kovra_util_static)
+endif()
+if(WIN32)
+  # Nothing but the system's own libraries beside the two.
+  foreach(target kovra_util kovra_asn1)
+    set_target_properties(${target} PROPERTIES PREFIX "")
+    target_link_options(${target} PRIVATE -static)
+  endforeach()
+endif()
