@@ -33,7 +33,7 @@ KOVRA_UTIL_API int32_t kovra_biginteger_compare(const kovra_biginteger *left, co
 
 /* kovra_biginteger_todecimal returns the value as zero-terminated decimal text, with a minus sign where negative and
  * without leading zeros, released with kovra_free; null for null and when memory is short. n octets take O(n^1.585)
- * steps (Karatsuba's multiplication on halves) and about 8n octets of memory on the way: microseconds for a key,
+ * steps (Karatsuba's multiplication on halves) and about 6n octets of memory on the way: microseconds for a key,
  * seconds for a megabyte. */
 KOVRA_UTIL_API char *kovra_biginteger_todecimal(const kovra_biginteger *number) KOVRA_NOTHROW;
 
