@@ -1,0 +1,217 @@
+#include "kovra/util_ustring.h"
+
+#include <cstring>
+
+#include "util/handle.hpp"
+
+using namespace kovra::util;
+
+// Held as UTF-8, whose octets stand behind the record: what is converted most needs no work at all.
+struct kovra_ustring {
+    static constexpr uint32_t magic_of_type = magic_word("USTR");
+    uint32_t magic;
+    int32_t length; // octets
+    [[nodiscard]] uint8_t *octets() { return reinterpret_cast<uint8_t *>(this + 1); }
+    [[nodiscard]] const uint8_t *octets() const { return reinterpret_cast<const uint8_t *>(this + 1); }
+};
+
+namespace kovra::util {
+namespace {
+
+constexpr const char *module = "UTIL_UString";
+constexpr int32_t max_length = 0x7FFFFFFF;
+
+constexpr uint32_t ill_formed = UINT32_MAX;
+
+bool is_scalar(uint32_t character) {
+    return character <= 0x10FFFF && (character < 0xD800 || character > 0xDFFF);
+}
+
+// The next character of UTF-8; ill_formed for anything that the shortest form of a scalar value does not look like.
+uint32_t next_utf8(const uint8_t *&at, const uint8_t *end) {
+    const uint8_t lead = *at++;
+    if (lead < 0x80)
+        return lead;
+    const int more = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
+    if (lead < 0xC2 || lead > 0xF4 || end - at < more)
+        return ill_formed;
+    uint32_t character = lead & (0x3FU >> more);
+    for (int i = 0; i < more; ++i) {
+        const uint8_t octet = *at++;
+        if ((octet & 0xC0) != 0x80)
+            return ill_formed;
+        character = character << 6 | (octet & 0x3FU);
+    }
+    constexpr uint32_t least[] = {0, 0x80, 0x800, 0x10000};
+    return character >= least[more] && is_scalar(character) ? character : ill_formed;
+}
+
+int32_t utf8_size(uint32_t character) {
+    return character < 0x80 ? 1 : character < 0x800 ? 2 : character < 0x10000 ? 3 : 4;
+}
+
+uint8_t *put_utf8(uint8_t *out, uint32_t character) {
+    const int32_t size = utf8_size(character);
+    if (size == 1) {
+        *out++ = static_cast<uint8_t>(character);
+        return out;
+    }
+    *out++ = static_cast<uint8_t>((0xF00U >> size) | (character >> (6 * (size - 1))));
+    for (int32_t i = size - 2; i >= 0; --i)
+        *out++ = static_cast<uint8_t>(0x80 | (character >> (6 * i) & 0x3F));
+    return out;
+}
+
+uint32_t big_endian(const uint8_t *octets, int count) {
+    uint32_t value = 0;
+    for (int i = 0; i < count; ++i)
+        value = value << 8 | octets[i];
+    return value;
+}
+
+uint32_t next_utf32(const uint8_t *&at, const uint8_t *) {
+    const uint32_t character = big_endian(at, 4);
+    at += 4;
+    return is_scalar(character) ? character : ill_formed;
+}
+
+uint32_t next_bmp(const uint8_t *&at, const uint8_t *) {
+    const uint32_t character = big_endian(at, 2);
+    at += 2;
+    return is_scalar(character) ? character : ill_formed;
+}
+
+uint32_t next_utf16(const uint8_t *&at, const uint8_t *end) {
+    const uint32_t high = big_endian(at, 2);
+    at += 2;
+    if (is_scalar(high))
+        return high;
+    if (high > 0xDBFF || end - at < 2)
+        return ill_formed;
+    const uint32_t low = big_endian(at, 2);
+    at += 2;
+    return low >= 0xDC00 && low <= 0xDFFF ? 0x10000 + ((high & 0x3FF) << 10 | (low & 0x3FF)) : ill_formed;
+}
+
+kovra_ustring *make(int64_t length) {
+    if (length > max_length)
+        return nullptr;
+    auto *text = make_record<kovra_ustring>(module, static_cast<size_t>(length));
+    if (text != nullptr)
+        text->length = static_cast<int32_t>(length);
+    return text;
+}
+
+// Converts octets of which `next` reads a character at a time, in units of `unit` octets: once to see that all are good
+// and how long they get, once to write them.
+template <class Next> kovra_ustring *convert(const void *data, int32_t length, int32_t unit, Next next) {
+    if (length < 0 || (data == nullptr && length > 0) || length % unit != 0)
+        return nullptr;
+    const auto *octets = static_cast<const uint8_t *>(data);
+    const uint8_t *end = length > 0 ? octets + length : octets;
+    int64_t total = 0;
+    for (const uint8_t *at = octets; at != end;) {
+        const uint32_t character = next(at, end);
+        if (character == ill_formed)
+            return nullptr;
+        total += utf8_size(character);
+    }
+    kovra_ustring *text = make(total);
+    if (text == nullptr)
+        return nullptr;
+    uint8_t *out = text->octets();
+    for (const uint8_t *at = octets; at != end;)
+        out = put_utf8(out, next(at, end));
+    return text;
+}
+
+uint8_t *put_unit(uint8_t *out, uint32_t value, int count) {
+    for (int i = count - 1; i >= 0; --i)
+        *out++ = static_cast<uint8_t>(value >> (8 * i));
+    return out;
+}
+
+// The text in another form: size_of(character) gives the octets of one (0: it has none), put(out, character) writes it.
+template <class Size, class Put> kovra_data_blob *export_as(const kovra_ustring *text, Size size_of, Put put) {
+    if (!is_valid(text))
+        return nullptr;
+    const uint8_t *end = text->octets() + text->length;
+    int64_t total = 0;
+    for (const uint8_t *at = text->octets(); at != end;) {
+        const int size = size_of(next_utf8(at, end));
+        if (size == 0)
+            return nullptr;
+        total += size;
+    }
+    if (total > max_length)
+        return nullptr;
+    auto *octets = static_cast<uint8_t *>(kovra_malloc(total > 0 ? static_cast<size_t>(total) : 1, module, __LINE__));
+    if (octets == nullptr)
+        return nullptr;
+    uint8_t *out = octets;
+    for (const uint8_t *at = text->octets(); at != end;)
+        out = put(out, next_utf8(at, end));
+    kovra_data_blob *blob = kovra_data_blob_new(octets, static_cast<int32_t>(total));
+    kovra_free(octets);
+    return blob;
+}
+
+} // namespace
+} // namespace kovra::util
+
+kovra_ustring *kovra_ustring_newutf8(const void *octets, int32_t length) noexcept {
+    if (length < 0 || (octets == nullptr && length > 0))
+        return nullptr;
+    const auto *begin = static_cast<const uint8_t *>(octets);
+    const uint8_t *end = length > 0 ? begin + length : begin;
+    for (const uint8_t *at = begin; at != end;)
+        if (next_utf8(at, end) == ill_formed)
+            return nullptr;
+    kovra_ustring *text = make(length);
+    if (text != nullptr && length > 0)
+        std::memcpy(text->octets(), octets, static_cast<size_t>(length));
+    return text;
+}
+
+kovra_ustring *kovra_ustring_newutf32be(const void *octets, int32_t length) noexcept {
+    return convert(octets, length, 4, next_utf32);
+}
+
+kovra_ustring *kovra_ustring_newutf16be(const void *octets, int32_t length) noexcept {
+    return convert(octets, length, 2, next_utf16);
+}
+
+kovra_ustring *kovra_ustring_newbmp(const void *octets, int32_t length) noexcept {
+    return convert(octets, length, 2, next_bmp);
+}
+
+kovra_data_blob *kovra_ustring_toutf8(const kovra_ustring *text) noexcept {
+    return is_valid(text) ? kovra_data_blob_new(text->octets(), text->length) : nullptr;
+}
+
+kovra_data_blob *kovra_ustring_toutf32be(const kovra_ustring *text) noexcept {
+    return export_as(
+        text, [](uint32_t) { return 4; }, [](uint8_t *out, uint32_t character) { return put_unit(out, character, 4); });
+}
+
+kovra_data_blob *kovra_ustring_toutf16be(const kovra_ustring *text) noexcept {
+    return export_as(
+        text, [](uint32_t character) { return character > 0xFFFF ? 4 : 2; },
+        [](uint8_t *out, uint32_t character) {
+            if (character <= 0xFFFF)
+                return put_unit(out, character, 2);
+            const uint32_t rest = character - 0x10000;
+            return put_unit(put_unit(out, 0xD800 | rest >> 10, 2), 0xDC00 | (rest & 0x3FF), 2);
+        });
+}
+
+kovra_data_blob *kovra_ustring_tobmp(const kovra_ustring *text) noexcept {
+    return export_as(
+        text, [](uint32_t character) { return character > 0xFFFF ? 0 : 2; },
+        [](uint8_t *out, uint32_t character) { return put_unit(out, character, 2); });
+}
+
+void kovra_ustring_free(kovra_ustring *text) noexcept {
+    if (is_valid(text))
+        release_record(text);
+}
