@@ -1,9 +1,13 @@
-/* The type identifiers: 0..207 select a row of the registry. */
+/* The type identifiers: numbers from 0 to 207 that select what a value is. Each has a universal tag, a form and two
+ * error codes, of encoding and of decoding. Where a name of one type stands in the error text of another, as from 56
+ * on, the texts are a row off; docs/irregularities.md says how to read them. */
 #ifndef KOVRA_ASN1_TYPES_H
 #define KOVRA_ASN1_TYPES_H
 
 #include <stdint.h>
 
+/* The marker 00 00 (X.690 clause 8.1.5), and the primitive types. asn1_boolean.h, asn1_integer.h,
+ * asn1_bitstring.h, asn1_octetstring.h, asn1_oid.h. */
 #define KOVRA_ASN1_TYPE_END_OF_CONTENTS 0
 #define KOVRA_ASN1_TYPE_BOOLEAN 1
 #define KOVRA_ASN1_TYPE_INTEGER 2
@@ -12,6 +16,8 @@
 #define KOVRA_ASN1_TYPE_NULL 5
 #define KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER 6
 #define KOVRA_ASN1_TYPE_ENUMERATED 7
+
+/* Character strings, asn1_octetstring.h. STRING has no tag of its own and goes under an implicit one. */
 #define KOVRA_ASN1_TYPE_STRING 8
 #define KOVRA_ASN1_TYPE_UTF8_STRING 9
 #define KOVRA_ASN1_TYPE_NUMERIC_STRING 10
@@ -24,19 +30,32 @@
 #define KOVRA_ASN1_TYPE_GENERAL_STRING 17
 #define KOVRA_ASN1_TYPE_UNIVERSAL_STRING 18
 #define KOVRA_ASN1_TYPE_BMP_STRING 19
+
+/* Times, asn1_time.h.
+ * Time ::= CHOICE { utcTime UTCTime, generalTime GeneralizedTime } */
 #define KOVRA_ASN1_TYPE_TIME 20
 #define KOVRA_ASN1_TYPE_UTC_TIME 21
 #define KOVRA_ASN1_TYPE_GENERALIZED_TIME 22
+
+/* The open type, asn1_any.h, and lists of it, asn1_list.h. The ones with _1 are SIZE (1..MAX). */
 #define KOVRA_ASN1_TYPE_ANY 23
 #define KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY 24
 #define KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY_1 25
 #define KOVRA_ASN1_TYPE_SET_OF_ANY 26
 #define KOVRA_ASN1_TYPE_SET_OF_ANY_1 27
+
+/* Names (X.501, RFC 5280 section 4.1.2.4).
+ * Name ::= SEQUENCE OF RelativeDistinguishedName
+ * RelativeDistinguishedName ::= SET SIZE (1..MAX) OF AttributeTypeAndDistinguishedValue */
 #define KOVRA_ASN1_TYPE_CONTEXT 28
 #define KOVRA_ASN1_TYPE_ATTRIBUTE_TYPE_AND_DISTINGUISHED_VALUE 29
 #define KOVRA_ASN1_TYPE_ATTRIBUTE_TYPE_AND_VALUE 30
 #define KOVRA_ASN1_TYPE_RELATIVE_DISTINGUISHED_NAME 31
 #define KOVRA_ASN1_TYPE_NAME 32
+
+/* Certificates and certificate lists (X.509, RFC 5280 sections 4.1 and 5.1).
+ * Certificate ::= SEQUENCE { tbsCertificate, signatureAlgorithm, signatureValue }
+ * CertificateList ::= SEQUENCE { tbsCertList, signatureAlgorithm, signatureValue } */
 #define KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER 33
 #define KOVRA_ASN1_TYPE_VALIDITY 34
 #define KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO 35
@@ -46,11 +65,17 @@
 #define KOVRA_ASN1_TYPE_CERTIFICATE 39
 #define KOVRA_ASN1_TYPE_TBS_CERT_LIST 40
 #define KOVRA_ASN1_TYPE_CERTIFICATE_LIST 41
+
+/* Attributes (X.501) and certification requests (PKCS #10, RFC 2986).
+ * CertificationRequest ::= SEQUENCE { certificationRequestInfo, signatureAlgorithm, signature } */
 #define KOVRA_ASN1_TYPE_ATTRIBUTE 42
 #define KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTE 43
 #define KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTES 44
 #define KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST_INFO 45
 #define KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST 46
+
+/* Values of attributes (X.520, PKCS #9, RFC 8551).
+ * DirectoryString ::= CHOICE { teletexString, printableString, universalString, utf8String, bmpString } */
 #define KOVRA_ASN1_TYPE_DIRECTORY_STRING 47
 #define KOVRA_ASN1_TYPE_UUID_PAIR 48
 #define KOVRA_ASN1_TYPE_POSTAL_ADDRESS 49
@@ -59,16 +84,24 @@
 #define KOVRA_ASN1_TYPE_PKCS9_STRING 52
 #define KOVRA_ASN1_TYPE_SMIME_CAPABILITY 53
 #define KOVRA_ASN1_TYPE_SMIME_CAPABILITIES 54
+
+/* A pair of cross certificates (X.509); keys, digests and signatures (PKCS #1, RFC 8017; RFC 3279).
+ * DigestInfo ::= SEQUENCE { digestAlgorithm, digest } */
 #define KOVRA_ASN1_TYPE_CERTIFICATE_PAIR 55
 #define KOVRA_ASN1_TYPE_RSA_PUBLIC_KEY 56
 #define KOVRA_ASN1_TYPE_DIGEST_INFO 57
 #define KOVRA_ASN1_TYPE_DSS_SIG_VALUE 58
 #define KOVRA_ASN1_TYPE_ECDSA_SIG_VALUE 59
 #define KOVRA_ASN1_TYPE_DSS_PARMS 60
+
+/* General names (RFC 5280 section 4.2.1.6).
+ * GeneralNames ::= SEQUENCE SIZE (1..MAX) OF GeneralName */
 #define KOVRA_ASN1_TYPE_INSTANCE_OF 61
 #define KOVRA_ASN1_TYPE_EDI_PARTY_NAME 62
 #define KOVRA_ASN1_TYPE_GENERAL_NAME 63
 #define KOVRA_ASN1_TYPE_GENERAL_NAMES 64
+
+/* Standard extensions (X.509, RFC 5280 section 4.2). */
 #define KOVRA_ASN1_TYPE_AUTHORITY_KEY_IDENTIFIER 65
 #define KOVRA_ASN1_TYPE_EXT_KEY_USAGE 66
 #define KOVRA_ASN1_TYPE_PRIVATE_KEY_USAGE_PERIOD 67
@@ -94,9 +127,15 @@
 #define KOVRA_ASN1_TYPE_INFORMATION_ACCESS 87
 #define KOVRA_ASN1_TYPE_ISSUING_DISTRIBUTION_POINT 88
 #define KOVRA_ASN1_TYPE_AA_ISSUING_DISTRIBUTION_POINT 89
+
+/* RELATIVE-OID (X.690 clause 8.20, asn1_oid.h); thumbprints of replaced certificates; an entry of a certificate list.
+ */
 #define KOVRA_ASN1_TYPE_RELATIVE_OID 90
 #define KOVRA_ASN1_TYPE_OLD_CERT_THUMBPRINTS 91
 #define KOVRA_ASN1_TYPE_REVOKED_CERTIFICATE 92
+
+/* Keys, and parameters of algorithms (PKCS #1, #3, #5, #8: RFC 8017, 8018, 5958; RFC 2268, 2040).
+ * PrivateKeyInfo ::= SEQUENCE { version, privateKeyAlgorithm, privateKey, attributes [0] IMPLICIT OPTIONAL } */
 #define KOVRA_ASN1_TYPE_RSA_PRIVATE_KEY 99
 #define KOVRA_ASN1_TYPE_RSAES_OAEP_PARAMS 100
 #define KOVRA_ASN1_TYPE_RSASSA_PSS_PARAMS 101
@@ -109,7 +148,12 @@
 #define KOVRA_ASN1_TYPE_PBMAC1_PARAMS 108
 #define KOVRA_ASN1_TYPE_RC2_CBC_PARAMETER 109
 #define KOVRA_ASN1_TYPE_RC5_CBC_PARAMETERS 110
+
+/* ContentInfo ::= SEQUENCE { contentType, content [0] EXPLICIT OPTIONAL } (PKCS #7, RFC 2315; CMS, RFC 5652). */
 #define KOVRA_ASN1_TYPE_CONTENT_INFO 111
+
+/* PKCS #12 (RFC 7292).
+ * PFX ::= SEQUENCE { version, authSafe, macData OPTIONAL } */
 #define KOVRA_ASN1_TYPE_MAC_DATA 112
 #define KOVRA_ASN1_TYPE_PFX 113
 #define KOVRA_ASN1_TYPE_AUTHENTICATED_SAFE 114
@@ -119,6 +163,10 @@
 #define KOVRA_ASN1_TYPE_CRL_BAG 118
 #define KOVRA_ASN1_TYPE_SECRET_BAG 119
 #define KOVRA_ASN1_TYPE_PKCS12_PBE_PARAMS 120
+
+/* Signed messages (PKCS #7, RFC 2315; CMS, RFC 5652 section 5).
+ * SignedData ::= SEQUENCE { version, digestAlgorithms, encapContentInfo, certificates [0] OPTIONAL,
+ *                           crls [1] OPTIONAL, signerInfos } */
 #define KOVRA_ASN1_TYPE_ISSUER_AND_SERIAL_NUMBER 122
 #define KOVRA_ASN1_TYPE_SIGNER_IDENTIFIER 123
 #define KOVRA_ASN1_TYPE_SIGNER_INFO 124
@@ -132,6 +180,8 @@
 #define KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICES 132
 #define KOVRA_ASN1_TYPE_PKCS7_SIGNED_DATA 133
 #define KOVRA_ASN1_TYPE_CMS_SIGNED_DATA 134
+
+/* Parts of structures above that have a type of their own. */
 #define KOVRA_ASN1_TYPE_DN_VALUES_WITH_CONTEXT_ITEM 135
 #define KOVRA_ASN1_TYPE_ATTRIBUTE_VALUES_WITH_CONTEXT_ITEM 136
 #define KOVRA_ASN1_TYPE_POLICY_QUALIFIERS 137
@@ -141,10 +191,16 @@
 #define KOVRA_ASN1_TYPE_CONTEXT_LIST 141
 #define KOVRA_ASN1_TYPE_DN_VALUES_WITH_CONTEXT 142
 #define KOVRA_ASN1_TYPE_ATTRIBUTE_VALUES_WITH_CONTEXT 143
+
+/* Parts of keys and of PBKDF2 (RFC 8017, RFC 8018). */
 #define KOVRA_ASN1_TYPE_OTHER_PRIME_INFO 144
 #define KOVRA_ASN1_TYPE_OTHER_PRIME_INFOS 145
 #define KOVRA_ASN1_TYPE_PBKDF2_SALT 146
+
+/* EncapsulatedContentInfo ::= SEQUENCE { eContentType, eContent [0] EXPLICIT OPTIONAL } (RFC 5652 section 5.2). */
 #define KOVRA_ASN1_TYPE_ENCAPSULATED_CONTENT_INFO 147
+
+/* SEQUENCE OF PolicyInformation, as signing-certificate attributes hold it (RFC 5035). */
 #define KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES_1 198
 
 /* One past the highest type identifier. */
