@@ -61,8 +61,8 @@ void set_date(kovra_time &time, int32_t days) {
     time.year = era * 400 + year_of_era + (time.month <= 2 ? 1 : 0);
 }
 
-constexpr int32_t first_day = -141714;  // 1582-01-01
-constexpr int32_t last_day = 2932896;   // 9999-12-31
+constexpr int32_t first_day = -141714; // 1582-01-01
+constexpr int32_t last_day = 2932896;  // 9999-12-31
 
 bool is_in_range(int32_t value, int32_t least, int32_t most) {
     return value >= least && value <= most;
@@ -178,7 +178,9 @@ int32_t kovra_time_addday(kovra_time *time, int32_t days) noexcept {
     return is_valid(time) && move(*time, days, 0) ? 1 : 0;
 }
 
-int32_t kovra_time_isutctime(const kovra_time *time) noexcept { return is_valid(time) && time->is_utc ? 1 : 0; }
+int32_t kovra_time_isutctime(const kovra_time *time) noexcept {
+    return is_valid(time) && time->is_utc ? 1 : 0;
+}
 
 int32_t kovra_time_isleapsecond(const kovra_time *time) noexcept {
     if (!is_valid(time) || !time->is_utc || time->hour != 23 || time->minute != 59 || time->second != 60)
@@ -189,21 +191,37 @@ int32_t kovra_time_isleapsecond(const kovra_time *time) noexcept {
                : 0;
 }
 
-int32_t kovra_time_getyear(const kovra_time *time) noexcept { return field(time, &kovra_time::year); }
-int32_t kovra_time_getmonth(const kovra_time *time) noexcept { return field(time, &kovra_time::month); }
-int32_t kovra_time_getday(const kovra_time *time) noexcept { return field(time, &kovra_time::day); }
-int32_t kovra_time_gethour(const kovra_time *time) noexcept { return field(time, &kovra_time::hour); }
-int32_t kovra_time_getminute(const kovra_time *time) noexcept { return field(time, &kovra_time::minute); }
-int32_t kovra_time_getsecond(const kovra_time *time) noexcept { return field(time, &kovra_time::second); }
-int32_t kovra_time_getns(const kovra_time *time) noexcept { return field(time, &kovra_time::ns); }
-int32_t kovra_time_getisdst(const kovra_time *time) noexcept { return is_valid(time) && time->is_dst ? 1 : 0; }
+int32_t kovra_time_getyear(const kovra_time *time) noexcept {
+    return field(time, &kovra_time::year);
+}
+int32_t kovra_time_getmonth(const kovra_time *time) noexcept {
+    return field(time, &kovra_time::month);
+}
+int32_t kovra_time_getday(const kovra_time *time) noexcept {
+    return field(time, &kovra_time::day);
+}
+int32_t kovra_time_gethour(const kovra_time *time) noexcept {
+    return field(time, &kovra_time::hour);
+}
+int32_t kovra_time_getminute(const kovra_time *time) noexcept {
+    return field(time, &kovra_time::minute);
+}
+int32_t kovra_time_getsecond(const kovra_time *time) noexcept {
+    return field(time, &kovra_time::second);
+}
+int32_t kovra_time_getns(const kovra_time *time) noexcept {
+    return field(time, &kovra_time::ns);
+}
+int32_t kovra_time_getisdst(const kovra_time *time) noexcept {
+    return is_valid(time) && time->is_dst ? 1 : 0;
+}
 
 int32_t kovra_time_compare(const kovra_time *left, const kovra_time *right, int32_t *out_order) noexcept {
     if (!is_valid(left) || !is_valid(right) || out_order == nullptr || left->is_utc != right->is_utc)
         return 0;
     *out_order = 0;
-    constexpr int32_t kovra_time::*members[] = {&kovra_time::year,   &kovra_time::month,  &kovra_time::day,
-                                                &kovra_time::hour,   &kovra_time::minute, &kovra_time::second,
+    constexpr int32_t kovra_time::*members[] = {&kovra_time::year, &kovra_time::month,  &kovra_time::day,
+                                                &kovra_time::hour, &kovra_time::minute, &kovra_time::second,
                                                 &kovra_time::ns};
     for (const auto member : members)
         if (left->*member != right->*member) {
