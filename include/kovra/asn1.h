@@ -3,17 +3,22 @@
 #define KOVRA_ASN1_H
 
 #include "kovra/asn1_any.h"
+#include "kovra/asn1_attribute.h"
 #include "kovra/asn1_bitstring.h"
 #include "kovra/asn1_boolean.h"
 #include "kovra/asn1_codec.h"
+#include "kovra/asn1_extension.h"
 #include "kovra/asn1_integer.h"
 #include "kovra/asn1_json.h"
 #include "kovra/asn1_lib.h"
 #include "kovra/asn1_list.h"
 #include "kovra/asn1_octetstring.h"
 #include "kovra/asn1_oid.h"
+#include "kovra/asn1_pkcs10.h"
 #include "kovra/asn1_time.h"
 #include "kovra/asn1_types.h"
 #include "kovra/asn1_value.h"
+#include "kovra/asn1_x500name.h"
+#include "kovra/asn1_x509.h"
 
 #endif
