@@ -76,12 +76,9 @@ constexpr Component defaulted(const char *name, uint8_t type, const Default &fal
     return {name, type, Presence::defaulted, tag, &fallback, line};
 }
 
-// Contradictions in a table, for a static_assert beside it: a tag on a component that is told apart from another by the
-// same tag, a default without a maker.
+// Free of contradictions, for a static_assert beside a table: no two components have the same tag.
 template <size_t count> consteval bool is_sound(const Component (&components)[count]) {
     for (size_t i = 0; i < count; ++i) {
-        if ((components[i].presence == Presence::defaulted) != (components[i].fallback != nullptr))
-            return false;
         if (components[i].tag.tagging == Tagging::none)
             continue;
         for (size_t j = 0; j < i; ++j)

@@ -302,14 +302,14 @@ int32_t add(kovra_json *container, const char *name, kovra_json *value) {
 } // namespace
 
 void TextBuffer::put(const char *text, size_t length) {
-    if (length > capacity_ - size_ && !reserve(length))
+    if (length == 0 || (length > capacity_ - size_ && !reserve(length)))
         return;
     std::memcpy(data_ + size_, text, length);
     size_ += length;
 }
 
 void TextBuffer::fill(char character, size_t count) {
-    if (count > capacity_ - size_ && !reserve(count))
+    if (count == 0 || (count > capacity_ - size_ && !reserve(count)))
         return;
     std::memset(data_ + size_, character, count);
     size_ += count;
