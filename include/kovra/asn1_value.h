@@ -14,8 +14,8 @@
  * Streams and error contexts belong to the caller always.
  *
  * Arguments. A value of the wrong kind is refused like a bad argument: null, 0, -2, or one entry in the error context
- * (0x10001 unless the function names another). `out_written`, `out_read` and `out_count` may be null; they receive
- * numbers of octets and are 0 after a failure. So may `ctx`, the error context.
+ * (0x10001 unless the function names another). `out_written`, `out_read` and `out_count` receive numbers of octets;
+ * they may be null, and only a success sets the first two. `ctx`, the error context, may be null too.
  *
  * Failures. Each failure appends one entry to the error context where it is found, and those who called on the way may
  * add one each, so that the entries read from the innermost cause outward. The code lists below name them in the order
