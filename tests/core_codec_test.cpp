@@ -1,0 +1,321 @@
+// The registry and what goes through it: dispatch, codes and texts, BOOLEAN, NULL, end-of-contents.
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include "tests/asn1_testing.hpp"
+
+namespace kovra::test {
+namespace {
+
+struct Row {
+    uint32_t type;
+    int32_t tag;
+    int32_t form;
+    int32_t base;
+};
+
+const std::vector<Row> &registry() {
+    static const std::vector<Row> rows = [] {
+        std::vector<Row> read;
+        std::ifstream file(KOVRA_SOURCE_DIR "/tests/data/registry.txt");
+        for (std::string line; std::getline(file, line);) {
+            std::istringstream fields(line);
+            Row row = {};
+            std::string base;
+            if (fields >> row.type >> row.tag >> row.form >> base) {
+                row.base = std::stoi(base, nullptr, 16);
+                read.push_back(row);
+            }
+        }
+        return read;
+    }();
+    return rows;
+}
+
+// The table of docs/errors.md, which callers read too.
+std::map<int32_t, std::string> documented_texts() {
+    std::map<int32_t, std::string> texts;
+    std::ifstream file(KOVRA_SOURCE_DIR "/docs/errors.md");
+    for (std::string line; std::getline(file, line);) {
+        if (line.rfind("| 0x10", 0) != 0 || line.size() < 14 || line[6] == '0' || line[6] == '1')
+            continue;
+        std::string text = line.substr(12, line.size() - 14);
+        for (size_t at; (at = text.find("&nbsp;")) != text.npos;)
+            text.replace(at, 6, " ");
+        texts[std::stoi(line.substr(2, 7), nullptr, 16)] = text;
+    }
+    return texts;
+}
+
+struct Entry {
+    std::string source;
+    int32_t line = 0;
+    int32_t code = 0;
+    std::string text;
+};
+
+template <class Put> Entry entry_of(Put put) {
+    Errors ctx(kovra_err_ctx_new());
+    put(ctx.get());
+    EXPECT_EQ(kovra_err_ctx_getcount(ctx.get()), 1);
+    const char *source = "", *text = "";
+    Entry entry;
+    kovra_err_ctx_getentry(ctx.get(), 0, &source, &entry.line, &entry.code, &text);
+    entry.source = source;
+    entry.text = text;
+    return entry;
+}
+
+TEST(Registry, EveryTypeReportsItsCodesWithTheDocumentedTexts) {
+    ASSERT_EQ(registry().size(), static_cast<size_t>(KOVRA_ASN1_TYPE_COUNT));
+    std::map<int32_t, std::string> texts = documented_texts();
+    EXPECT_EQ(texts.size(), 468u);
+    EXPECT_EQ(texts.begin()->first, 0x10200);
+    EXPECT_EQ(texts.rbegin()->first, 0x103d3);
+    for (const Row &row : registry()) {
+        Entry encoding = entry_of([&](auto *ctx) { kovra_asn1_encode_puterr(ctx, row.type, "me", 12); });
+        Entry decoding = entry_of([&](auto *ctx) { kovra_asn1_decode_puterr(ctx, row.type, "me", 34); });
+        EXPECT_EQ(encoding.code, row.base) << row.type;
+        EXPECT_EQ(decoding.code, row.base + 1) << row.type;
+        EXPECT_EQ(encoding.text, texts[row.base]);
+        EXPECT_EQ(decoding.text, texts[row.base + 1]);
+        EXPECT_EQ(encoding.source + decoding.source, "meme");
+        EXPECT_EQ(encoding.line + decoding.line, 46);
+    }
+    for (uint32_t type : {208u, 0x7fffffffu, 0xffffffffu}) {
+        Entry entry = entry_of([&](auto *ctx) { kovra_asn1_decode_puterr(ctx, type, nullptr, 0); });
+        EXPECT_EQ(entry.code, 0x1026b);
+        EXPECT_EQ(entry.text, "unsupport type");
+    }
+    kovra_asn1_encode_puterr(nullptr, 1, "me", 1);
+}
+
+// A type that is not supported says so in every direction; one that is refuses what is not of its tag and form.
+TEST(Registry, EveryTypeChecksIdentifiersOrRefusesAltogether) {
+    Value boolean(1, kovra_asn1_boolean_true());
+    for (const Row &row : registry()) {
+        SCOPED_TRACE(row.type);
+        Decoded empty = decode(row.type, "");
+        EXPECT_NE(empty.result, 1);
+        EXPECT_FALSE(empty.codes.empty());
+        if (row.type > 1 && row.type != KOVRA_ASN1_TYPE_NULL) {
+            EXPECT_EQ(kovra_asn1_content_length(row.type, boolean.get()), -2);
+            EXPECT_EQ(kovra_asn1_length(row.type, nullptr), -2);
+            EXPECT_NE(encode(row.type, boolean.get()).result, 1);
+        }
+        if (empty.codes == Codes({0x1026d})) {
+            EXPECT_EQ(encode(row.type, boolean.get()).codes, Codes({0x1026c}));
+            continue;
+        }
+        if (row.tag == 0 || row.form < 0)
+            continue;
+        std::string identifier(1, static_cast<char>(row.tag | (row.form == 0 ? 0x20 : 0)));
+        auto with = [&](int bits) { return std::string(1, static_cast<char>(identifier[0] ^ bits)) + '\0'; };
+        // A structure that keeps its encoding reads the element as ANY first, which has an entry of its own.
+        bool keeps = decode(row.type, identifier).codes.back() == 0x10236;
+        EXPECT_EQ(decode(row.type, with(0x20)).codes, keeps ? Codes({0x10201, 0x10236}) : Codes({0x1026a}));
+        EXPECT_EQ(decode(row.type, with(0x80)).codes, Codes({0x1020a})) << "another class";
+        EXPECT_EQ(decode(row.type, with(0x21)).codes.back(), keeps ? 0x10236 : 0x1020a) << "tag before form";
+        EXPECT_EQ(decode(row.type, with(0x01)).codes.back(), 0x1020a) << "another tag";
+        EXPECT_EQ(decode(row.type, identifier + '\xFF').codes,
+                  keeps ? Codes({0x10203, 0x102e7, 0x10236}) : Codes({0x10203, 0x102e7}));
+    }
+}
+
+TEST(Codec, ATypeAbove207IsUnsupported) {
+    Value boolean(1, kovra_asn1_boolean_true());
+    for (uint32_t type : {208u, 0xffffffffu}) {
+        EXPECT_EQ(kovra_asn1_length(type, boolean.get()), -2);
+        EXPECT_EQ(kovra_asn1_content_length(type, boolean.get()), -2);
+        EXPECT_EQ(decode(type, octets("01 01 FF")).codes, Codes({0x1026b}));
+        EXPECT_EQ(decode_content(type, octets("FF"), 1, 1).codes, Codes({0x1026b}));
+        EXPECT_EQ(encode(type, boolean.get()).codes, Codes({0x1026b}));
+        EXPECT_EQ(encode_content(type, boolean.get(), 1).codes, Codes({0x1026b}));
+        kovra_asn1_value_free(type, boolean.get()); // does nothing
+        EXPECT_EQ(kovra_asn1_mem_encode(type, boolean.get()), nullptr);
+    }
+    EXPECT_STREQ(kovra_asn1_version(), "KOVRA ASN.1 Library 1.2.12,Build on 2012");
+}
+
+TEST(Codec, BooleanNullAndEndOfContents) {
+    expect_decodings({
+        {1, "01 01 FF |"},
+        {1, "01 01 00 | 01"},
+        {1, "01 01 07 |", "01 01 FF"},
+        {1, "01 83 00 00 01 80 |", "01 01 FF"},
+        {1, "21 | 01 FF", "-", {0x1026a}},
+        {1, "02 | 01 00", "-", {0x1020a}},
+        {1, "22 | 01 00", "-", {0x1020a}},
+        {1, "81 | 01 00", "-", {0x1020a}},
+        {1, "01 80 | 00 00", "-", {0x10206}},
+        {1, "01 02 | 00 00", "-", {0x10203}},
+        {1, "01 00 |", "-", {0x10203}},
+        {1, "01 01 |", "-", {0x10105}},
+        {1, "01 |", "-", {0x10105, 0x102e7}},
+        {1, "|", "-", {0x10105, 0x102e5}},
+        {1, "1F 01 | 01 00", "-", {0x10201, 0x102e5}},
+        {1, "1F 88 80 80 80 | 01", "-", {0x10202, 0x102e5}},
+        {1, "01 FF | 00", "-", {0x10203, 0x102e7}},
+        {1, "01 84 80 00 00 | 00", "-", {0x10202, 0x102e7}},
+        {5, "05 00 |"},
+        {5, "05 00 | FF"},
+        {5, "05 81 00 |", "05 00"},
+        {5, "25 | 00", "-", {0x1026a}},
+        {5, "05 80 | 00 00", "-", {0x10206}},
+        {5, "05 01 | 00", "-", {0x10203}},
+        {0, "00 00 |"},
+        {0, "00 01 |", "-", {0x10205}},
+        {0, "01 00 |", "-", {0x10205}},
+        {0, "20 00 |", "-", {0x10205}},
+        {0, "00 |", "-", {0x10105}},
+        {8, "| 0C 01 41", "-", {0x1026d}},
+    });
+    EXPECT_EQ(decode_content(1, octets("07"), 1, 1).codes, Codes());
+    EXPECT_EQ(decode_content(1, "", 0, -1).codes, Codes({0x1026a})) << "form before length";
+    EXPECT_EQ(decode_content(1, "", 1, -1).codes, Codes({0x10206}));
+    EXPECT_EQ(decode_content(5, "", 0, 1).codes, Codes({0x1026a}));
+    EXPECT_EQ(decode_content(5, "", 1, -1).codes, Codes({0x10206}));
+    EXPECT_EQ(decode_content(5, "", 1, 7).codes, Codes({0x10203}));
+    EXPECT_EQ(decode_content(0, "", 0, 0).codes, Codes({0x1026a}));
+    EXPECT_EQ(decode_content(0, "", 1, 2).codes, Codes({0x10203}));
+    for (uint32_t type : {20u, 23u, 63u, 83u, 176u, 201u})
+        EXPECT_EQ(decode_content(type, octets("00"), 1, 1).codes, Codes({0x1026d})) << type;
+
+    Value truth(1, kovra_asn1_boolean_true()), falsehood(1, kovra_asn1_boolean_false());
+    EXPECT_EQ(encoding(truth) + encoding(falsehood), "0101FF010100");
+    EXPECT_EQ(kovra_asn1_boolean_istrue(truth.get()), 1);
+    EXPECT_EQ(kovra_asn1_boolean_istrue(falsehood.get()), 0);
+    EXPECT_EQ(kovra_asn1_boolean_istrue(nullptr), 0);
+    EXPECT_EQ(kovra_asn1_boolean_istrue(decoded(1, "01 01 80").get()), 1);
+    for (auto [type, length] : {std::pair(0u, 2), {1u, 3}, {5u, 2}}) {
+        EXPECT_EQ(kovra_asn1_length(type, nullptr), length);
+        EXPECT_EQ(kovra_asn1_content_length(type, nullptr), length - 2);
+    }
+}
+
+TEST(Codec, ContentOfAnotherLengthIsNotEncoded) {
+    Value truth(1, kovra_asn1_boolean_true());
+    auto text = [](uint32_t type, const kovra_asn1_value *value, int32_t length) {
+        Stream stream = memory_stream();
+        Entry entry =
+            entry_of([&](auto *ctx) { kovra_asn1_encode_content(stream.get(), type, value, length, nullptr, ctx); });
+        EXPECT_EQ(entry.code, 0x10203);
+        return entry.text;
+    };
+    EXPECT_EQ(text(1, truth.get(), 2), "");
+    EXPECT_EQ(text(5, nullptr, 1), "");
+    EXPECT_EQ(text(0, nullptr, 1), "Bad length");
+    EXPECT_EQ(text(2, decoded(2, "02 01 05").get(), 2), "Bad length");
+    EXPECT_EQ(encode_content(1, truth.get(), 1).octets, "\xFF");
+    EXPECT_EQ(encode_content(5, nullptr, 0).result, 1);
+    EXPECT_EQ(encode_content(0, nullptr, 0).result, 1);
+    EXPECT_EQ(encode(0, nullptr).octets + encode(5, nullptr).octets, octets("00 00 05 00"));
+}
+
+TEST(Codec, NullArgumentsAreRefusedWithOneEntry) {
+    Value truth(1, kovra_asn1_boolean_true());
+    Input input(octets("01 01 FF"));
+    Stream stream = memory_stream();
+    for (uint32_t type : {1u, 2u, 3u, 4u, 6u, 7u, 9u, 20u, 21u, 22u, 23u, 24u, 25u, 26u, 27u, 90u}) {
+        SCOPED_TRACE(type);
+        kovra_asn1_value *value = nullptr;
+        Errors ctx(kovra_err_ctx_new());
+        EXPECT_EQ(kovra_asn1_encode(nullptr, type, truth.get(), nullptr, ctx.get()), 0);
+        EXPECT_EQ(kovra_asn1_encode(stream.get(), type, nullptr, nullptr, ctx.get()), 0);
+        EXPECT_EQ(kovra_asn1_encode_content(nullptr, type, truth.get(), 1, nullptr, ctx.get()), 0);
+        EXPECT_EQ(kovra_asn1_encode_content(stream.get(), type, nullptr, 1, nullptr, ctx.get()), 0);
+        EXPECT_EQ(kovra_asn1_decode(nullptr, type, &value, nullptr, ctx.get()), 0);
+        EXPECT_EQ(Codes(ctx.get()), Codes({0x10002, 0x10002, 0x10002, 0x10002, 0x10002}));
+        kovra_err_ctx_clear(ctx.get());
+        if (type == 20 || type == 23)
+            continue;
+        EXPECT_EQ(kovra_asn1_decode_content(nullptr, type, &value, 1, 1, nullptr, ctx.get()), 0);
+        EXPECT_EQ(kovra_asn1_decode_content(input.stream(), type, nullptr, 1, 1, nullptr, ctx.get()), 0);
+        EXPECT_EQ(Codes(ctx.get()), Codes({0x10002, 0x10002}));
+    }
+    EXPECT_EQ(taken(stream), "");
+    EXPECT_EQ(input.consumed(), 0u);
+}
+
+TEST(Codec, WhatAStreamReturnsIsPassedUp) {
+    const std::string data = octets("02 02 01 05");
+    const Codes chains[] = {{0x10105, 0x102e5}, {0x10105, 0x102e7}, {0x10105}, {0x10105}};
+    for (size_t stop = 0; stop < data.size(); ++stop) {
+        Decoded decoded = decode(2, Input(data, Feed::trickle, stop, 42));
+        EXPECT_EQ(decoded.result, 42);
+        EXPECT_EQ(decoded.codes, chains[stop]);
+    }
+    // Writing: `room` octets are taken, then 42 is returned.
+    for (int32_t room = 0; room < 4; ++room) {
+        int32_t left = room;
+        kovra_stream_callbacks callbacks = {};
+        callbacks.write = [](void *user, const void *, int32_t size, int32_t *out_count) {
+            int32_t &rest = *static_cast<int32_t *>(user);
+            *out_count = std::min(rest, size);
+            rest -= *out_count;
+            return *out_count > 0 ? 1 : 42;
+        };
+        Stream stream(kovra_stream_new_callbacks(&callbacks, &left, nullptr));
+        Errors ctx(kovra_err_ctx_new());
+        int32_t written = -7;
+        EXPECT_EQ(kovra_asn1_encode(stream.get(), 2, decoded(2, "02 02 01 05").get(), &written, ctx.get()), 42);
+        ASSERT_GT(kovra_err_ctx_getcount(ctx.get()), 0);
+        EXPECT_EQ(Codes(ctx.get())[0], 0x10106);
+        EXPECT_EQ(written, -7);
+    }
+}
+
+TEST(Codec, WholeEncodingsInMemory) {
+    kovra_asn1_value *value = nullptr;
+    EXPECT_EQ(kovra_asn1_mem_decode("\x05\x00\xFF", 3, 5, &value), 2);
+    EXPECT_EQ(kovra_asn1_mem_decode("\x02\x01\x05\x00", 4, 2, &value), 3);
+    Value five(2, value);
+    Blob blob(kovra_asn1_mem_encode(2, five.get()));
+    EXPECT_EQ(text_of(blob.get()), octets("02 01 05"));
+    value = nullptr;
+    EXPECT_EQ(kovra_asn1_mem_decode(nullptr, 3, 2, &value), -1);
+    EXPECT_EQ(kovra_asn1_mem_decode("\x02\x01\x05", 0, 2, &value), -1);
+    EXPECT_EQ(kovra_asn1_mem_decode("\x02\x01\x05", -3, 2, &value), -1);
+    EXPECT_EQ(kovra_asn1_mem_decode("\x02\x01\x05", 2, 2, &value), -1);
+    EXPECT_EQ(kovra_asn1_mem_decode("\x02\x01\x05", 3, 1, &value), -1);
+    EXPECT_EQ(kovra_asn1_mem_decode("\x02\x01\x05", 3, 208, &value), -1);
+    EXPECT_EQ(kovra_asn1_mem_decode("\x02\x01\x05", 3, 2, nullptr), -1);
+    EXPECT_EQ(kovra_asn1_mem_decode("\x05\x00", 2, 5, nullptr), -1);
+    EXPECT_EQ(value, nullptr);
+    EXPECT_EQ(kovra_asn1_mem_encode(2, nullptr), nullptr);
+    EXPECT_EQ(kovra_asn1_mem_encode(8, five.get()), nullptr);
+}
+
+TEST(Codec, DuplicatesAreEncodedAndDecoded) {
+    auto dup = [](const Value &value, Codes expected) {
+        Errors ctx(kovra_err_ctx_new());
+        Value copy(value.type(), kovra_asn1_dupobject(value.type(), value.get(), ctx.get()));
+        EXPECT_EQ(Codes(ctx.get()), expected);
+        return copy;
+    };
+    for (auto [type, text] :
+         {std::pair(1u, "01 01 FF"), {2u, "02 02 01 00"}, {3u, "03 02 04 F0"}, {23u, "30 80 00 00"}}) {
+        Value original = decoded(type, text);
+        Value copy = dup(original, {});
+        ASSERT_TRUE(copy);
+        EXPECT_NE(copy.get(), original.get());
+        EXPECT_EQ(encoding(copy), encoding(original));
+    }
+    EXPECT_FALSE(dup(Value(2, nullptr), {0x10002}));
+    Value string(8, kovra_asn1_string_new("A", 1));
+    EXPECT_FALSE(dup(string, {0x1026c, 0x10216}));
+    Errors ctx(kovra_err_ctx_new());
+    EXPECT_EQ(kovra_asn1_dupobject(208, string.get(), ctx.get()), nullptr);
+    EXPECT_EQ(Codes(ctx.get()), Codes({0x1026b, 0x1026b}));
+    // A marker in a list can be written but not read, and an element that holds one too early leaves octets unread.
+    Value list(24, kovra_asn1_list_new());
+    ASSERT_EQ(kovra_asn1_list_put(list.get(), decoded(23, "00 00").release()), 1);
+    EXPECT_FALSE(dup(list, {0x10209, 0x10271}));
+    std::string content = octets("05 00 00 00 00 00");
+    Value any(23, kovra_asn1_any_new(0, 0, 16, -1, content.data(), size_of(content)));
+    EXPECT_FALSE(dup(any, {0x1027f}));
+}
+
+} // namespace
+} // namespace kovra::test
