@@ -31,7 +31,7 @@ Result encode_boolean_content(Encoder &encoder, const Type &, Value *value, int3
     return encoder.put(here(), &octet, 1);
 }
 
-Result decode_boolean_content(Decoder &decoder, const Type &, Element element, Value *&out) {
+Result decode_boolean_content(Decoder &decoder, const Type &, const Element &element, Value *&out) {
     if (const Result result = enter_primitive(decoder, here(), element); result != success)
         return result;
     if (element.length != 1)
@@ -83,7 +83,7 @@ Result encode_null(Encoder &encoder, const Type &, Value *) {
     return encoder.put(here(), octets, sizeof octets);
 }
 
-Result decode_null_content(Decoder &decoder, const Type &, Element element, Value *&) {
+Result decode_null_content(Decoder &decoder, const Type &, const Element &element, Value *&) {
     if (const Result result = enter_primitive(decoder, here(), element); result != success)
         return result;
     return element.length == 0 ? success : decoder.fail(here(), code::bad_length);
@@ -101,7 +101,7 @@ Result encode_end_of_contents(Encoder &encoder, const Type &, Value *) {
     return encoder.end_of_contents(here());
 }
 
-Result decode_end_of_contents_content(Decoder &decoder, const Type &, Element element, Value *&) {
+Result decode_end_of_contents_content(Decoder &decoder, const Type &, const Element &element, Value *&) {
     if (!decoder.has_stream())
         return decoder.fail(here(), code::null_argument);
     if (element.form == Form::constructed)

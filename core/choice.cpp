@@ -100,7 +100,7 @@ bool choice_begins(const Type &type, const Identifier &identifier) {
     return find(choice_of(type), identifier) != choice_of(type).count;
 }
 
-Result decode_begun_choice(Decoder &decoder, const Type &type, const Identifier &identifier, Element element,
+Result decode_begun_choice(Decoder &decoder, const Type &type, const Identifier &identifier, const Element &element,
                            Value *&out) {
     const ChoiceShape &shape = choice_of(type);
     const uint8_t number = find(shape, identifier);
@@ -117,8 +117,8 @@ Result decode_begun_choice(Decoder &decoder, const Type &type, const Identifier 
         if (component.tag.tagging == Tagging::none) {
             result = decode_begun(decoder, content, identifier, element, value);
         } else {
-            element.start = Element::no_start;
-            result = content.operations->decode_content(decoder, content, element, value);
+            const Element untagged{element.form, element.length};
+            result = content.operations->decode_content(decoder, content, untagged, value);
         }
         if (result != success)
             decoder.fail(site, decode_code(component), result);
@@ -194,8 +194,8 @@ bool string_choice_begins(const Type &type, const Identifier &identifier) {
     return identifier.tag_class == Class::universal && allows(strings_of(type), identifier.tag);
 }
 
-Result decode_begun_string_choice(Decoder &decoder, const Type &type, const Identifier &identifier, Element element,
-                                  Value *&out) {
+Result decode_begun_string_choice(Decoder &decoder, const Type &type, const Identifier &identifier,
+                                  const Element &element, Value *&out) {
     const Site site = in(strings_of(type));
     const Type &octets = row(KOVRA_ASN1_TYPE_OCTET_STRING);
     Value *string = nullptr;

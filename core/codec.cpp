@@ -84,7 +84,8 @@ bool begins(const Type &type, const Identifier &identifier) {
     return identifier.is(Class::universal, type.tag) && (type.form == Form::either || type.form == identifier.form);
 }
 
-Result decode_begun(Decoder &decoder, const Type &type, const Identifier &identifier, Element element, Value *&out) {
+Result decode_begun(Decoder &decoder, const Type &type, const Identifier &identifier, const Element &element,
+                    Value *&out) {
     if (type.operations->decode_begun != nullptr)
         return type.operations->decode_begun(decoder, type, identifier, element, out);
     return type.operations->decode_content(decoder, type, element, out);
@@ -147,7 +148,7 @@ Value *convert(const Type &from, const Value *value, const Type &to) {
     return convert_with(from, value, to, nullptr);
 }
 
-Result refuse_decode_content(Decoder &decoder, const Type &, Element, Value *&) {
+Result refuse_decode_content(Decoder &decoder, const Type &, const Element &, Value *&) {
     return decoder.fail(here(), code::unsupported_decode);
 }
 

@@ -147,7 +147,7 @@ Result Decoder::decode_root(const Type &type, Value *&out) {
         [&](Value *&value) { return decode(*this, type, value); }, out);
 }
 
-Result Decoder::decode_root_content(const Type &type, Element element, Value *&out) {
+Result Decoder::decode_root_content(const Type &type, const Element &element, Value *&out) {
     const auto expected = std::min<size_t>(size_, element.length > 0 ? static_cast<size_t>(element.length) : 0);
     const size_t copy = expected <= one_allocation ? expected : 0;
     return into_own_arena(

@@ -41,7 +41,7 @@ public:
 
     // Decodes a whole value, or the content of one, into an arena of its own that holds a copy of the octets.
     Result decode_root(const Type &type, Value *&out);
-    Result decode_root_content(const Type &type, Element element, Value *&out);
+    Result decode_root_content(const Type &type, const Element &element, Value *&out);
     // The octets in memory that the decoder reads become the arena's without a copy when the decode succeeds.
     void take_over(Arena::Block *block) { pulled_ = block; }
     // Steps a stream that shows its octets over those that were read.

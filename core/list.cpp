@@ -246,7 +246,7 @@ Next read_element(Decoder &decoder, const Type &element, ListReading reading, bo
     return decoded == success ? Next::element : fault(fail_decode(decoder, here(), element, decoded));
 }
 
-Result decode_list(Decoder &decoder, const Type &type, Element element, Value *&out) {
+Result decode_list(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     const ListShape &shape = shape_of(type);
     const Type &member = row(shape.element);
     if (const Result result = enter(decoder, here()); result != success)
@@ -282,7 +282,7 @@ Result decode_list(Decoder &decoder, const Type &type, Element element, Value *&
 }
 
 // Lists of open-type values have codes of their own for what goes wrong.
-Result decode_any_list(Decoder &decoder, const Type &type, Element element, Value *&out) {
+Result decode_any_list(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     const Type &any = row(KOVRA_ASN1_TYPE_ANY);
     if (const Result result = enter(decoder, here()); result != success)
         return result;

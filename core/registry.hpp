@@ -28,13 +28,13 @@ struct Operations {
     // Writes the whole value. Null: universal identifier, length, content.
     Result (*encode)(Encoder &, const Type &, Value *) = nullptr;
     // Reads the content of an element.
-    Result (*decode_content)(Decoder &, const Type &, Element, Value *&out) = nullptr;
+    Result (*decode_content)(Decoder &, const Type &, const Element &, Value *&out) = nullptr;
     // Reads a whole value. Null: the identifier must be the row's.
     Result (*decode)(Decoder &, const Type &, Value *&out) = nullptr;
     // Can a value begin with this identifier? Null: it must be the row's.
     bool (*begins)(const Type &, const Identifier &) = nullptr;
     // Reads the content behind an identifier that the value can begin with. Null: `decode_content`.
-    Result (*decode_begun)(Decoder &, const Type &, const Identifier &, Element, Value *&out) = nullptr;
+    Result (*decode_begun)(Decoder &, const Type &, const Identifier &, const Element &, Value *&out) = nullptr;
     // Octets of records to make room for when this many octets are to be decoded.
     size_t (*records_reserve)(size_t octets) = nullptr;
 };
@@ -74,7 +74,8 @@ Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure 
 // Reads a whole value, and the content behind an identifier that `begins` accepted.
 Result decode(Decoder &decoder, const Type &type, Value *&out);
 bool begins(const Type &type, const Identifier &identifier);
-Result decode_begun(Decoder &decoder, const Type &type, const Identifier &identifier, Element element, Value *&out);
+Result decode_begun(Decoder &decoder, const Type &type, const Identifier &identifier, const Element &element,
+                    Value *&out);
 
 // A copy that is independent of the value, by encoding and decoding it. Null, with entries, when that fails.
 Value *duplicate(const Type &type, const Value *value, kovra_err_ctx *ctx);
@@ -96,7 +97,7 @@ inline Result enter(Decoder &decoder, Site site) {
     return success;
 }
 // And of those whose content is primitive and definite.
-inline Result enter_primitive(Decoder &decoder, Site site, Element element) {
+inline Result enter_primitive(Decoder &decoder, Site site, const Element &element) {
     if (const Result result = enter(decoder, site); result != success)
         return result;
     if (element.form == Form::constructed)
@@ -113,6 +114,6 @@ template <class T> bool holds_kind(const Type &, const Value &value) {
 template <size_t record_octets> size_t leaf_reserve(size_t) {
     return record_octets;
 }
-Result refuse_decode_content(Decoder &decoder, const Type &, Element, Value *&);
+Result refuse_decode_content(Decoder &decoder, const Type &, const Element &, Value *&);
 
 } // namespace kovra::asn1

@@ -174,7 +174,7 @@ Result encode_kept(Encoder &encoder, const Type &type, Value *value) {
 // One walk through the components of a structure.
 class Reader {
 public:
-    Reader(Decoder &decoder, const Structure &shape, Element element, Record &record)
+    Reader(Decoder &decoder, const Structure &shape, const Element &element, Record &record)
         : decoder_(decoder), shape_(shape), record_(record), begin_(decoder.position()), length_(element.length) {}
 
     Result read() {
@@ -307,7 +307,7 @@ private:
     bool ended_ = false;           // the end-of-contents octets were read in place of a component
 };
 
-Result decode_structure_content(Decoder &decoder, const Type &type, Element element, Value *&out) {
+Result decode_structure_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     const Structure &shape = shape_of(type);
     if (const Result result = enter(decoder, in(shape)); result != success)
         return result;
@@ -331,7 +331,7 @@ Result decode_structure_content(Decoder &decoder, const Type &type, Element elem
 }
 
 // A structure that keeps its encoding: the octets from its identifier on.
-Result decode_kept_content(Decoder &decoder, const Type &type, Element element, Value *&out) {
+Result decode_kept_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     if (const Result result = decode_structure_content(decoder, type, element, out); result != success)
         return result;
     if (element.start != Element::no_start)

@@ -97,7 +97,7 @@ Result encode_bit_string(Encoder &encoder, const Type &type, Value *value) {
     return encode_bit_string_content(encoder, type, value, length);
 }
 
-Result decode_bit_string_content(Decoder &decoder, const Type &, Element element, Value *&out) {
+Result decode_bit_string_content(Decoder &decoder, const Type &, const Element &element, Value *&out) {
     if (const Result result = enter(decoder, here()); result != success)
         return result;
     auto *bits = new_record<BitString>(decoder.arena());
@@ -125,7 +125,7 @@ Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE())
     return failure;
 }
 
-Result decode_into(StreamSource &source, kovra_stream *content_stream, Element element,
+Result decode_into(StreamSource &source, kovra_stream *content_stream, const Element &element,
                    kovra_asn1_value **out_bitstring, kovra_err_ctx *ctx) {
     auto *bits = new_root<BitString>();
     if (bits == nullptr)

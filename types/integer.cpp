@@ -38,7 +38,7 @@ Result encode_integer_content(Encoder &encoder, const Type &, Value *value, int3
     return encoder.put(here(), octets_of(*integer), integer->octets.length);
 }
 
-Result decode_integer_content(Decoder &decoder, const Type &, Element element, Value *&out) {
+Result decode_integer_content(Decoder &decoder, const Type &, const Element &element, Value *&out) {
     if (const Result result = enter_primitive(decoder, here(), element); result != success)
         return result;
     if (element.length < 1)

@@ -115,7 +115,7 @@ Result encode_character_string(Encoder &encoder, const Type &type, Value *value)
     return encode_string_content(encoder, type, value, length);
 }
 
-Result decode_string_content(Decoder &decoder, const Type &, Element element, Value *&out) {
+Result decode_string_content(Decoder &decoder, const Type &, const Element &element, Value *&out) {
     if (const Result result = enter(decoder, here()); result != success)
         return result;
     auto *string = new_record<String>(decoder.arena());
@@ -153,8 +153,8 @@ Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE())
 }
 
 // Appends the content octets of a string whose identifier and length were read to a stream that the record then uses.
-Result decode_into(StreamSource &source, kovra_stream *content_stream, Element element, kovra_asn1_value **out_string,
-                   kovra_err_ctx *ctx) {
+Result decode_into(StreamSource &source, kovra_stream *content_stream, const Element &element,
+                   kovra_asn1_value **out_string, kovra_err_ctx *ctx) {
     auto *string = new_root<String>();
     if (string == nullptr)
         return refuse(ctx, code::no_memory);

@@ -68,7 +68,7 @@ bool has_text(const uint8_t *octets, uint32_t length) {
     return is_sure || for_each_subidentifier(octets, length, [](uint64_t) {});
 }
 
-Result decode_oid_content(Decoder &decoder, const Type &type, Element element, Value *&out) {
+Result decode_oid_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     if (const Result result = enter_primitive(decoder, here(), element); result != success)
         return result;
     if (element.length < 1)

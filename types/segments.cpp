@@ -24,7 +24,7 @@ bool OpenStrings::open(int64_t end) {
 }
 
 template <bool of_bits>
-Result decode_segments(Decoder &decoder, Site site, Element element, Content &out, uint32_t &unused_bits) {
+Result decode_segments(Decoder &decoder, Site site, const Element &element, Content &out, uint32_t &unused_bits) {
     const uint32_t begin = decoder.position();
     uint32_t total = 0;
     uint32_t pieces = 0;
@@ -60,7 +60,7 @@ Result decode_segments(Decoder &decoder, Site site, Element element, Content &ou
     return result;
 }
 
-template Result decode_segments<false>(Decoder &, Site, Element, Content &, uint32_t &);
-template Result decode_segments<true>(Decoder &, Site, Element, Content &, uint32_t &);
+template Result decode_segments<false>(Decoder &, Site, const Element &, Content &, uint32_t &);
+template Result decode_segments<true>(Decoder &, Site, const Element &, Content &, uint32_t &);
 
 } // namespace kovra::asn1

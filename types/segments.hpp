@@ -65,7 +65,7 @@ Result read_segment(Source &source, Site site, int32_t tag, Identifier &identifi
 template <bool of_bits> class SegmentWalk {
 public:
     template <class Source, class Take>
-    static Result run(Source &source, Site site, Element element, Take take, uint32_t &unused_bits) {
+    static Result run(Source &source, Site site, const Element &element, Take take, uint32_t &unused_bits) {
         unused_bits = 0;
         if (element.form == Form::primitive)
             return primitive(source, site, element.length, take, unused_bits);
@@ -168,6 +168,6 @@ private:
 
 // Decodes the content of a string into a record's content: a slice of the octets, or the segments put together.
 template <bool of_bits>
-Result decode_segments(Decoder &decoder, Site site, Element element, Content &out, uint32_t &unused_bits);
+Result decode_segments(Decoder &decoder, Site site, const Element &element, Content &out, uint32_t &unused_bits);
 
 } // namespace kovra::asn1

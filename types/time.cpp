@@ -66,7 +66,7 @@ Result encode_time(Encoder &encoder, const Type &type, Value *value) {
     return result == success ? success : encoder.fail(here(), code::write_length, result);
 }
 
-Result decode_text(Decoder &decoder, uint8_t tag, Element element, Value *&out) {
+Result decode_text(Decoder &decoder, uint8_t tag, const Element &element, Value *&out) {
     if (const Result result = enter(decoder, here()); result != success)
         return result;
     auto *time = new_record<Time>(decoder.arena());
@@ -92,7 +92,7 @@ Result decode_text(Decoder &decoder, uint8_t tag, Element element, Value *&out) 
     return success;
 }
 
-Result decode_time_content(Decoder &decoder, const Type &type, Element element, Value *&out) {
+Result decode_time_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     return decode_text(decoder, type.tag, element, out);
 }
 
@@ -100,7 +100,8 @@ bool time_begins(const Type &, const Identifier &identifier) {
     return identifier.is(Class::universal, tag::utc_time) || identifier.is(Class::universal, tag::generalized_time);
 }
 
-Result decode_begun_time(Decoder &decoder, const Type &, const Identifier &identifier, Element element, Value *&out) {
+Result decode_begun_time(Decoder &decoder, const Type &, const Identifier &identifier, const Element &element,
+                         Value *&out) {
     return decode_text(decoder, static_cast<uint8_t>(identifier.tag), element, out);
 }
 
