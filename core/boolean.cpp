@@ -109,15 +109,13 @@ Result decode_end_of_contents_content(Decoder &decoder, const Type &, const Elem
     return element.length == 0 ? success : decoder.fail(here(), code::bad_length);
 }
 
+// Both octets are read before they are looked at.
 Result decode_end_of_contents(Decoder &decoder, const Type &, Value *&) {
-    for (int i = 0; i < 2; ++i) {
-        uint8_t octet = 0;
+    uint8_t octets[2] = {};
+    for (uint8_t &octet : octets)
         if (const Result result = decoder.octet(here(), octet); result != success)
             return result;
-        if (octet != 0)
-            return decoder.fail(here(), code::bad_end_of_contents);
-    }
-    return success;
+    return octets[0] == 0 && octets[1] == 0 ? success : decoder.fail(here(), code::bad_end_of_contents);
 }
 
 } // namespace

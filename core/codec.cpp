@@ -63,6 +63,8 @@ int32_t whole_length(const Type &type, Value *value, Measure measure) {
 }
 
 Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure) {
+    if (type.operations->refuses_whole)
+        return type.operations->encode(encoder, type, nullptr);
     if (value != nullptr && !type.operations->holds(type, *value))
         return refuse_value(encoder, value);
     if (measure == Measure::fresh && value != nullptr) {

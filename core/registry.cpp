@@ -39,6 +39,7 @@ constexpr Operations unbuilt_operations = {
     .encode = refuse_encode,
     .decode_content = refuse_decode_content,
     .decode = refuse_decode,
+    .refuses_whole = true,
     .records_reserve = [](size_t) { return size_t{0}; },
 };
 

@@ -35,6 +35,8 @@ struct Operations {
     bool (*begins)(const Type &, const Identifier &) = nullptr;
     // Reads the content behind an identifier that the value can begin with. Null: `decode_content`.
     Result (*decode_begun)(Decoder &, const Type &, const Identifier &, const Element &, Value *&out) = nullptr;
+    // Whole values are refused in both directions, whatever they are.
+    bool refuses_whole = false;
     // Octets of records to make room for when this many octets are to be decoded.
     size_t (*records_reserve)(size_t octets) = nullptr;
 };

@@ -198,6 +198,7 @@ constexpr Operations untagged_string_operations = {
     .encode = refuse_encode,
     .decode_content = decode_string_content,
     .decode = refuse_decode,
+    .refuses_whole = true,
     .records_reserve = leaf_reserve<2 * sizeof(String)>,
 };
 
