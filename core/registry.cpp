@@ -33,7 +33,7 @@ Result refuse_decode(Decoder &decoder, const Type &, Value *&) {
 } // namespace
 
 constexpr Operations unbuilt_operations = {
-    .holds = holds_nothing,
+    .holds = holds_anything,
     .content_length = no_content_length,
     .encode_content = refuse_encode_content,
     .encode = refuse_encode,
