@@ -34,10 +34,10 @@ KOVRA_ASN1_API int32_t kovra_asn1_encode(kovra_stream *stream, uint32_t type, co
 
 /* kovra_asn1_decode reads one whole encoding from a stream as a value of the type, stores it in `*out_value` and the
  * octets consumed in `*out_read`; what follows in the stream is left there. Types 0 and 5 have no record and store
- * none. Codes: 0x1026b for a type above 207; 0x10002 for a null stream; 0x102e5 on top of the entry of the identifier
- * octets; 0x1020a for another class or tag than the type's, then 0x1026a for the other form; 0x102e7 on top of the
- * entry of the length octets; then those of the content, with nothing on top. The two codes on top are two above those
- * named after their step; callers match on them. */
+ * none. Codes: 0x1026b for a type above 207; 0x102e5 on top of the entry of the identifier octets, which is 0x10002 for
+ * a null stream; 0x1020a for another class or tag than the type's, then 0x1026a for the other form; 0x102e7 on top of
+ * the entry of the length octets; then those of the content, with nothing on top. The two codes on top are two above
+ * those named after their step; callers match on them. */
 KOVRA_ASN1_API int32_t kovra_asn1_decode(kovra_stream *stream, uint32_t type, kovra_asn1_value **out_value,
                                          int32_t *out_read, kovra_err_ctx *ctx) KOVRA_NOTHROW;
 
