@@ -1,0 +1,164 @@
+// BIT STRING.
+#include "tests/asn1_testing.hpp"
+
+namespace kovra::test {
+namespace {
+
+Value bits(int32_t unused, std::string_view hex) {
+    std::string data = octets(hex);
+    return Value(3, kovra_asn1_bitstring_new(unused, data.data(), size_of(data)));
+}
+
+std::string data_of(const Value &bitstring) {
+    std::string data(static_cast<size_t>(kovra_asn1_bitstring_getlength(bitstring.get())), '\0');
+    EXPECT_EQ(kovra_asn1_bitstring_getall(bitstring.get(), data.data()), 1);
+    return hex(data);
+}
+
+TEST(BitString, DecodesWhatBerHas) {
+    expect_decodings({
+        {3, "03 01 00 |"},
+        {3, "03 02 04 F0 | 00"},
+        {3, "03 02 07 FF |"}, // unused bits are kept as they are
+        {3, "03 81 02 00 AA |", "03 02 00 AA"},
+        {3, "03 00 |", "-", {0x10203}},
+        {3, "03 01 01 |", "-", {0x10207}},
+        {3, "03 01 08 |", "-", {0x10207}},
+        {3, "03 02 08 | 00", "-", {0x10207}},
+        {3, "03 02 FF | 00", "-", {0x10207}},
+        {3, "03 80 | 00 00", "-", {0x10206}},
+        {3, "03 03 00 AA |", "-", {0x10105}},
+        {3, "03 01 |", "-", {0x10105}},
+        {3, "03 |", "-", {0x10105, 0x102e7}},
+        {3, "|", "-", {0x10105, 0x102e5}},
+        {3, "04 | 02 00 AA", "-", {0x1020a}},
+        {3, "83 | 02 00 AA", "-", {0x1020a}},
+        {3, "00 00 |", "-", {0x10214}},
+        // Definite and constructed.
+        {3, "23 00 |", "03 01 00"},
+        {3, "23 08 03 02 00 AA 03 02 04 B0 |", "03 03 04 AA B0"},
+        {3, "23 0A 23 08 03 02 00 AA 03 02 04 B0 |", "03 03 04 AA B0"},
+        {3, "23 03 03 02 00 AA |", "-", {0x10203}},
+        {3, "23 08 03 02 04 A0 03 02 00 BB", "-", {0x10207}},
+        {3, "23 02 00 00", "-", {0x1020a}},
+        {3, "23 03 04 01 AA", "-", {0x1020a}},
+        {3, "23 04 03 02 08 AA", "-", {0x10207}},
+        {3, "23 04 03 02 00 |", "-", {0x10105}},
+        {3, "23 05 03 02 00 AA |", "-", {0x10105, 0x102e5}},
+        // Indefinite.
+        {3, "23 80 00 00 |", "03 01 00"},
+        {3, "23 80 03 02 00 AA 03 02 04 B0 00 00 | 00", "03 03 04 AA B0"},
+        {3, "23 80 23 80 03 02 00 AA 00 00 23 04 03 02 04 B0 00 00 |", "03 03 04 AA B0"},
+        {3, "23 80 03 02 04 A0 03 02 00 BB 00 00", "-", {0x10207, 0x10214}},
+        {3, "23 80 03 02 08 A0 00 00", "-", {0x10207, 0x10214}},
+        {3, "23 80 23 80 03 02 08 A0", "-", {0x10207, 0x10214, 0x10214}},
+        {3, "23 80 23 04 23 80 03 02 08", "-", {0x10207, 0x10214, 0x10214}},
+        {3, "23 80 04 01 00 00 00", "-", {0x1020a, 0x10214}},
+        {3, "23 80 03 80", "-", {0x10206, 0x10214}},
+        {3, "23 80 00 01", "-", {0x102e9, 0x10214}},
+        {3, "23 80 20 00", "-", {0x1020a, 0x10214}},
+        {3, "23 80 03 FF", "-", {0x10203, 0x102e7, 0x10214}},
+        {3, "23 80 |", "-", {0x10105, 0x102e5, 0x10214}},
+    });
+    EXPECT_EQ(decode_content(3, "", 1, -2).codes, Codes({0x10203}));
+    EXPECT_EQ(decode_content(3, octets("03 02 04 F0 00 00"), 0, -1).read, 6);
+}
+
+TEST(BitString, New) {
+    EXPECT_EQ(encoding(bits(3, "FF")), "030203F8");
+    EXPECT_EQ(encoding(bits(7, "12 34 FF")), "030407123480");
+    EXPECT_EQ(encoding(bits(0, "")), "030100");
+    EXPECT_EQ(encoding(Value(3, kovra_asn1_bitstring_new(0, nullptr, 0))), "030100");
+    for (auto [unused, data, length] :
+         {std::tuple(1, (const char *)nullptr, 0), {0, nullptr, 1}, {8, "x", 1}, {-1, "x", 1}, {0, "x", -1}})
+        EXPECT_EQ(kovra_asn1_bitstring_new(unused, data, length), nullptr);
+    const struct {
+        std::vector<int32_t> positions;
+        const char *encoding; // empty: refused
+    } rows[] = {{{0, 5}, "03020284"},      {{9}, "0303060040"}, {{7}, "03020001"},         {{0}, "03020780"},
+                {{8, 0, 8}, "0303078080"}, {{-1}, ""},          {{3, -2147483647 - 1}, ""}};
+    for (const auto &row : rows) {
+        int32_t count = static_cast<int32_t>(row.positions.size());
+        Value value(3, kovra_asn1_bitstring_newbits(row.positions.data(), count));
+        EXPECT_EQ(encoding(value), row.encoding);
+    }
+    int32_t nine = 9;
+    EXPECT_EQ(encoding(Value(3, kovra_asn1_bitstring_newbits(nullptr, 5))), "030100");
+    EXPECT_EQ(encoding(Value(3, kovra_asn1_bitstring_newbits(&nine, 0))), "0303060040"); // read even so
+    EXPECT_EQ(kovra_asn1_bitstring_newbits(&nine, -1), nullptr);
+    EXPECT_EQ(kovra_asn1_bitstring_newbitset(nullptr), nullptr);
+    // Through a bit set and back.
+    for (const char *text : {"030100", "03020284", "03020780", "0303060040", "03020001"}) {
+        BitSet set(kovra_asn1_bitstring_getbitset(decoded(3, text).get()));
+        EXPECT_EQ(encoding(Value(3, kovra_asn1_bitstring_newbitset(set.get()))), text);
+    }
+}
+
+TEST(BitString, Bits) {
+    Value value = decoded(3, "03 03 04 A1 FF"); // the four unused bits are ones
+    EXPECT_EQ(kovra_asn1_bitstring_getlength(value.get()), 2);
+    EXPECT_EQ(kovra_asn1_bitstring_getunusedbits(value.get()), 4);
+    std::string found;
+    for (int32_t bit = 0; bit < 20; ++bit)
+        found += kovra_asn1_bitstring_getbit(value.get(), bit) == 1 ? '1' : '0';
+    EXPECT_EQ(found, "10100001111100000000");
+    for (int32_t bit : {-1, INT32_MIN, INT32_MAX})
+        EXPECT_EQ(kovra_asn1_bitstring_getbit(value.get(), bit), 0);
+    EXPECT_EQ(kovra_asn1_bitstring_getbit(decoded(3, "03 01 00").get(), 0), 0);
+    EXPECT_EQ(data_of(value), "A1FF");
+    EXPECT_EQ(kovra_asn1_content_length(3, value.get()), 3);
+}
+
+TEST(BitString, ContentOfGivenLengths) {
+    Value value = bits(4, "AA F0");
+    EXPECT_EQ(hex(encode_content(3, value.get(), 3).octets), "04AAF0");
+    EXPECT_EQ(hex(encode_content(3, value.get(), -1).octets), "030304AAF00000");
+    for (int32_t length : {0, -2, INT32_MIN})
+        EXPECT_EQ(encode_content(3, value.get(), length).codes, Codes({0x10001}));
+    for (int32_t length : {1, 2, 4})
+        EXPECT_EQ(encode_content(3, value.get(), length).codes, Codes({0x10004}));
+    std::string large = noise(20000);
+    Value of_segments(3, kovra_asn1_bitstring_new(5, large.data(), 20000));
+    large.back() = static_cast<char>(large.back() & 0xE0);
+    EXPECT_TRUE(encode_content(3, of_segments.get(), -1).octets ==
+                octets("03 82 20 01 00") + large.substr(0, 8192) + octets("03 82 20 01 00") + large.substr(8192, 8192) +
+                    octets("03 82 0E 21 05") + large.substr(16384) + std::string(2, '\0'));
+}
+
+TEST(BitString, DecodesIntoTheCallersStream) {
+    Stream content = memory_stream();
+    Errors ctx(kovra_err_ctx_new());
+    for (Feed feed : {Feed::memory, Feed::trickle}) {
+        Decoded found = decode_with(3, Input(octets("23 80 03 02 00 AA 03 02 04 B0 00 00"), feed),
+                                    [&](auto *stream, auto **out, auto *read, auto *c) {
+                                        return kovra_asn1_decode_bitstring_ex(stream, content.get(), out, read, c);
+                                    });
+        EXPECT_EQ(found.read, 12);
+        EXPECT_EQ(kovra_asn1_bitstring_getunusedbits(found.value.get()), 4);
+        found = decode_with(3, Input(octets("04 C0"), feed), [&](auto *stream, auto **out, auto *read, auto *c) {
+            return kovra_asn1_decode_bitstring_content_ex(stream, content.get(), out, 1, 2, read, c);
+        });
+        EXPECT_EQ(found.read, 2);
+        found.value = Value();
+        EXPECT_EQ(hex(taken(content)), "AAB0C0") << "appended, and not the value's";
+    }
+    auto whole = [&](const char *text) {
+        return decode_with(3, Input(octets(text)),
+                           [&](auto *stream, auto **out, auto *read, auto *c) {
+                               return kovra_asn1_decode_bitstring_ex(stream, content.get(), out, read, c);
+                           })
+            .codes;
+    };
+    EXPECT_EQ(whole("00 00"), Codes({0x10214}));
+    EXPECT_EQ(whole("04 00"), Codes({0x1020a}));
+    kovra_asn1_value *value = nullptr;
+    Input input("x");
+    EXPECT_EQ(kovra_asn1_decode_bitstring_content_ex(nullptr, content.get(), &value, 1, 1, nullptr, ctx.get()), 0);
+    EXPECT_EQ(kovra_asn1_decode_bitstring_content_ex(input.stream(), nullptr, &value, 1, 1, nullptr, ctx.get()), 0);
+    EXPECT_EQ(kovra_asn1_decode_bitstring_content_ex(input.stream(), content.get(), nullptr, 1, 1, nullptr, ctx.get()),
+              0);
+    EXPECT_EQ(Codes(ctx.get()), Codes({0x10002, 0x10002, 0x10002}));
+}
+
+} // namespace
+} // namespace kovra::test
