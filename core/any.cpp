@@ -262,9 +262,7 @@ int32_t kovra_asn1_any_getobject(kovra_asn1_value *any, uint32_t type, kovra_asn
     auto *element = as<Any>(any);
     if (element == nullptr || out_value == nullptr)
         return refuse(ctx, code::null_argument);
-    if (type >= type_count)
-        return refuse(ctx, code::unsupported_type);
-    return decode_from(element->content, *element->arena, here(), row(type), nullptr, out_value, ctx);
+    return decode_from(element->content, *element->arena, here(), type, nullptr, out_value, ctx);
 }
 
 int32_t kovra_asn1_any_contenttoobject(kovra_asn1_value *any, uint32_t type, kovra_asn1_value **out_value,
@@ -272,10 +270,8 @@ int32_t kovra_asn1_any_contenttoobject(kovra_asn1_value *any, uint32_t type, kov
     auto *element = as<Any>(any);
     if (element == nullptr || out_value == nullptr)
         return refuse(ctx, code::null_argument);
-    if (type >= type_count)
-        return refuse(ctx, code::unsupported_type);
     const Element content{element->form, element->length};
-    return decode_from(element->content, *element->arena, here(), row(type), &content, out_value, ctx);
+    return decode_from(element->content, *element->arena, here(), type, &content, out_value, ctx);
 }
 
 int32_t kovra_asn1_any_toobject(kovra_asn1_value *any, uint32_t type, kovra_asn1_value **out_value,
@@ -283,8 +279,6 @@ int32_t kovra_asn1_any_toobject(kovra_asn1_value *any, uint32_t type, kovra_asn1
     auto *element = as<Any>(any);
     if (element == nullptr || out_value == nullptr)
         return refuse(ctx, code::null_argument);
-    if (type >= type_count)
-        return refuse(ctx, code::unsupported_type);
     *out_value = nullptr;
     Encoder encoder(ctx);
     Content whole{};
@@ -296,7 +290,7 @@ int32_t kovra_asn1_any_toobject(kovra_asn1_value *any, uint32_t type, kovra_asn1
             return refuse(ctx, code::encode_any);
         whole.octets = {encoder.data(), 0, static_cast<uint32_t>(encoder.size())};
     }
-    return decode_from(whole, *element->arena, here(), row(type), nullptr, out_value, ctx);
+    return decode_from(whole, *element->arena, here(), type, nullptr, out_value, ctx);
 }
 
 kovra_asn1_value *kovra_asn1_objecttoany(uint32_t type, const kovra_asn1_value *value) noexcept {

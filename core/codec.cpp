@@ -181,6 +181,13 @@ bool unsupported(uint32_t type, kovra_err_ctx *ctx) {
     return true;
 }
 
+// A failed decode gives no value.
+Result refuse_type(kovra_asn1_value **out_value) {
+    if (out_value != nullptr)
+        *out_value = nullptr;
+    return failure;
+}
+
 // The record behind a handle. The library fills kept encodings of values that are const to the caller.
 Value *record_of(const kovra_asn1_value *value) {
     return static_cast<Value *>(const_cast<kovra_asn1_value *>(value));
@@ -244,7 +251,7 @@ int32_t kovra_asn1_encode_content(kovra_stream *stream, uint32_t type, const kov
 int32_t kovra_asn1_decode(kovra_stream *stream, uint32_t type, kovra_asn1_value **out_value, int32_t *out_read,
                           kovra_err_ctx *ctx) noexcept {
     if (unsupported(type, ctx))
-        return failure;
+        return refuse_type(out_value);
     return decode_call(stream, type, out_value, out_read, ctx, [](Decoder &decoder, const Type &wanted, Value *&value) {
         return decoder.decode_root(wanted, value);
     });
@@ -253,7 +260,7 @@ int32_t kovra_asn1_decode(kovra_stream *stream, uint32_t type, kovra_asn1_value 
 int32_t kovra_asn1_decode_content(kovra_stream *stream, uint32_t type, kovra_asn1_value **out_value, int32_t form,
                                   int32_t length, int32_t *out_read, kovra_err_ctx *ctx) noexcept {
     if (unsupported(type, ctx))
-        return failure;
+        return refuse_type(out_value);
     const Element element{form == 0 ? Form::constructed : Form::primitive, length};
     return decode_call(stream, type, out_value, out_read, ctx,
                        [&](Decoder &decoder, const Type &wanted, Value *&value) {
@@ -290,8 +297,11 @@ int32_t kovra_asn1_mem_decode(const void *data, int32_t length, uint32_t type, k
 }
 
 kovra_asn1_value *kovra_asn1_dupobject(uint32_t type, const kovra_asn1_value *value, kovra_err_ctx *ctx) noexcept {
-    if (unsupported(type, ctx))
+    if (unsupported(type, ctx)) {
+        // The encoding records it, and so does the entry that is added to a failed encoding.
+        kovra_asn1_encode_puterr(ctx, type, "ASN1", __LINE__);
         return nullptr;
+    }
     return duplicate(row(type), record_of(value), ctx);
 }
 

@@ -70,9 +70,16 @@ Result read_piece(Content &content, const Arena &arena, Site site, int32_t mode,
     return success;
 }
 
-Result decode_from(Content &content, const Arena &arena, Site site, const Type &type, const Element *element,
+Result decode_from(Content &content, const Arena &arena, Site site, uint32_t number, const Element *element,
                    kovra_asn1_value **out_value, kovra_err_ctx *ctx) {
     *out_value = nullptr;
+    if (number >= type_count) {
+        // Once for the decoding, once as the entry that is added to a failed one.
+        record(ctx, site, code::unsupported_type);
+        record(ctx, site, code::unsupported_type);
+        return failure;
+    }
+    const Type &type = row(number);
     const auto run = [&](Decoder &decoder, Value *&value) {
         return element == nullptr ? decoder.decode_root(type, value)
                                   : decoder.decode_root_content(type, *element, value);

@@ -36,26 +36,30 @@ Result write_segment(Encoder &encoder, uint8_t unused_bits, const uint8_t *octet
     return result == success ? encoder.put(here(), octets, static_cast<size_t>(length)) : result;
 }
 
-// A stream of unknown length, as segments; one piece is held back because only the last segment has unused bits.
-Result write_segments(Encoder &encoder, kovra_stream *stream, uint8_t unused_bits) {
-    if (kovra_stream_ctrl(stream, KOVRA_STREAM_REWIND, 0, nullptr) != success)
-        return encoder.fail(here(), code::stream_control);
+// Content of any length, as segments; one piece is held back because only the last segment has unused bits.
+Result write_segments(Encoder &encoder, const BitString &bits) {
+    constexpr int32_t from_start = 1;
+    constexpr int32_t go_on = 2;
+    Content content = bits.content;
     uint8_t octets[2][segment];
     int32_t held = 0;
-    for (int current = 0;; current ^= 1) {
+    int32_t mode = from_start;
+    for (int current = 0;; current ^= 1, mode = go_on) {
         int32_t got = 0;
-        Result result = kovra_stream_read(stream, octets[current], segment, &got, encoder.ctx());
+        Result result = read_piece(content, *bits.arena, here(), mode, octets[current], segment, &got, encoder.ctx());
         if (result != success)
             return result;
-        if (held > 0)
-            if (result = write_segment(encoder, got > 0 ? 0 : unused_bits, octets[current ^ 1], held);
-                result != success)
+        if (held > 0) {
+            const auto unused_bits = static_cast<uint8_t>(got > 0 ? 0 : bits.unused_bits);
+            if (result = write_segment(encoder, unused_bits, octets[current ^ 1], held); result != success)
                 return result;
+        }
         if (got <= 0)
             break;
         held = got;
     }
-    if (kovra_stream_ctrl(stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) != success)
+    if (content.stream != nullptr &&
+        kovra_stream_ctrl(content.stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) != success)
         return encoder.fail(here(), code::stream_control);
     const Result result = encoder.end_of_contents(here());
     return result == success ? success : encoder.fail(here(), code::write_end_of_contents, result);
@@ -66,13 +70,8 @@ Result encode_bit_string_content(Encoder &encoder, const Type &, Value *value, i
     if (!encoder.has_stream() || bits == nullptr)
         return encoder.fail(here(), code::null_argument);
     const auto unused_bits = static_cast<uint8_t>(bits->unused_bits);
-    if (length == indefinite) {
-        if (bits->content.stream != nullptr)
-            return write_segments(encoder, bits->content.stream, unused_bits);
-        const Result result = write_segment(encoder, unused_bits, bits->content.octets.data(*bits->arena),
-                                            static_cast<int32_t>(bits->content.octets.length));
-        return result == success ? encoder.end_of_contents(here()) : result;
-    }
+    if (length == indefinite)
+        return write_segments(encoder, *bits);
     if (length < 1)
         return encoder.fail(here(), code::bad_argument);
     int64_t copied = 0;
@@ -269,9 +268,7 @@ int32_t kovra_asn1_bitstring_getobject(kovra_asn1_value *bitstring, uint32_t typ
     auto *bits = as<BitString>(bitstring);
     if (bits == nullptr || out_value == nullptr)
         return refuse(ctx, code::null_argument);
-    if (type >= type_count)
-        return refuse(ctx, code::unsupported_type);
-    return decode_from(bits->content, *bits->arena, here(), row(type), nullptr, out_value, ctx);
+    return decode_from(bits->content, *bits->arena, here(), type, nullptr, out_value, ctx);
 }
 
 int32_t kovra_asn1_decode_bitstring_ex(kovra_stream *stream, kovra_stream *content_stream,

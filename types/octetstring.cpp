@@ -47,21 +47,25 @@ Result write_segment(Encoder &encoder, const uint8_t *octets, int32_t length) {
     return encoder.put(here(), octets, static_cast<size_t>(length));
 }
 
-// A stream of any length, as the segments of a constructed string.
-Result write_segments(Encoder &encoder, kovra_stream *stream) {
-    if (kovra_stream_ctrl(stream, KOVRA_STREAM_REWIND, 0, nullptr) != success)
-        return encoder.fail(here(), code::stream_control);
-    for (;;) {
+// Content of any length, as the segments of a constructed string.
+Result write_segments(Encoder &encoder, const String &string) {
+    constexpr int32_t from_start = 1;
+    constexpr int32_t go_on = 2;
+    Content content = string.content;
+    for (int32_t mode = from_start;; mode = go_on) {
         uint8_t octets[segment];
         int32_t got = 0;
-        if (const Result result = kovra_stream_read(stream, octets, segment, &got, encoder.ctx()); result != success)
+        if (const Result result =
+                read_piece(content, *string.arena, here(), mode, octets, segment, &got, encoder.ctx());
+            result != success)
             return result;
         if (got <= 0)
             break;
         if (const Result result = write_segment(encoder, octets, got); result != success)
             return result;
     }
-    if (kovra_stream_ctrl(stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) != success)
+    if (content.stream != nullptr &&
+        kovra_stream_ctrl(content.stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) != success)
         return encoder.fail(here(), code::stream_control);
     const Result result = encoder.end_of_contents(here());
     return result == success ? success : encoder.fail(here(), code::write_end_of_contents, result);
@@ -71,13 +75,8 @@ Result encode_string_content(Encoder &encoder, const Type &, Value *value, int32
     const auto *string = static_cast<const String *>(value);
     if (!encoder.has_stream() || string == nullptr)
         return encoder.fail(here(), code::null_argument);
-    if (length == indefinite && string->content.stream != nullptr)
-        return write_segments(encoder, string->content.stream);
-    if (length == indefinite) {
-        const Result result = write_segment(encoder, string->content.octets.data(*string->arena),
-                                            static_cast<int32_t>(string->content.octets.length));
-        return result == success ? encoder.end_of_contents(here()) : result;
-    }
+    if (length == indefinite)
+        return write_segments(encoder, *string);
     if (length < 0)
         return encoder.fail(here(), code::bad_argument);
     int64_t copied = 0;
@@ -271,9 +270,7 @@ int32_t kovra_asn1_octetstring_getobject(kovra_asn1_value *string, uint32_t type
     auto *record = as<String>(string);
     if (record == nullptr || out_value == nullptr)
         return refuse(ctx, code::null_argument);
-    if (type >= type_count)
-        return refuse(ctx, code::unsupported_type);
-    return decode_from(record->content, *record->arena, here(), row(type), nullptr, out_value, ctx);
+    return decode_from(record->content, *record->arena, here(), type, nullptr, out_value, ctx);
 }
 
 int32_t kovra_asn1_decode_octetstring_ex(kovra_stream *stream, kovra_stream *content_stream,

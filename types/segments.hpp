@@ -52,7 +52,10 @@ Result read_segment(Source &source, Site site, int32_t tag, Identifier &identifi
         uint8_t octet = 0;
         if (const Result result = source.octet(site, octet); result != success)
             return source.fail(site, code::read_end_of_contents, result);
-        return octet == 0 ? success : failure;
+        if (octet == 0)
+            return success;
+        // A BIT STRING says so, an OCTET STRING does not.
+        return tag == tag::bit_string ? source.fail(site, code::read_end_of_contents) : failure;
     }
     if (!identifier.is(Class::universal, tag))
         return source.fail(site, code::incorrect_item);
