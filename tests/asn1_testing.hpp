@@ -6,11 +6,13 @@
 
 #include <cstdint>
 #include <cstring>
-#include <iomanip>
+#include <fstream>
 #include <memory>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "kovra/asn1.h"
@@ -241,37 +243,24 @@ inline std::string encoding(const Value &value) {
     return hex(encode(value.type(), value.get()).octets);
 }
 
-// What decoding `in` as a type gives: `out` is "=" when it succeeds and is written back as it was, "-" when it fails,
-// or the octets written back. A "|" in `in` is where reading ends. Both kinds of streams have to agree.
-struct Decoding {
-    uint32_t type;
-    const char *in;
-    const char *out = "=";
-    Codes codes = {};
-};
-
-inline void expect_decodings(const std::vector<Decoding> &rows) {
-    for (const Decoding &row : rows) {
-        std::string_view in = row.in, out = row.out;
-        std::string data = octets(in);
-        for (Feed feed : {Feed::memory, Feed::trickle}) {
-            SCOPED_TRACE("type " + std::to_string(row.type) + ": " + row.in +
-                         (feed == Feed::trickle ? " trickling" : ""));
-            Decoded decoded = decode(row.type, data, feed);
-            EXPECT_EQ(decoded.result, out == "-" ? 0 : 1);
-            EXPECT_EQ(decoded.codes, row.codes);
-            if (size_t end = in.find('|'); end != in.npos) {
-                EXPECT_EQ(decoded.consumed, octets(in.substr(0, end)).size());
-            }
-            if (decoded.result != 1)
-                continue;
-            Encoded encoded = encode(row.type, decoded.value.get());
-            EXPECT_EQ(hex(encoded.octets), out == "=" ? hex(data.substr(0, decoded.consumed)) : hex(octets(out)));
-            EXPECT_EQ(encoded.codes, Codes());
-            int32_t length = kovra_asn1_length(row.type, decoded.value.get());
-            EXPECT_TRUE(length == -1 || length == size_of(encoded.octets)) << length;
+// The lines of a file in tests/data, without comments, as fields without the blanks around them.
+inline std::vector<std::vector<std::string>> table(const std::string &name) {
+    std::vector<std::vector<std::string>> rows;
+    std::ifstream file(KOVRA_SOURCE_DIR "/tests/data/" + name);
+    EXPECT_TRUE(file) << name;
+    for (std::string line; std::getline(file, line);) {
+        line = line.substr(0, line.find('#'));
+        if (line.find_first_not_of(' ') == line.npos)
+            continue;
+        std::vector<std::string> row;
+        std::istringstream fields(line);
+        for (std::string field; std::getline(fields, field, ';');) {
+            field.erase(0, field.find_first_not_of(' '));
+            row.push_back(field.substr(0, field.find_last_not_of(' ') + 1));
         }
+        rows.push_back(row);
     }
+    return rows;
 }
 
 } // namespace kovra::test
