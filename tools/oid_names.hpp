@@ -1,0 +1,11 @@
+// Names of the object identifiers that are usual in public-key infrastructure.
+#pragma once
+
+#include <string_view>
+
+namespace kovra::tool {
+
+// The name of a dotted identifier; empty when it is not a usual one.
+std::string_view oid_name(std::string_view dotted);
+
+} // namespace kovra::tool
