@@ -14,13 +14,13 @@ KOVRA_ASN1_API void kovra_asn1_value_free(uint32_t type, kovra_asn1_value *value
 
 /* kovra_asn1_content_length returns the number of content octets that encoding the value writes: -1 when they are
  * written with indefinite length, -2 for a null value, a value of the wrong kind, a type above 207 or not supported,
- * and a sum above 2,147,483,647. BOOLEAN, NULL and end-of-contents answer 1, 0 and 0 without looking at the value. */
+ * and a sum above 2,147,483,647. BOOLEAN, NULL and end-of-contents answer 1, 0 and 0 for null too. */
 KOVRA_ASN1_API int32_t kovra_asn1_content_length(uint32_t type, const kovra_asn1_value *value) KOVRA_NOTHROW;
 
 /* kovra_asn1_length returns the number of octets of the whole encoding, identifier and length octets included; -1 and
  * -2 as kovra_asn1_content_length. A total that leaves the 32-bit range gives -1, not -2: when the content and its
  * length octets together would reach 2,147,483,647, or the identifier octets would take the total above it. BOOLEAN,
- * NULL and end-of-contents answer 3, 2 and 2 without looking at the value. */
+ * NULL and end-of-contents answer 3, 2 and 2 for null too. */
 KOVRA_ASN1_API int32_t kovra_asn1_length(uint32_t type, const kovra_asn1_value *value) KOVRA_NOTHROW;
 
 /* kovra_asn1_encode appends the whole encoding of a value to a stream and stores its length in `*out_written`. Codes:

@@ -1,0 +1,266 @@
+// ANY and the lists of it.
+#include "tests/asn1_testing.hpp"
+
+namespace kovra::test {
+namespace {
+
+Value any(uint32_t tag_class, int32_t form, int32_t tag, int32_t length, std::string_view hex) {
+    std::string content = octets(hex);
+    return Value(23, kovra_asn1_any_new(tag_class, form, tag, length, content.data(), size_of(content)));
+}
+
+std::string identifier(uint32_t tag_class, int32_t form, int32_t tag) {
+    Stream stream = memory_stream();
+    EXPECT_EQ(kovra_asn1_encode_identifier(stream.get(), tag_class, form, tag, nullptr, nullptr), 1);
+    return taken(stream);
+}
+
+TEST(Any, TakesTheUniversalTagsItKnowsAndAllOfOtherClasses) {
+    std::string accepted[2]; // by form
+    for (int32_t tag = 0; tag <= 40; ++tag) {
+        for (int32_t form : {0, 1}) {
+            Decoded found = decode(23, identifier(0, form, tag) + '\0');
+            accepted[form] += found.result == 1 ? '+' : '.';
+            EXPECT_EQ(found.codes, found.result == 1 ? Codes() : Codes({0x10201}));
+            for (uint32_t tag_class : {0x40u, 0x80u, 0xC0u}) {
+                std::string data = identifier(tag_class, form, tag) + "\x01x";
+                Value element = decode(23, data).value;
+                int32_t found_form = -7, found_tag = -7;
+                EXPECT_EQ(kovra_asn1_any_isprimitive(element.get(), &found_form), 1);
+                EXPECT_EQ(kovra_asn1_any_gettagnumber(element.get(), &found_tag), 1);
+                EXPECT_EQ(found_form, form);
+                EXPECT_EQ(found_tag, tag);
+                EXPECT_EQ(encode(23, element.get()).octets, data);
+                EXPECT_EQ(encode(23, any(tag_class, form, tag, 1, "78").get()).octets, data);
+            }
+        }
+    }
+    //                       0         1         2         3         4
+    EXPECT_EQ(accepted[1], "++++++++.++.++....+++++++++++.+..........");
+    EXPECT_EQ(accepted[0], "...++..++..++...+++++++++++++.+..........");
+    for (int32_t tag : {127, 128, 16384, 2147483647}) {
+        std::string data = identifier(0x80, 1, tag) + "\x01x";
+        EXPECT_EQ(encode(23, decode(23, data).value.get()).octets, data);
+        EXPECT_EQ(encode(23, any(0x80, 1, tag, 1, "78").get()).octets, data);
+    }
+}
+
+TEST(Any, New) {
+    EXPECT_EQ(encoding(any(0, 1, 5, 0, "")), "0500");
+    EXPECT_EQ(kovra_asn1_length(23, any(0, 1, 5, 0, "").get()), 2);
+    EXPECT_EQ(encoding(any(0x80, 0, 200, 2, "05 00")), "BF8148020500");
+    EXPECT_EQ(encoding(Value(23, kovra_asn1_any_new(0, 1, 5, 0, nullptr, 0))), "0500");
+    EXPECT_EQ(encoding(any(0, 0, 16, -1, "05 00 00")), "3080050000");
+    EXPECT_EQ(encoding(any(0, 0, 16, -1, "00 00")), "30800000");
+    EXPECT_EQ(kovra_asn1_length(23, any(0, 0, 16, -1, "00 00").get()), -1);
+    EXPECT_EQ(encoding(any(0, 0, 1, 0, "")), "2100") << "what a decoder refuses can be made";
+    EXPECT_FALSE(any(0, 0, 16, -1, "05 00 01"));
+    EXPECT_FALSE(any(0, 0, 16, -1, "05 01 00"));
+    EXPECT_FALSE(any(0, 0, 16, -1, "00"));
+    EXPECT_FALSE(any(0, 0, 16, -1, ""));
+    EXPECT_FALSE(any(0x20, 1, 5, 0, ""));
+    EXPECT_FALSE(any(0, 1, -1, 0, ""));
+    EXPECT_FALSE(any(0, 1, 5, -2, ""));
+    EXPECT_EQ(kovra_asn1_any_new(0, 1, 4, 0, "x", -1), nullptr);
+    EXPECT_EQ(kovra_asn1_any_new(0, 1, 4, 1, nullptr, 1), nullptr);
+    // A length that is not the content's shows when the element is written.
+    for (int32_t length : {0, 1, 3, 2147483647}) {
+        Value wrong = any(0x80, 1, 0, length, "05 00");
+        ASSERT_TRUE(wrong);
+        EXPECT_EQ(kovra_asn1_any_getcontentlength(wrong.get()), length);
+        EXPECT_EQ(encode(23, wrong.get()).codes, Codes({0x10235}));
+        EXPECT_EQ(encode_content(23, wrong.get(), length).codes, Codes({0x10004}));
+    }
+    EXPECT_EQ(kovra_asn1_length(23, any(0, 1, 4, 0x7fffffff, "").get()), -2);
+    EXPECT_EQ(kovra_asn1_length(23, any(0, 1, 4, 0x7fffffff - 6, "").get()), -2) << "a sum of 0x7fffffff";
+    EXPECT_EQ(kovra_asn1_length(23, any(0, 1, 4, 0x7fffffff - 7, "").get()), 0x7ffffffe);
+    Value element = any(0x80, 1, 0, 2, "05 00");
+    EXPECT_EQ(encode_content(23, element.get(), 2).octets, octets("05 00"));
+    for (int32_t length : {0, 1, 3, -1, -2})
+        EXPECT_EQ(encode_content(23, element.get(), length).codes, Codes({0x10001}));
+    EXPECT_EQ(encode_content(23, any(0, 0, 16, -1, "05 00 00 00").get(), -1).octets, octets("05 00 00 00"));
+}
+
+TEST(Any, EndOfContentsIsAnElementOfItsOwn) {
+    Value marker = decoded(23, "00 00"), null = decoded(23, "05 00");
+    EXPECT_EQ(kovra_asn1_any_iseoc(marker.get()), 1);
+    EXPECT_EQ(kovra_asn1_any_iseoc(null.get()), 0);
+    int32_t form = -7, tag = -7;
+    EXPECT_EQ(kovra_asn1_any_isprimitive(marker.get(), &form), 1);
+    EXPECT_EQ(kovra_asn1_any_gettagnumber(marker.get(), &tag), 1);
+    EXPECT_EQ(form, 1);
+    EXPECT_EQ(tag, 0);
+    EXPECT_EQ(kovra_asn1_any_getcontentlength(marker.get()), 0);
+    EXPECT_EQ(kovra_asn1_length(23, marker.get()), 2);
+    EXPECT_EQ(encode_content(23, marker.get(), 0).result, 1);
+    EXPECT_EQ(kovra_asn1_any_isprimitive(marker.get(), nullptr), 0);
+    EXPECT_EQ(kovra_asn1_any_gettagnumber(marker.get(), nullptr), 0);
+    kovra_asn1_value *out = nullptr;
+    EXPECT_EQ(kovra_asn1_any_getobject(marker.get(), 2, &out, nullptr), 0);
+    EXPECT_EQ(kovra_asn1_any_contenttoobject(marker.get(), 2, &out, nullptr), 0);
+    EXPECT_EQ(out, nullptr);
+}
+
+TEST(Any, HoldsObjectsUnderTags) {
+    auto explicitly = kovra_asn1_any_getobject, implicitly = kovra_asn1_any_contenttoobject,
+         whole = kovra_asn1_any_toobject;
+    const struct {
+        decltype(explicitly) get;
+        const char *element;
+        uint32_t type;
+        const char *object; // empty: refused
+        Codes codes;
+    } rows[] = {
+        {explicitly, "A0 03 02 01 05", 2, "020105", {}},
+        {explicitly, "30 04 02 02 00 05", 2, "02020005", {0x102e3}},
+        {explicitly, "80 02 30 00", 24, "3000", {}}, // whatever the form
+        {explicitly, "A0 06 02 01 05 02 01 06", 2, "", {0x1027f}},
+        {explicitly, "A0 03 04 01 41", 2, "", {0x1020a, 0x10210}},
+        {explicitly, "A0 00", 2, "", {0x10105, 0x102e5, 0x10210}},
+        {explicitly, "A0 80 02 01 05 00 00", 2, "", {0x1027f}}, // 00 00 is left
+        {explicitly, "A0 02 00 00", 0, "0000", {}},
+        {explicitly, "A0 03 02 01 05", 208, "", {0x1026b, 0x1026b}},
+        {explicitly, "A0 02 21 00", 23, "", {0x10201, 0x10236}},
+        {implicitly, "80 01 07", 2, "020107", {}},
+        {implicitly, "80 02 00 01", 2, "02020001", {0x102e3}},
+        {implicitly, "80 00", 5, "0500", {}},
+        {implicitly, "82 02 AB CD", 4, "0402ABCD", {}},
+        {implicitly, "82 01 41", 8, "", {}}, // read, and not to be written whole
+        {implicitly, "A1 80 04 01 41 00 00", 4, "040141", {}},
+        {implicitly, "A1 03 04 01 41", 9, "0C0141", {}},
+        {implicitly, "A0 04 05 00 02 00", 24, "300405000200", {}},
+        {implicitly, "A0 80 05 00 00 00", 26, "31020500", {}},
+        {implicitly, "80 00", 2, "", {0x10203, 0x10210}},
+        {implicitly, "A0 01 07", 1, "", {0x1026a, 0x1020e}},
+        {implicitly, "80 02 05 00", 24, "", {0x1026a, 0x10271}},
+        {implicitly, "80 01 07", 23, "", {0x1026d, 0x10236}},
+        {whole, "02 01 05", 2, "020105", {}},
+        {whole, "30 80 05 00 00 00", 24, "30020500", {}},
+        {whole, "04 01 41", 23, "040141", {}},
+        {whole, "02 01 05", 1, "", {0x1020a, 0x1020e}},
+        {whole, "04 80 05 00 00 00", 4, "", {0x10206, 0x10219}},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.element);
+        Value element = decoded(23, row.element);
+        for (int i = 0; i < 2; ++i) { // twice: the content is rewound
+            Errors ctx(kovra_err_ctx_new());
+            kovra_asn1_value *out = nullptr;
+            int32_t result = row.get(element.get(), row.type, &out, ctx.get());
+            Value object(row.type, out);
+            EXPECT_EQ(result, row.codes.empty() || row.codes[0] == 0x102e3);
+            EXPECT_EQ(Codes(ctx.get()), row.codes);
+            EXPECT_EQ(result == 1 ? encoding(object) : "", row.object);
+            EXPECT_TRUE(result == 1 || out == nullptr);
+        }
+    }
+    Errors ctx(kovra_err_ctx_new());
+    kovra_asn1_value *out = nullptr;
+    EXPECT_EQ(kovra_asn1_any_toobject(any(0, 1, 2, 2, "05").get(), 2, &out, ctx.get()), 0);
+    EXPECT_EQ(Codes(ctx.get()), Codes({0x10235, 0x10235}));
+    kovra_err_ctx_clear(ctx.get());
+    EXPECT_EQ(kovra_asn1_any_toobject(any(0, 0, 16, -1, "05 00 00 00 00 00").get(), 24, &out, ctx.get()), 0);
+    EXPECT_EQ(Codes(ctx.get()), Codes({0x1027f}));
+}
+
+TEST(Any, OfValues) {
+    for (auto [type, text] : {std::pair(1u, "01 01 FF"),
+                              {2u, "02 02 00 05"},
+                              {9u, "0C 01 41"},
+                              {24u, "30 02 05 00"},
+                              {90u, "0D 01 05"},
+                              {23u, "A0 80 00 00"}}) {
+        Value element(23, kovra_asn1_objecttoany(type, decoded(type, text).get()));
+        EXPECT_EQ(encode(23, element.get()).octets, octets(text));
+    }
+    EXPECT_EQ(encoding(Value(23, kovra_asn1_objecttoany(5, nullptr))), "0500");
+    EXPECT_EQ(kovra_asn1_objecttoany(0, nullptr), nullptr);
+    EXPECT_EQ(kovra_asn1_objecttoany(2, nullptr), nullptr);
+    EXPECT_EQ(kovra_asn1_objecttoany(208, decoded(2, "02 01 05").get()), nullptr);
+    EXPECT_EQ(kovra_asn1_objecttoany(23, any(0, 0, 1, 0, "").get()), nullptr) << "a refused form";
+}
+
+TEST(Any, DecodesIntoTheCallersStream) {
+    Stream content = memory_stream();
+    auto decode_ex = [&](const char *text, Feed feed) {
+        return decode_with(23, Input(octets(text), feed), [&](auto *stream, auto **out, auto *read, auto *ctx) {
+            return kovra_asn1_decode_any_ex(stream, content.get(), out, read, ctx);
+        });
+    };
+    for (Feed feed : {Feed::memory, Feed::trickle}) {
+        Decoded first = decode_ex("A0 03 02 01 05", feed);
+        EXPECT_EQ(first.read, 5);
+        EXPECT_EQ(hex(encode(23, first.value.get()).octets), "A003020105");
+        Decoded second = decode_ex("30 80 05 00 00 00", feed);
+        EXPECT_EQ(kovra_asn1_any_getcontentlength(second.value.get()), -1);
+        EXPECT_EQ(kovra_asn1_any_iseoc(decode_ex("00 00", feed).value.get()), 1);
+        first.value = Value();
+        second.value = Value();
+        EXPECT_EQ(hex(taken(content)), "02010505000000") << "one after the other, and not the value's";
+    }
+    Errors ctx(kovra_err_ctx_new());
+    kovra_asn1_value *out = nullptr;
+    EXPECT_EQ(kovra_asn1_decode_any_ex(nullptr, content.get(), &out, nullptr, ctx.get()), 0);
+    EXPECT_EQ(kovra_asn1_decode_any_ex(content.get(), nullptr, &out, nullptr, ctx.get()), 0);
+    EXPECT_EQ(Codes(ctx.get()), Codes({0x10002, 0x10002}));
+}
+
+TEST(List, KeepsWhatIsPutInOrder) {
+    constexpr int32_t count = 100000;
+    kovra_asn1_value *numbers = kovra_asn1_list_new();
+    EXPECT_EQ(kovra_asn1_list_getsize(numbers), 0);
+    for (int32_t i = 0; i < count; ++i) {
+        ASSERT_EQ(kovra_asn1_list_put(numbers, kovra_asn1_integer_value(i)), 1);
+        if (i < 100 || i % 9973 == 0) {
+            EXPECT_EQ(kovra_asn1_list_getsize(numbers), i + 1);
+        }
+    }
+    kovra_asn1_value *element = nullptr;
+    for (int32_t i = 0, number = -1; i < count; ++i) {
+        ASSERT_EQ(kovra_asn1_list_get(numbers, i, &element), 1);
+        ASSERT_EQ(kovra_asn1_integer_getlong(element, &number), 1);
+        ASSERT_EQ(number, i);
+    }
+    for (int32_t index : {-1, count, INT32_MAX, INT32_MIN})
+        EXPECT_EQ(kovra_asn1_list_get(numbers, index, &element), 0);
+    EXPECT_EQ(kovra_asn1_list_get(numbers, 0, nullptr), 0);
+    EXPECT_EQ(kovra_asn1_list_get(nullptr, 0, &element), 0);
+    EXPECT_EQ(kovra_asn1_list_put(numbers, nullptr), 0);
+    EXPECT_EQ(kovra_asn1_list_put(nullptr, element), 0);
+    EXPECT_EQ(kovra_asn1_list_getsize(nullptr), 0);
+    kovra_asn1_list_free(numbers, 2);
+    kovra_asn1_list_free(nullptr, 2);
+}
+
+TEST(List, OfAnyIsEncodedInOrder) {
+    for (auto [type, tag] : {std::pair(24u, "30"), {25u, "30"}, {26u, "31"}, {27u, "31"}}) {
+        Value list(type, kovra_asn1_list_new());
+        EXPECT_EQ(encoding(list), tag + std::string("00")) << "empty ones are written";
+        for (const char *text : {"02 01 05", "02 01 03", "04 00"})
+            EXPECT_EQ(kovra_asn1_list_put(list.get(), decoded(23, text).release()), 1);
+        EXPECT_EQ(encoding(list), tag + std::string("080201050201030400"));
+        EXPECT_EQ(encode_content(type, list.get(), -1).octets, octets("02 01 05 02 01 03 04 00 00 00"));
+        EXPECT_EQ(encode_content(type, list.get(), -2).codes, Codes({0x10001}));
+        kovra_asn1_value *element = nullptr;
+        EXPECT_EQ(kovra_asn1_list_get(list.get(), 1, &element), 1);
+        kovra_asn1_value_free(23, element); // borrowed: nothing happens
+        EXPECT_EQ(encoding(Value(23, kovra_asn1_dupobject(23, element, nullptr))), "020103");
+        // An element of another length than it says.
+        EXPECT_EQ(kovra_asn1_list_put(list.get(), any(0, 1, 4, 1, "").release()), 1);
+        EXPECT_EQ(encode(type, list.get()).codes, Codes({0x10235, 0x10235}));
+        EXPECT_EQ(kovra_asn1_list_put(list.get(), any(0, 1, 4, 0x7fffffff - 7, "").release()), 1);
+        EXPECT_EQ(kovra_asn1_length(type, list.get()), -2) << "the sum is too large";
+        EXPECT_EQ(encode(type, list.get()).codes, Codes({0x1020b}));
+    }
+    for (uint32_t type : {24u, 25u, 26u, 27u}) {
+        EXPECT_EQ(decode_content(type, octets("05 00"), 1, 2).codes, Codes({0x1026a}));
+        EXPECT_EQ(decode_content(type, octets("05 00"), 0, -2).codes, Codes({0x10203}));
+        EXPECT_EQ(decode_content(type, octets("05 00 00 00"), 0, -1).read, 4);
+        Value list = decode_content(type, octets("05 00 30 80 00 00"), 0, 6).value;
+        EXPECT_EQ(kovra_asn1_list_getsize(list.get()), 2);
+        EXPECT_EQ(kovra_asn1_length(type, list.get()), -1);
+    }
+}
+
+} // namespace
+} // namespace kovra::test

@@ -1,0 +1,340 @@
+// What holds for all primitive types alike, over every row of the table of decodings and what comes of changing it.
+#include <pthread.h>
+
+#include <chrono>
+#include <functional>
+
+#include "tests/asn1_testing.hpp"
+
+namespace kovra::test {
+namespace {
+
+constexpr uint32_t primitive_types[] = {0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14,
+                                        15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 90};
+
+struct Sample {
+    uint32_t type;
+    std::string data;
+};
+
+const std::vector<Sample> &samples() {
+    static const std::vector<Sample> all = [] {
+        std::vector<Sample> found;
+        for (const auto &row : table("decodings.txt"))
+            found.push_back({static_cast<uint32_t>(std::stoul(row[0])), octets(row[1])});
+        for (const auto &row : table("times.txt"))
+            found.push_back(
+                {20, std::string{static_cast<char>(std::stoi(row[0])), static_cast<char>(row[1].size())} + row[1]});
+        return found;
+    }();
+    return all;
+}
+
+// Decodes from memory, which ends where the octets end, and from a trickle, and expects one outcome.
+Decoded decode_both_ways(uint32_t type, const std::string &data) {
+    Decoded memory = decode(type, data), trickle = decode(type, data, Feed::trickle);
+    EXPECT_EQ(memory.result, trickle.result) << type << ": " << hex(data);
+    EXPECT_EQ(memory.codes, trickle.codes) << type << ": " << hex(data);
+    EXPECT_EQ(memory.consumed, trickle.consumed) << type << ": " << hex(data);
+    if (memory.result == 1) {
+        EXPECT_EQ(encode(type, memory.value.get()).octets, encode(type, trickle.value.get()).octets);
+    }
+    return memory;
+}
+
+// What was accepted is written, and that is accepted, gives the same again, and is as long as announced.
+void expect_round_trip(const Decoded &decoded, uint32_t type) {
+    Encoded first = encode(type, decoded.value.get());
+    ASSERT_EQ(first.result, 1);
+    Decoded again = decode(type, first.octets);
+    ASSERT_EQ(again.result, 1) << type << ": " << hex(first.octets);
+    EXPECT_EQ(again.consumed, first.octets.size());
+    EXPECT_EQ(encode(type, again.value.get()).octets, first.octets);
+    int32_t length = kovra_asn1_length(type, decoded.value.get());
+    if (length != -1) {
+        EXPECT_EQ(length, size_of(first.octets));
+    }
+    Value copy(type, kovra_asn1_dupobject(type, decoded.value.get(), nullptr));
+    EXPECT_EQ(encode(type, copy.get()).octets, type == 0 || type == 5 ? "" : first.octets);
+}
+
+TEST(Properties, EveryTypeReadsEverySampleAlikeFromAnyStream) {
+    for (const Sample &sample : samples()) {
+        for (uint32_t type : primitive_types) {
+            Decoded decoded = decode_both_ways(type, sample.data);
+            if (decoded.result == 1 && type != 0 && type != 5) {
+                expect_round_trip(decoded, type);
+            }
+        }
+    }
+}
+
+TEST(Properties, EveryTruncationAndEveryChangedOctetIsReadAlikeFromAnyStream) {
+    for (const Sample &sample : samples()) {
+        size_t whole = decode(sample.type, sample.data).result == 1 ? decode(sample.type, sample.data).consumed : 0;
+        for (size_t at = 0; at < sample.data.size(); ++at) {
+            Decoded cut = decode_both_ways(sample.type, sample.data.substr(0, at));
+            EXPECT_TRUE(at >= whole || cut.result != 1) << sample.type << ": " << hex(sample.data) << " cut at " << at;
+            for (int flip : {0x01, 0x02, 0x20, 0x7F, 0x80, 0xFF}) {
+                std::string changed = sample.data;
+                changed[at] = static_cast<char>(changed[at] ^ flip);
+                Decoded decoded = decode_both_ways(sample.type, changed);
+                if (decoded.result == 1 && sample.type != 0 && sample.type != 5) {
+                    expect_round_trip(decoded, sample.type);
+                }
+            }
+        }
+    }
+}
+
+// Kinds of records, one bit each, and for each function those that it takes.
+enum Kind : unsigned { boolean = 1, integer = 2, bits = 4, string = 8, oid = 16, moment = 32, any = 64, list = 128 };
+
+const std::vector<std::pair<Kind, Value>> &values_of_all_kinds() {
+    static const std::vector<std::pair<Kind, Value>> all = [] {
+        std::vector<std::pair<Kind, Value>> made;
+        made.emplace_back(boolean, decoded(1, "01 01 FF"));
+        made.emplace_back(integer, decoded(2, "02 01 05"));
+        made.emplace_back(integer, Value(2, kovra_asn1_integer_value(5)));
+        made.emplace_back(bits, decoded(3, "03 02 04 F0"));
+        made.emplace_back(string, decoded(4, "04 01 41"));
+        made.emplace_back(oid, decoded(6, "06 01 2A"));
+        made.emplace_back(moment, decoded(21, "17 0B 31323131323030383330 5A"));
+        made.emplace_back(any, decoded(23, "A0 03 02 01 05"));
+        made.emplace_back(list, decoded(24, "30 02 05 00"));
+        return made;
+    }();
+    return all;
+}
+
+TEST(Properties, AValueOfAnotherKindIsRefused) {
+    int32_t number = 0;
+    char buffer[64];
+    kovra_asn1_value *out = nullptr;
+    kovra_asn1_value *empty_list = kovra_asn1_list_new();
+    Errors ctx(kovra_err_ctx_new());
+    struct Call {
+        const char *name;
+        unsigned takes;
+        bool records;
+        std::function<bool(kovra_asn1_value *)> refused;
+    };
+    auto *c = ctx.get();
+    const Call calls[] = {
+        {"boolean_istrue", boolean, false, [](auto *v) { return kovra_asn1_boolean_istrue(v) == 0; }},
+        {"integer_getlong", integer, false, [&](auto *v) { return kovra_asn1_integer_getlong(v, &number) == 0; }},
+        {"enum_getlong", integer, false, [&](auto *v) { return kovra_asn1_enum_getlong(v, &number) == 0; }},
+        {"integer_getlength", integer | oid, false, [](auto *v) { return kovra_asn1_integer_getlength(v) == -2; }},
+        {"integer_get", integer | oid, false, [&](auto *v) { return kovra_asn1_integer_get(v, buffer) == 0; }},
+        {"integer_getbigintger", integer, false,
+         [](auto *v) { return BigInteger(kovra_asn1_integer_getbigintger(v)) == nullptr; }},
+        {"bitstring_getlength", bits, false, [](auto *v) { return kovra_asn1_bitstring_getlength(v) == -2; }},
+        {"bitstring_getunusedbits", bits, false, [](auto *v) { return kovra_asn1_bitstring_getunusedbits(v) == 0; }},
+        {"bitstring_getbit", bits, false, [](auto *v) { return kovra_asn1_bitstring_getbit(v, 0) == 0; }},
+        {"bitstring_getbitset", bits, false,
+         [](auto *v) { return BitSet(kovra_asn1_bitstring_getbitset(v)) == nullptr; }},
+        {"bitstring_getall", bits | string, false,
+         [&](auto *v) { return kovra_asn1_bitstring_getall(v, buffer) == 0; }},
+        {"bitstring_get", bits | string, true,
+         [&](auto *v) { return kovra_asn1_bitstring_get(v, 1, buffer, 9, &number, c) == 0; }},
+        {"bitstring_getobject", bits | string, true,
+         [&](auto *v) { return kovra_asn1_bitstring_getobject(v, 2, &out, c) == 0; }},
+        {"octetstring_getlength", string, false, [](auto *v) { return kovra_asn1_octetstring_getlength(v) == -2; }},
+        {"string_getlength", string, false, [](auto *v) { return kovra_asn1_string_getlength(v) == -2; }},
+        {"octetstring_getall", bits | string, false,
+         [&](auto *v) { return kovra_asn1_octetstring_getall(v, buffer) == 0; }},
+        {"string_get", bits | string, false, [&](auto *v) { return kovra_asn1_string_get(v, buffer) == 0; }},
+        {"octetstring_getblob", string, false,
+         [](auto *v) { return Blob(kovra_asn1_octetstring_getblob(v)) == nullptr; }},
+        {"octetstring_get", bits | string, true,
+         [&](auto *v) { return kovra_asn1_octetstring_get(v, 1, buffer, 9, &number, c) == 0; }},
+        {"octetstring_getobject", bits | string, true,
+         [&](auto *v) { return kovra_asn1_octetstring_getobject(v, 2, &out, c) == 0; }},
+        {"oid_getstring", oid, false, [](auto *v) { return kovra_asn1_oid_getstring(v) == nullptr; }},
+        {"relative_oid_getstring", oid, false, [](auto *v) { return kovra_asn1_relative_oid_getstring(v) == nullptr; }},
+        {"time_getutctime", moment, false,
+         [](auto *v) {
+             return std::unique_ptr<kovra_time, Releaser<kovra_time_free>>(kovra_asn1_time_getutctime(v)) == nullptr;
+         }},
+        {"any_isprimitive", any, false, [&](auto *v) { return kovra_asn1_any_isprimitive(v, &number) == 0; }},
+        {"any_gettagnumber", any, false, [&](auto *v) { return kovra_asn1_any_gettagnumber(v, &number) == 0; }},
+        {"any_getcontentlength", any, false, [](auto *v) { return kovra_asn1_any_getcontentlength(v) == -2; }},
+        {"any_iseoc", any, false, [](auto *v) { return kovra_asn1_any_iseoc(v) == 0; }},
+        {"any_getcontent", any, true,
+         [&](auto *v) { return kovra_asn1_any_getcontent(v, 1, buffer, 9, &number, c) == 0; }},
+        {"any_getobject", any, true, [&](auto *v) { return kovra_asn1_any_getobject(v, 2, &out, c) == 0; }},
+        {"any_contenttoobject", any, true, [&](auto *v) { return kovra_asn1_any_contenttoobject(v, 2, &out, c) == 0; }},
+        {"any_toobject", any, true, [&](auto *v) { return kovra_asn1_any_toobject(v, 2, &out, c) == 0; }},
+        {"list_get", list, false, [&](auto *v) { return kovra_asn1_list_get(v, 0, &out) == 0; }},
+        {"list_getsize", list, false, [](auto *v) { return kovra_asn1_list_getsize(v) == 0; }},
+        {"list_put", list, false, [&](auto *v) { return kovra_asn1_list_put(v, empty_list) == 0; }},
+    };
+    for (const Call &call : calls) {
+        SCOPED_TRACE(call.name);
+        EXPECT_TRUE(call.refused(nullptr));
+        for (const auto &[kind, value] : values_of_all_kinds()) {
+            if ((call.takes & kind) != 0)
+                continue;
+            kovra_err_ctx_clear(c);
+            EXPECT_TRUE(call.refused(value.get())) << "kind " << kind;
+            EXPECT_EQ(kovra_err_ctx_getcount(c), call.records ? 1 : 0) << "kind " << kind;
+            EXPECT_EQ(out, nullptr);
+        }
+    }
+    kovra_asn1_value_free(24, empty_list);
+    const auto &all = values_of_all_kinds();
+    for (const auto &[kind, left] : all) {
+        for (const auto &[other, right] : all) {
+            bool same = kind == integer && other == integer;
+            EXPECT_EQ(kovra_asn1_integer_equals(left.get(), right.get()), same) << kind << other;
+            if (kind != integer && other == integer) {
+                EXPECT_EQ(kovra_asn1_integer_encodecmp(left.get(), right.get()), -1);
+                EXPECT_EQ(kovra_asn1_integer_encodecmp(right.get(), left.get()), 1);
+            }
+        }
+    }
+}
+
+TEST(Properties, AValueOfAnotherKindIsNotEncoded) {
+    auto takes = [](uint32_t type) -> unsigned {
+        switch (type) {
+        case 1:
+            return boolean;
+        case 2:
+        case 7:
+            return integer;
+        case 3:
+            return bits;
+        case 6:
+        case 90:
+            return oid;
+        case 20:
+        case 21:
+        case 22:
+            return moment;
+        case 23:
+            return any;
+        case 24:
+        case 25:
+        case 26:
+        case 27:
+            return list;
+        default:
+            return string;
+        }
+    };
+    for (const auto &[kind, value] : values_of_all_kinds()) {
+        std::string before = encode(value.type(), value.get()).octets;
+        for (uint32_t type : primitive_types) {
+            if (type == 0 || type == 5 || takes(type) == kind)
+                continue;
+            SCOPED_TRACE("type " + std::to_string(type) + ", kind " + std::to_string(kind));
+            EXPECT_EQ(encode(type, value.get()).codes.size(), 1u);
+            EXPECT_EQ(encode_content(type, value.get(), 1).codes.size(), 1u);
+            EXPECT_EQ(kovra_asn1_mem_encode(type, value.get()), nullptr);
+            EXPECT_EQ(kovra_asn1_objecttoany(type, value.get()), nullptr);
+            EXPECT_EQ(kovra_asn1_content_length(type, value.get()), -2);
+            EXPECT_EQ(kovra_asn1_length(type, value.get()), -2);
+            Errors ctx(kovra_err_ctx_new());
+            EXPECT_EQ(kovra_asn1_dupobject(type, value.get(), ctx.get()), nullptr);
+            EXPECT_EQ(kovra_err_ctx_getcount(ctx.get()), 2);
+        }
+        EXPECT_EQ(encode(value.type(), value.get()).octets, before);
+        // A list of it cannot be written as a list of ANY, and everything is freed as what it is.
+        Value of_others(24, kovra_asn1_list_new());
+        EXPECT_EQ(kovra_asn1_list_put(of_others.get(), kovra_asn1_dupobject(value.type(), value.get(), nullptr)), 1);
+        EXPECT_EQ(encode(24, of_others.get()).result, kind == any);
+        for (uint32_t type : primitive_types)
+            kovra_asn1_value_free(
+                type, type == 0 || type == 5 ? nullptr : kovra_asn1_dupobject(value.type(), value.get(), nullptr));
+    }
+}
+
+// Runs on a thread with a small stack, and says how many seconds it took.
+double on_a_small_stack(const std::function<void()> &work) {
+#if defined(__SANITIZE_ADDRESS__)
+    constexpr size_t stack = 256 * 1024; // what the sanitizer adds to frames
+#else
+    constexpr size_t stack = 64 * 1024;
+#endif
+    auto start = std::chrono::steady_clock::now();
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    EXPECT_EQ(pthread_attr_setstacksize(&attributes, stack), 0);
+    pthread_t thread;
+    auto run = [](void *argument) -> void * {
+        (*static_cast<const std::function<void()> *>(argument))();
+        return nullptr;
+    };
+    EXPECT_EQ(pthread_create(&thread, &attributes, run, const_cast<std::function<void()> *>(&work)), 0);
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+// `depth` elements of one identifier around each other, of definite length.
+std::string nested(char identifier, size_t depth, std::string_view innermost) {
+    std::string reversed(innermost.rbegin(), innermost.rend());
+    for (size_t i = 0; i < depth; ++i) {
+        Stream header = memory_stream();
+        kovra_asn1_encode_length(header.get(), size_of(reversed), nullptr, nullptr);
+        std::string length = taken(header);
+        reversed.append(length.rbegin(), length.rend());
+        reversed += identifier;
+    }
+    return {reversed.rbegin(), reversed.rend()};
+}
+
+TEST(Properties, AMillionLevelsTakeLinearTimeAndNoStack) {
+    constexpr size_t depth = 1000000;
+    const struct {
+        const char *name;
+        std::vector<uint32_t> types;
+        std::string data;
+        bool kept;    // written back as it was
+        int32_t code; // of the octets without their end
+    } rows[] = {
+        {"30 80", {23, 24}, repeated("\x30\x80", depth) + std::string(2 * depth, '\0'), true, 0x102e5},
+        {"A0 80", {23}, repeated("\xA0\x80", depth) + std::string(2 * depth, '\0'), true, 0x102e5},
+        {"30 length", {23, 24, 26}, nested('\x30', depth, ""), true, 0},
+        {"24 80", {4, 23}, repeated("\x24\x80", depth) + "\x04\x01x" + std::string(2 * depth, '\0'), false, 0x102e5},
+        {"24 length", {4, 23}, nested('\x24', depth, "\x04\x01x"), false, 0},
+        {"23 80",
+         {3, 23},
+         repeated("\x23\x80", depth) + octets("03 02 00 78") + std::string(2 * depth, '\0'),
+         false,
+         0x102e5},
+        {"23 length", {3, 23}, nested('\x23', depth, octets("03 02 00 78")), false, 0},
+    };
+    for (const auto &row : rows) {
+        for (uint32_t type : row.types) {
+            SCOPED_TRACE(std::string(row.name) + " as type " + std::to_string(type));
+            double seconds = on_a_small_stack([&] {
+                Decoded decoded = decode(type, row.data);
+                if (type == 26) {
+                    EXPECT_EQ(decoded.codes, Codes({0x1020a}));
+                    return;
+                }
+                EXPECT_EQ(decoded.result, 1);
+                EXPECT_EQ(decoded.consumed, row.data.size());
+                std::string encoded = encode(type, decoded.value.get()).octets;
+                if (type == 23) {
+                    EXPECT_TRUE(encoded == row.data);
+                } else if (type != 24) {
+                    EXPECT_EQ(hex(encoded), type == 4 ? "040178" : "03020078");
+                }
+                EXPECT_FALSE(decode(type, row.data.substr(0, row.data.size() - 1)).codes.empty());
+            });
+            EXPECT_LT(seconds, 20); // quadratic would be hours
+        }
+    }
+    double seconds = on_a_small_stack([&] { // opened and never closed
+        EXPECT_EQ(decode(23, rows[0].data.substr(0, 2 * depth)).codes, Codes({0x10105, 0x102e5}));
+        EXPECT_EQ(decode(4, rows[3].data.substr(0, 2 * depth), Feed::trickle).codes, Codes({0x10105, 0x102e5}));
+        EXPECT_EQ(decode(3, rows[5].data.substr(0, 2 * depth)).codes.size(), depth + 2) << "one entry a level";
+    });
+    EXPECT_LT(seconds, 20);
+}
+
+} // namespace
+} // namespace kovra::test
