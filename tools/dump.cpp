@@ -335,6 +335,10 @@ private:
 
     void time(const Header &header, size_t content) {
         text({octets_ + content, header.length});
+        if (int fields[6]; read_plain_time(header, octets_ + content, fields)) {
+            readable_time(fields);
+            return;
+        }
         kovra_asn1_value *value = nullptr;
         const auto length = static_cast<int32_t>(header.size + header.length);
         if (kovra_asn1_mem_decode(octets_ + content - header.size, length, KOVRA_ASN1_TYPE_TIME, &value) != length) {
@@ -350,6 +354,19 @@ private:
         out_.put(readable);
         kovra_time_free(time);
         kovra_asn1_value_free(KOVRA_ASN1_TYPE_TIME, value);
+    }
+
+    void readable_time(const int (&fields)[6]) {
+        char readable[] = " (0000-00-00 00:00:00 UTC)";
+        const auto put_two = [&](size_t at, int number) {
+            readable[at] = static_cast<char>('0' + number / 10);
+            readable[at + 1] = static_cast<char>('0' + number % 10);
+        };
+        put_two(2, fields[0] / 100);
+        put_two(4, fields[0] % 100);
+        for (size_t i = 1; i < 6; ++i)
+            put_two(4 + 3 * i, fields[i]);
+        out_.put(std::string_view(readable, sizeof readable - 1));
     }
 
     // A primitive of another class may be text or anything.

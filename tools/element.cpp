@@ -117,4 +117,19 @@ bool is_one_element(const uint8_t *octets, size_t begin, size_t end) {
     return at == end;
 }
 
+bool read_plain_time(const Header &header, const uint8_t *text, int (&fields)[6]) {
+    if (!header.is_universal(23) || header.is_constructed || header.length != 13 || text[12] != 'Z')
+        return false;
+    for (int i = 0; i < 6; ++i) {
+        const int tens = text[2 * i] - '0';
+        const int ones = text[2 * i + 1] - '0';
+        if (tens < 0 || tens > 9 || ones < 0 || ones > 9)
+            return false;
+        fields[i] = tens * 10 + ones;
+    }
+    auto &[year, month, day, hour, minute, second] = fields;
+    year += year < 50 ? 2000 : 1900;
+    return month >= 1 && month <= 12 && day >= 1 && day <= 28 && hour <= 23 && minute <= 59 && second <= 59;
+}
+
 } // namespace kovra::tool

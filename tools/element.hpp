@@ -59,4 +59,8 @@ private:
 // Are the octets just one element, well formed down to its primitives?
 bool is_one_element(const uint8_t *octets, size_t begin, size_t end);
 
+// UTCTime in the form of DER and of a date that every month has, as nearly all are: year, month, day, hour, minute,
+// second. False for others, which the library reads.
+bool read_plain_time(const Header &header, const uint8_t *text, int (&fields)[6]);
+
 } // namespace kovra::tool

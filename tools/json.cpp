@@ -161,20 +161,9 @@ private:
         return nullptr;
     }
 
-    // UTCTime in the form of DER, of a date that every month has.
     bool put_plain_time(const Header &header, const uint8_t *text, size_t level) {
-        if (!header.is_universal(23) || header.is_constructed || header.length != 13 || text[12] != 'Z')
-            return false;
         int fields[6];
-        for (int i = 0; i < 6; ++i) {
-            const int tens = text[2 * i] - '0';
-            const int ones = text[2 * i + 1] - '0';
-            if (tens < 0 || tens > 9 || ones < 0 || ones > 9)
-                return false;
-            fields[i] = tens * 10 + ones;
-        }
-        const auto &[year, month, day, hour, minute, second] = fields;
-        if (month < 1 || month > 12 || day < 1 || day > 28 || hour > 23 || minute > 59 || second > 59)
+        if (!read_plain_time(header, text, fields))
             return false;
         out_.put('{');
         member("type", level + 1, true);
@@ -184,7 +173,7 @@ private:
         static constexpr const char *names[] = {"year", "month", "day", "hour", "minute", "second"};
         for (int i = 0; i < 6; ++i) {
             member(names[i], level + 2, i == 0);
-            put_number(i == 0 ? year + (year < 50 ? 2000 : 1900) : fields[i]);
+            put_number(fields[i]);
         }
         member("ns", level + 2);
         out_.put('0');
