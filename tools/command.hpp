@@ -1,98 +1,92 @@
-// What the commands of kovra-asn1 share: where octets come from, where text goes, and how trouble is told.
+// What the commands of kovra-asn1 share.
 #pragma once
 
 #include <cstdint>
 #include <functional>
-#include <span>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "input.hpp"
+#include "output.hpp"
+
 namespace kovra::tool {
 
-// Exit codes; with several inputs the worst counts.
+// Exit codes; of several inputs the worst counts.
 enum class Status : int { good = 0, malformed = 1, usage = 2, io = 3 };
-inline Status worse(Status left, Status right) {
-    return left > right ? left : right;
-}
-
-// One thing to look at: a PEM block, or all octets of a file.
-struct Item {
-    std::string label; // of a PEM block; empty for others
-    std::string octets;
-};
-
-// Reads a file ("-": standard input) and recognises its form by its content: PEM, base64, hexadecimal, or BER itself.
-// False, with a message written, when it cannot be read.
-bool read_items(const std::string &path, std::vector<Item> &out);
-// The octets as they are.
-bool read_file(const std::string &path, std::string &out);
-
-// Standard output or a file, written in large pieces. A closed pipe ends the output quietly.
-class Output {
-public:
-    // False when the file cannot be opened.
-    bool open(const std::string &path);
-    void put(std::string_view text) {
-        if (text.size() > sizeof buffer_ - used_)
-            return put_more(text);
-        text.copy(buffer_ + used_, text.size());
-        used_ += text.size();
-    }
-    void put(char character) { put(std::string_view(&character, 1)); }
-    void pad(size_t count);
-    void put_hex(std::span<const uint8_t> octets);
-    // Writes what is gathered; good unless the output failed other than by a closed pipe.
-    Status finish();
-    [[nodiscard]] bool is_closed() const { return closed_; }
-    [[nodiscard]] bool is_terminal() const;
-
-private:
-    void put_more(std::string_view text);
-    void write(std::string_view text);
-
-    char buffer_[1 << 16];
-    size_t used_ = 0;
-    int file_ = 1;
-    bool closed_ = false; // nobody reads any more
-    bool failed_ = false;
-};
 
 struct Options {
-    std::vector<std::string> files;
-    std::string out;
-    std::string color = "auto";
-    std::string pem_label;
-    int indent = 2;
-    bool quiet = false;
+  std::vector<std::string> files; // "-" is standard input
+  bool is_colored = false;
+  bool is_quiet = false;
+  bool is_full = false; // dump: long values are not cut
+  int32_t indent = 2;   // json: blanks a level, 0 for one line
 };
 
-// Writes `kovra-asn1: file[item]: octet N: text (code)` and the chain below it, from the innermost cause outwards.
+// What is wrong with an input: where, and why, from the innermost cause
+// outward.
 struct Trouble {
-    std::string_view file;
-    size_t item = 0; // from 1 on; 0: the file has only one
-    size_t octet = 0;
-    std::string_view text;
-    int32_t code = 0; // 0: none
-};
-struct ChainEntry {
+  struct Cause {
     int32_t code;
     std::string text;
     std::string source;
+  };
+  size_t octet = 0;
+  std::vector<Cause> chain;
 };
-void report(const Options &options, const Trouble &trouble, const std::vector<ChainEntry> &chain = {});
-// The same for trouble with files: no octet, no code.
-void report_file(std::string_view file, std::string_view text);
 
-// Runs over every item of every file and gives the worst status.
-using ItemCommand = std::function<Status(const Item &item, std::string_view file, size_t number, size_t count)>;
-Status for_each_item(const Options &options, const ItemCommand &command);
+// Where in the input an element was refused.
+struct Refusal {
+  const uint8_t *octets = nullptr;
+  size_t begin = 0;
+  size_t limit = 0; // the element has to end there at the latest
+};
 
-// The commands.
-Status dump(const Options &options, Output &out);
-Status json(const Options &options, Output &out);
-Status der(const Options &options, Output &out);
-Status types(const Options &options, Output &out);
-Status version(const Options &options, Output &out);
+// Lets the library decode the element as each of the types in turn, and tells
+// how the first that fails does; where none does the element stands where none
+// may.
+Trouble explain(const Refusal &refusal, std::initializer_list<uint32_t> types);
+
+// One run of the tool.
+class Session {
+public:
+  Options options;
+  Output out;
+
+  [[nodiscard]] Status status() const { return status_; }
+
+  // Prints what is wrong to standard error, behind what was printed so far: a
+  // line "kovra-asn1: place: octet N: text (code)" with the outermost text and
+  // code, and the chain below it.
+  void report(const std::string &place, const Trouble &trouble);
+  // Prints that a file cannot be read or written.
+  void report_file(const std::string &message);
+
+  // Calls the function with every item of every file until the output is over,
+  // with the name "file[number]". Files that cannot be read and malformed PEM
+  // blocks are reported on the way.
+  void for_each_item(
+      const std::function<void(const Item &, const std::string &)> &function);
+  // The same for whole files.
+  void for_each_file(const std::function<void(std::vector<uint8_t> &&,
+                                              const std::string &)> &function);
+
+private:
+  Status status_ = Status::good;
+};
+
+struct Command {
+  const char *name;
+  const char *help;
+  bool takes_files;
+  void (*run)(Session &);
+};
+
+void dump(Session &session);
+void json(Session &session);
+void der(Session &session);
+void types(Session &session);
+void version(Session &session);
 
 } // namespace kovra::tool

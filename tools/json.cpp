@@ -1,7 +1,10 @@
-// `json` prints the JSON description of an encoding while it walks through it; `der` makes the octets of one again.
+// `json`: the description that kovra_asn1_tojson makes, printed while the
+// octets are walked, without a tree.
 
+#include <array>
+#include <charconv>
 #include <cstring>
-#include <utility>
+#include <memory>
 
 #include "command.hpp"
 #include "element.hpp"
@@ -12,312 +15,528 @@ namespace kovra::tool {
 
 namespace {
 
-// As the library prints: deeper levels are indented no further.
-constexpr size_t deepest_indent = 64;
+constexpr uint32_t sequence = 16;
+constexpr uint32_t set = 17;
 
-class JsonWriter {
-public:
-    JsonWriter(std::string_view octets, int indent, Output &out)
-        : octets_(reinterpret_cast<const uint8_t *>(octets.data())), size_(octets.size()), indent_(indent), out_(out) {}
-
-    // Prints the description of the element that begins at `position`, and sets it behind it. The fault, with
-    // `position` where it is, if there is one.
-    Fault run(size_t &position) {
-        size_t end = 0;
-        if (const Fault fault = element_end(octets_, position, size_, end); fault != nullptr)
-            return fault;
-        const Fault fault = walk(position, end);
-        out_.put('\n');
-        return fault;
-    }
-
-private:
-    struct Frame {
-        bool is_tagged; // one value, not the items of an array
-        bool is_first = true;
-    };
-
-    void new_line(size_t level) {
-        if (indent_ == 0)
-            return;
-        out_.put('\n');
-        out_.pad((level < deepest_indent ? level : deepest_indent) * static_cast<size_t>(indent_));
-    }
-    void member(const char *name, size_t level, bool is_first = false) {
-        if (!is_first)
-            out_.put(',');
-        new_line(level);
-        out_.put('"');
-        out_.put(name);
-        out_.put(indent_ == 0 ? "\":" : "\": ");
-    }
-
-    // Levels of text: an object in an array stands two deeper than the object that has the array, in a tag one.
-    Fault walk(size_t &position, size_t end) {
-        OpenElements open(end);
-        std::vector<Frame> frames;
-        size_t level = 0;
-        do {
-            if (!frames.empty() && !frames.back().is_tagged) {
-                if (!std::exchange(frames.back().is_first, false))
-                    out_.put(',');
-                new_line(level);
-            }
-            Header header;
-            if (const Fault fault = read_header(octets_, position, open.limit(), header); fault != nullptr)
-                return fault;
-            const size_t content = position + header.size;
-            if (header.is_end_of_contents())
-                return "end-of-contents where a value should stand";
-            const bool is_list = header.is_universal(16) || header.is_universal(17);
-            if (is_list || is_explicit_tag(header, content)) {
-                out_.put('{');
-                member("type", level + 1, true);
-                begin(header, is_list, level + 1);
-                open.enter(header, content);
-                frames.push_back({!is_list});
-                level += is_list ? 2 : 1;
-                position = content;
-            } else if (const Fault fault = leaf(position, header, open.limit(), level); fault != nullptr) {
-                return fault;
-            }
-            // What ends here is closed, each with what it opened.
-            for (;;) {
-                if (open.ends_at(position)) {
-                    open.leave();
-                } else if (open.is_indefinite() && position + 2 <= open.limit() && octets_[position] == 0 &&
-                           octets_[position + 1] == 0) {
-                    open.leave();
-                    position += 2;
-                } else {
-                    break;
-                }
-                const Frame frame = frames.back();
-                frames.pop_back();
-                level -= frame.is_tagged ? 1 : 2;
-                if (!frame.is_tagged) {
-                    if (!frame.is_first)
-                        new_line(level + 1);
-                    out_.put(']');
-                }
-                new_line(level);
-                out_.put('}');
-            }
-        } while (open.depth() != 0 && !out_.is_closed());
-        return nullptr;
-    }
-
-    void begin(const Header &header, bool is_list, size_t level) {
-        if (is_list) {
-            out_.put(header.tag == 16 ? "\"SEQUENCE\"" : "\"SETOF\"");
-            member("value", level);
-            out_.put('[');
-            return;
-        }
-        static constexpr const char *classes[] = {"UNIVERSAL", "APPLICATION", "CONTEXT", "PRIVATE"};
-        out_.put("\"TAGGEDTYPE\"");
-        member("class", level);
-        out_.put('"');
-        out_.put(classes[header.tag_class >> 6]);
-        out_.put('"');
-        member("number", level);
-        out_.put(std::to_string(header.tag));
-        member("explicit", level);
-        out_.put("true");
-        member("value", level);
-    }
-
-    // A constructed value of another class whose content is just one element.
-    bool is_explicit_tag(const Header &header, size_t content) const {
-        size_t end = 0;
-        if (header.tag_class == 0 || !header.is_constructed || header.is_indefinite || header.length == 0)
-            return false;
-        const size_t limit = content + header.length;
-        Header inner;
-        return read_header(octets_, content, limit, inner) == nullptr && !inner.is_end_of_contents() &&
-               element_end(octets_, content, limit, end) == nullptr && end == limit;
-    }
-
-    // A value without members. The two kinds that long lists are full of are printed here, the others by the library.
-    Fault leaf(size_t &position, const Header &header, size_t limit, size_t level) {
-        size_t end = 0;
-        if (const Fault fault = element_end(octets_, position, limit, end); fault != nullptr)
-            return fault;
-        const uint8_t *content = octets_ + position + header.size;
-        if (header.is_universal(2) && header.length != 0) {
-            out_.put('{');
-            member("type", level + 1, true);
-            out_.put("\"INTEGER\"");
-            member("value", level + 1);
-            out_.put('"');
-            out_.put_hex({content, header.length});
-            out_.put('"');
-            new_line(level);
-            out_.put('}');
-        } else if (!put_plain_time(header, content, level) && !put_by_library(position, end, level)) {
-            return "the value is not one of its type";
-        }
-        position = end;
-        return nullptr;
-    }
-
-    bool put_plain_time(const Header &header, const uint8_t *text, size_t level) {
-        int fields[6];
-        if (!read_plain_time(header, text, fields))
-            return false;
-        out_.put('{');
-        member("type", level + 1, true);
-        out_.put("\"UTCTIME\"");
-        member("value", level + 1);
-        out_.put('{');
-        static constexpr const char *names[] = {"year", "month", "day", "hour", "minute", "second"};
-        for (int i = 0; i < 6; ++i) {
-            member(names[i], level + 2, i == 0);
-            put_number(fields[i]);
-        }
-        member("ns", level + 2);
-        out_.put('0');
-        member("utc", level + 2);
-        out_.put("true");
-        new_line(level + 1);
-        out_.put('}');
-        new_line(level);
-        out_.put('}');
-        return true;
-    }
-
-    void put_number(int number) {
-        char digits[4];
-        size_t begin = sizeof digits;
-        do
-            digits[--begin] = static_cast<char>('0' + number % 10);
-        while ((number /= 10) != 0);
-        out_.put(std::string_view(digits + begin, sizeof digits - begin));
-    }
-
-    bool put_by_library(size_t begin, size_t end, size_t level) {
-        kovra_json *json = kovra_asn1_tojson(octets_ + begin, static_cast<int32_t>(end - begin));
-        int64_t length = 0;
-        char *text = kovra_json_print(json, indent_, &length);
-        kovra_json_free(json);
-        if (text == nullptr)
-            return false;
-        std::string_view rest(text, static_cast<size_t>(length));
-        for (size_t line = rest.find('\n'); line != std::string_view::npos; line = rest.find('\n')) {
-            out_.put(rest.substr(0, line));
-            new_line(level);
-            rest.remove_prefix(line + 1);
-        }
-        out_.put(rest);
-        kovra_free(text);
-        return true;
-    }
-
-    const uint8_t *octets_;
-    size_t size_;
-    int indent_;
-    Output &out_;
+// Prints nothing: a description is printed only when there is one, which a
+// first walk finds out.
+struct NoWriter {
+  static constexpr bool prints = false;
 };
 
-// The texts of JSON values that stand one after another, or as the items of one array.
-std::vector<std::string_view> split_json(std::string_view text) {
-    std::vector<std::string_view> values;
-    size_t depth = 0;
-    size_t begin = 0;
-    bool in_string = false;
-    for (size_t i = 0; i < text.size(); ++i) {
-        const char character = text[i];
-        if (in_string) {
-            if (character == '\\')
-                ++i;
-            else if (character == '"')
-                in_string = false;
-            continue;
-        }
-        if (character == '"') {
-            in_string = true;
-        } else if (character == '{' || character == '[') {
-            ++depth;
-        } else if ((character == '}' || character == ']') && depth != 0 && --depth == 0) {
-            values.push_back(text.substr(begin, i + 1 - begin));
-            begin = i + 1;
-        }
+class Writer {
+public:
+  static constexpr bool prints = true;
+
+  Writer(Output &out, int32_t indent)
+      : out_(out), indent_(static_cast<size_t>(indent)) {
+    std::memset(new_line_, ' ', sizeof new_line_);
+    new_line_[0] = '\n';
+  }
+
+  [[nodiscard]] Output &out() { return out_; }
+  [[nodiscard]] int32_t indent() const { return static_cast<int32_t>(indent_); }
+
+  void begin_object() {
+    out_.put('{');
+    ++depth_;
+  }
+  void end_object() {
+    --depth_;
+    new_line();
+    out_.put('}');
+  }
+  void begin_array() {
+    out_.put('[');
+    ++depth_;
+  }
+  void end_array(bool is_empty) {
+    --depth_;
+    if (!is_empty)
+      new_line();
+    out_.put(']');
+  }
+  // The name is given as it is printed on one line.
+  void first_name(std::string_view quoted) {
+    new_line();
+    out_.put(quoted);
+    out_.put(indent_ > 0 ? std::string_view(": ") : std::string_view(":"));
+  }
+  void name(std::string_view quoted) {
+    out_.put(',');
+    first_name(quoted);
+  }
+  void item(bool is_first) {
+    if (!is_first)
+      out_.put(',');
+    new_line();
+  }
+  void type(std::string_view quoted) {
+    begin_object();
+    first_name("\"type\"");
+    out_.put(quoted);
+  }
+  void hex(const uint8_t *octets, size_t length) {
+    out_.put('"');
+    out_.put_hex(octets, length);
+    out_.put('"');
+  }
+  // Text that was printed from level 0 with the same indent.
+  void printed(std::string_view text) {
+    if (indent_ == 0)
+      return out_.put(text);
+    for (size_t at = 0; at < text.size();) {
+      size_t end = text.find('\n', at);
+      if (end == std::string_view::npos)
+        end = text.size();
+      out_.put(text.substr(at, end - at));
+      if (end == text.size())
+        return;
+      at = text.find_first_not_of(' ', end + 1);
+      const size_t level = (at - end - 1) / indent_;
+      depth_ += level;
+      new_line();
+      depth_ -= level;
     }
-    const std::string_view rest = text.substr(begin);
-    if (rest.find_first_not_of(" \t\r\n") != std::string_view::npos || values.empty())
-        values.push_back(rest);
-    return values;
+  }
+
+private:
+  void new_line() {
+    if (indent_ == 0)
+      return;
+    const size_t blanks =
+        indent_ * (depth_ < deepest_indent ? depth_ : deepest_indent);
+    char *out = out_.room(sizeof new_line_);
+    std::memcpy(out, new_line_, 1 + 32);
+    if (blanks > 32)
+      std::memcpy(out + 1 + 32, new_line_ + 1, blanks - 32);
+    out_.used(out + 1 + blanks);
+  }
+
+  // As the library prints: deeper levels are indented no further.
+  static constexpr size_t deepest_indent = 64;
+  static constexpr size_t widest_indent = 16;
+
+  Output &out_;
+  size_t indent_;
+  size_t depth_ = 0;
+  char new_line_[1 + deepest_indent * widest_indent];
+};
+
+struct Free {
+  void operator()(void *memory) const { kovra_free(memory); }
+  void operator()(kovra_json *value) const { kovra_json_free(value); }
+};
+
+// The type of a universal tag that has a description of its own and no members;
+// 0 for others.
+constexpr auto leaf_types = [] {
+  std::array<uint8_t, 32> of{};
+  of[1] = KOVRA_ASN1_TYPE_BOOLEAN;
+  of[2] = KOVRA_ASN1_TYPE_INTEGER;
+  of[3] = KOVRA_ASN1_TYPE_BIT_STRING;
+  of[4] = KOVRA_ASN1_TYPE_OCTET_STRING;
+  of[5] = KOVRA_ASN1_TYPE_NULL;
+  of[6] = KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER;
+  of[10] = KOVRA_ASN1_TYPE_ENUMERATED;
+  of[12] = KOVRA_ASN1_TYPE_UTF8_STRING;
+  of[18] = KOVRA_ASN1_TYPE_NUMERIC_STRING;
+  of[19] = KOVRA_ASN1_TYPE_PRINTABLE_STRING;
+  of[20] = KOVRA_ASN1_TYPE_TELETEX_STRING;
+  of[22] = KOVRA_ASN1_TYPE_IA5_STRING;
+  of[23] = KOVRA_ASN1_TYPE_UTC_TIME;
+  of[24] = KOVRA_ASN1_TYPE_GENERALIZED_TIME;
+  of[26] = KOVRA_ASN1_TYPE_VISIBLE_STRING;
+  of[28] = KOVRA_ASN1_TYPE_UNIVERSAL_STRING;
+  of[30] = KOVRA_ASN1_TYPE_BMP_STRING;
+  return of;
+}();
+
+// What of a string can be printed between quotation marks as it is.
+bool is_plain_text(const uint8_t *octets, size_t length, uint32_t tag) {
+  constexpr auto plain = [] {
+    // Bits: 1 for PrintableString, 2 for the others.
+    std::array<uint8_t, 256> of{};
+    for (uint8_t c = 0x20; c < 0x7F; ++c)
+      of[c] = c == '"' || c == '\\' ? 0 : 2;
+    for (const char c :
+         std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"
+                          "0123456789 '()+,-./:=?"))
+      of[static_cast<uint8_t>(c)] |= 1;
+    return of;
+  }();
+  constexpr uint32_t printable_string = 19;
+  const uint8_t mask = tag == printable_string ? 1 : 2;
+  uint8_t all = mask;
+  for (size_t i = 0; i < length; ++i)
+    all = static_cast<uint8_t>(all & plain[octets[i]]);
+  return all != 0;
 }
 
-bool append_encoding(const kovra_json *json, std::string &out) {
-    if (kovra_json_gettype(json) == KOVRA_JSON_ARRAY) {
-        for (int32_t i = 0; i < kovra_json_getarraysize(json); ++i)
-            if (!append_encoding(kovra_json_getarrayitem(json, i), out))
-                return false;
-        return true;
-    }
-    kovra_data_blob *encoding = kovra_asn1_encodejson(json);
-    if (encoding == nullptr)
-        return false;
-    out.append(reinterpret_cast<const char *>(kovra_data_blob_getdata(encoding)),
-               static_cast<size_t>(kovra_data_blob_getlength(encoding)));
-    kovra_data_blob_free(encoding);
-    return true;
+struct Moment {
+  uint32_t year, month, day, hour, minute, second;
+};
+
+// A time as DER writes it, without a fraction.
+bool read_plain_time(const uint8_t *text, size_t length, bool is_short,
+                     Moment &out) {
+  const size_t digits = is_short ? 12 : 14;
+  if (length != digits + 1 || text[digits] != 'Z')
+    return false;
+  uint32_t pairs[7];
+  for (size_t i = 0; i < digits; i += 2) {
+    const uint32_t tens = text[i] - uint32_t{'0'};
+    const uint32_t ones = text[i + 1] - uint32_t{'0'};
+    if (tens > 9 || ones > 9)
+      return false;
+    pairs[i / 2] = tens * 10 + ones;
+  }
+  const uint32_t *rest = pairs + (is_short ? 1 : 2);
+  out.year = is_short ? pairs[0] + (pairs[0] < 50 ? 2000 : 1900)
+                      : pairs[0] * 100 + pairs[1];
+  out.month = rest[0];
+  out.day = rest[1];
+  out.hour = rest[2];
+  out.minute = rest[3];
+  out.second = rest[4];
+  // What is rarer is left to the library.
+  return out.year >= 1583 && out.month - 1 < 12 && out.day - 1 < 28 &&
+         out.hour < 24 && out.minute < 60 && out.second < 60;
 }
+
+// One walk over the octets of an element.
+template <class Printer> class Description {
+public:
+  Description(const Item &item, Printer &printer)
+      : octets_(item.octets), at_(item.begin), end_(item.end), to_(printer) {}
+
+  // False when the element has no description: refusal() and refused_type()
+  // tell where.
+  bool run() {
+    if (!element(end_))
+      return false;
+    while (!open_.empty()) {
+      Frame &frame = open_.back();
+      if (frame.is_indefinite && frame.limit - at_ >= 2 && octets_[at_] == 0 &&
+          octets_[at_ + 1] == 0) {
+        at_ += 2;
+        close();
+        continue;
+      }
+      if (!frame.is_indefinite && at_ == frame.limit) {
+        close();
+        continue;
+      }
+      if constexpr (Printer::prints)
+        if (!frame.is_tagged)
+          to_.item(frame.is_empty);
+      frame.is_empty = false;
+      if (!element(frame.limit))
+        return false;
+    }
+    return at_ == end_ || refuse(at_, end_, KOVRA_ASN1_TYPE_ANY);
+  }
+
+  [[nodiscard]] Refusal refusal() const {
+    return {octets_, refused_at_, refused_limit_};
+  }
+  [[nodiscard]] uint32_t refused_type() const { return refused_type_; }
+
+private:
+  struct Frame {
+    size_t limit; // of its members: its own end, or that of what it stands in
+                  // when its length is indefinite
+    bool is_indefinite;
+    bool is_tagged; // has one member, which stands in no array
+    bool is_empty;
+  };
+
+  bool refuse(size_t at, size_t limit, uint32_t type) {
+    refused_at_ = at;
+    refused_limit_ = limit;
+    refused_type_ = type;
+    return false;
+  }
+
+  bool element(size_t limit) {
+    Header header;
+    if (!read_header(octets_, at_, limit, header) || !is_possible(header) ||
+        header.is_end_of_contents())
+      return refuse(at_, limit, KOVRA_ASN1_TYPE_ANY);
+    if (!header.is_universal())
+      return tagged(header, limit);
+    if (header.tag == sequence || header.tag == set) {
+      if constexpr (Printer::prints) {
+        to_.type(header.tag == sequence ? "\"SEQUENCE\"" : "\"SETOF\"");
+        to_.name("\"value\"");
+        to_.begin_array();
+      }
+      enter(header, limit, false);
+      return true;
+    }
+    const uint32_t type =
+        header.tag < leaf_types.size() ? leaf_types[header.tag] : 0;
+    if (type == 0)
+      return whole("\"ANY\"", limit);
+    if (!header.is_constructed() && !header.is_indefinite && plain(header)) {
+      at_ += size_t{header.size} + header.length;
+      return true;
+    }
+    return by_library(type, limit);
+  }
+
+  void enter(const Header &header, size_t limit, bool is_tagged) {
+    at_ += header.size;
+    open_.push_back({header.is_indefinite ? limit : at_ + header.length,
+                     header.is_indefinite, is_tagged, true});
+  }
+
+  void close() {
+    const Frame frame = open_.back();
+    open_.pop_back();
+    if constexpr (Printer::prints) {
+      if (!frame.is_tagged)
+        to_.end_array(frame.is_empty);
+      to_.end_object();
+    }
+  }
+
+  // An explicit tag is a constructed one whose content is just one element.
+  bool tagged(const Header &header, size_t limit) {
+    const size_t content = at_ + header.size;
+    const bool is_explicit =
+        header.is_constructed() && !header.is_indefinite &&
+        header.length != 0 && octets_[content] != 0 &&
+        element_end(octets_, content, content + header.length,
+                    Tags::possible) == content + header.length;
+    if (!is_explicit)
+      return whole("\"ANY\"", limit);
+    if constexpr (Printer::prints) {
+      constexpr std::string_view classes[] = {
+          "\"UNIVERSAL\"", "\"APPLICATION\"", "\"CONTEXT\"", "\"PRIVATE\""};
+      to_.type("\"TAGGEDTYPE\"");
+      to_.name("\"class\"");
+      to_.out().put(classes[header.lead >> 6]);
+      to_.name("\"number\"");
+      to_.out().put_number(header.tag);
+      to_.name("\"explicit\"");
+      to_.out().put("true");
+      to_.name("\"value\"");
+    }
+    enter(header, limit, true);
+    return true;
+  }
+
+  // An element that is written as it stands.
+  bool whole(std::string_view type, size_t limit) {
+    const size_t end = element_end(octets_, at_, limit, Tags::possible);
+    if (end == nowhere)
+      return refuse(at_, limit, KOVRA_ASN1_TYPE_ANY);
+    if constexpr (Printer::prints) {
+      to_.type(type);
+      to_.name("\"hexencode\"");
+      to_.hex(octets_ + at_, end - at_);
+      to_.end_object();
+    }
+    at_ = end;
+    return true;
+  }
+
+  // Values in the form that DER gives them; false, with nothing printed, for
+  // what is not so plain.
+  bool plain(const Header &header) {
+    const uint8_t *content = octets_ + at_ + header.size;
+    const size_t length = header.length;
+    switch (header.tag) {
+    case 2:
+      return length != 0 && hex_value("\"INTEGER\"", content, length);
+    case 10:
+      return length != 0 && hex_value("\"ENUM\"", content, length);
+    case 4:
+      return hex_value("\"OCTETSTRING\"", content, length);
+    case 3:
+      return bits(content, length);
+    case 5:
+      return length == 0 && text_value("\"NULL\"", {}, "");
+    case 1:
+      return length == 1 &&
+             text_value("\"BOOLEAN\"", content[0] != 0 ? "true" : "false", "");
+    case 6:
+      return oid(content, length);
+    case 12:
+      return plain_text("\"UTF8STRING\"", content, header);
+    case 19:
+      return plain_text("\"PRINTABLESTRING\"", content, header);
+    case 22:
+      return plain_text("\"IA5STRING\"", content, header);
+    case 26:
+      return plain_text("\"VISIBLESTRING\"", content, header);
+    case 23:
+      return time("\"UTCTIME\"", content, length, true);
+    case 24:
+      return time("\"GENTIME\"", content, length, false);
+    default:
+      return false;
+    }
+  }
+
+  bool hex_value(std::string_view type, const uint8_t *octets, size_t length) {
+    if constexpr (Printer::prints) {
+      to_.type(type);
+      to_.name("\"value\"");
+      to_.hex(octets, length);
+      to_.end_object();
+    }
+    return true;
+  }
+
+  bool text_value(std::string_view type, std::string_view text,
+                  std::string_view quote) {
+    if constexpr (Printer::prints) {
+      to_.type(type);
+      if (text.data() != nullptr) {
+        to_.name("\"value\"");
+        to_.out().put(quote);
+        to_.out().put(text);
+        to_.out().put(quote);
+      }
+      to_.end_object();
+    }
+    return true;
+  }
+
+  bool plain_text(std::string_view type, const uint8_t *octets,
+                  const Header &header) {
+    return is_plain_text(octets, header.length, header.tag) &&
+           text_value(type,
+                      {reinterpret_cast<const char *>(octets), header.length},
+                      "\"");
+  }
+
+  bool bits(const uint8_t *content, size_t length) {
+    if (length == 0 || content[0] > 7 || (content[0] != 0 && length == 1))
+      return false;
+    if constexpr (Printer::prints) {
+      to_.type("\"BITSTRING\"");
+      to_.name("\"value\"");
+      to_.begin_object();
+      to_.first_name("\"unusedbits\"");
+      to_.out().put_number(content[0]);
+      to_.name("\"value\"");
+      to_.hex(content + 1, length - 1);
+      to_.end_object();
+      to_.end_object();
+    }
+    return true;
+  }
+
+  bool oid(const uint8_t *content, size_t length) {
+    // Arcs of four octets or less; rarer ones are the library's.
+    constexpr size_t longest = 64;
+    char text[longest * 4];
+    char *end = text;
+    if (length == 0 || length > longest || content[length - 1] >= 0x80)
+      return false;
+    for (size_t i = 0; i < length; ++i) {
+      if (content[i] == 0x80)
+        return false;
+      uint32_t arc = 0;
+      const size_t begin = i;
+      for (; content[i] >= 0x80; ++i)
+        arc = arc << 7 | (content[i] & 0x7FU);
+      arc = arc << 7 | content[i];
+      if (i - begin > 3)
+        return false;
+      if (begin == 0) {
+        const uint32_t root = arc < 40 ? 0 : arc < 80 ? 1 : 2;
+        *end++ = static_cast<char>('0' + root);
+        arc -= root * 40;
+      }
+      *end++ = '.';
+      end = std::to_chars(end, text + sizeof text, arc).ptr;
+    }
+    return text_value("\"OID\"", {text, static_cast<size_t>(end - text)}, "\"");
+  }
+
+  bool time(std::string_view type, const uint8_t *text, size_t length,
+            bool is_short) {
+    Moment moment{};
+    if (!read_plain_time(text, length, is_short, moment))
+      return false;
+    if constexpr (Printer::prints) {
+      to_.type(type);
+      to_.name("\"value\"");
+      to_.begin_object();
+      to_.first_name("\"year\"");
+      to_.out().put_number(moment.year);
+      const struct {
+        std::string_view name;
+        uint32_t number;
+      } fields[] = {{"\"month\"", moment.month},
+                    {"\"day\"", moment.day},
+                    {"\"hour\"", moment.hour},
+                    {"\"minute\"", moment.minute},
+                    {"\"second\"", moment.second}};
+      for (const auto &[name, number] : fields) {
+        to_.name(name);
+        to_.out().put_number(number);
+      }
+      to_.name("\"ns\"");
+      to_.out().put('0');
+      to_.name("\"utc\"");
+      to_.out().put("true");
+      to_.end_object();
+      to_.end_object();
+    }
+    return true;
+  }
+
+  // Any other value of a type that has a description: the library says what it
+  // is.
+  bool by_library(uint32_t type, size_t limit) {
+    const size_t end = element_end(octets_, at_, limit, Tags::possible);
+    if (end == nowhere)
+      return refuse(at_, limit, KOVRA_ASN1_TYPE_ANY);
+    const std::unique_ptr<kovra_json, Free> value(
+        kovra_asn1_tojson(octets_ + at_, static_cast<int32_t>(end - at_)));
+    if (value == nullptr)
+      return refuse(at_, end, type);
+    if constexpr (Printer::prints) {
+      int64_t length = 0;
+      const std::unique_ptr<char, Free> text(
+          kovra_json_print(value.get(), to_.indent(), &length));
+      if (text == nullptr)
+        return refuse(at_, end, type);
+      to_.printed({text.get(), static_cast<size_t>(length)});
+    }
+    at_ = end;
+    return true;
+  }
+
+  const uint8_t *octets_;
+  size_t at_;
+  size_t end_;
+  Printer &to_;
+  std::vector<Frame> open_;
+  size_t refused_at_ = 0;
+  size_t refused_limit_ = 0;
+  uint32_t refused_type_ = 0;
+};
 
 } // namespace
 
-Status json(const Options &options, Output &out) {
-    return for_each_item(options, [&](const Item &item, std::string_view file, size_t number, size_t count) {
-        JsonWriter writer(item.octets, options.indent, out);
-        size_t position = 0;
-        do {
-            if (const Fault fault = writer.run(position); fault != nullptr) {
-                report(options, {file, count > 1 ? number : 0, position, fault});
-                return Status::malformed;
-            }
-        } while (position < item.octets.size() && !out.is_closed());
-        return Status::good;
-    });
-}
-
-Status der(const Options &options, Output &out) {
-    Status status = Status::good;
-    std::vector<std::string> files = options.files;
-    if (files.empty())
-        files.emplace_back("-");
-    for (const std::string &file : files) {
-        std::string text;
-        if (!read_file(file, text)) {
-            status = worse(status, Status::io);
-            continue;
-        }
-        std::string octets;
-        for (const std::string_view value : split_json(text)) {
-            const auto begin = static_cast<size_t>(value.data() - text.data());
-            int64_t offset = 0;
-            kovra_json *json = kovra_json_parse(value.data(), static_cast<int64_t>(value.size()), &offset);
-            const bool is_good = json != nullptr && append_encoding(json, octets);
-            if (!is_good) {
-                report(options, {file, 0, begin + static_cast<size_t>(json == nullptr ? offset : 0),
-                                 json == nullptr ? "not JSON" : "not the description of a value"});
-                status = worse(status, Status::malformed);
-            }
-            kovra_json_free(json);
-            if (!is_good)
-                break;
-        }
-        if (options.pem_label.empty()) {
-            out.put(octets);
-            continue;
-        }
-        char *pem =
-            kovra_pemencode(octets.data(), static_cast<int32_t>(octets.size()), options.pem_label.c_str(), nullptr);
-        if (pem != nullptr)
-            out.put(pem);
-        kovra_free(pem);
-    }
-    return status;
+void json(Session &session) {
+  session.for_each_item([&](const Item &item, const std::string &place) {
+    NoWriter nothing;
+    Description check(item, nothing);
+    if (!check.run())
+      return session.report(
+          place, explain(check.refusal(),
+                         {KOVRA_ASN1_TYPE_ANY, check.refused_type()}));
+    Writer writer(session.out, session.options.indent);
+    Description(item, writer).run();
+    session.out.put('\n');
+  });
 }
 
 } // namespace kovra::tool

@@ -1,6 +1,5 @@
-// `types` and `version`: what needs no input.
-
-#include <cstdio>
+// `types`: the type identifiers. Names are those of kovra/asn1_types.h, without
+// KOVRA_ASN1_TYPE_, where it has one.
 
 #include "command.hpp"
 #include "kovra/asn1.h"
@@ -10,9 +9,9 @@ namespace kovra::tool {
 namespace {
 
 struct TypeRow {
-    const char *name;
-    uint8_t tag; // universal; 0: that of the alternative
-    const char *form;
+  std::string_view name;
+  uint8_t tag; // universal; 0: that of the alternative
+  std::string_view form;
 };
 
 // By type identifier.
@@ -230,21 +229,18 @@ static_assert(sizeof rows / sizeof rows[0] == KOVRA_ASN1_TYPE_COUNT);
 
 } // namespace
 
-Status types(const Options &, Output &out) {
-    out.put("type  tag  form         name\n");
-    int number = 0;
-    for (const TypeRow &row : rows) {
-        char line[128];
-        std::snprintf(line, sizeof line, "%4d  %3d  %-11s  %s\n", number++, row.tag, row.form, row.name);
-        out.put(line);
-    }
-    return Status::good;
-}
-
-Status version(const Options &, Output &out) {
-    out.put(kovra_asn1_version());
-    out.put("\nkovra-asn1, the tool of this library\n");
-    return Status::good;
+void types(Session &session) {
+  session.out.put("type  tag  form         name\n");
+  uint32_t number = 0;
+  for (const TypeRow &row : rows) {
+    session.out.put_right(number++, 4);
+    session.out.put_right(row.tag, 5);
+    session.out.fill(' ', 2);
+    session.out.put(row.form);
+    session.out.fill(' ', 13 - row.form.size());
+    session.out.put(row.name);
+    session.out.put('\n');
+  }
 }
 
 } // namespace kovra::tool
