@@ -93,40 +93,6 @@ TEST(Identifier, EveryClassFormAndTagIsWrittenInTheFewestOctetsAndReadBack) {
                   octets("81"));
 }
 
-TEST(Identifier, ReadsLongFormsAsBerHasThem) {
-    struct Row {
-        const char *in;
-        int32_t tag; // -1: refused
-        Codes codes;
-    };
-    const Row rows[] = {
-        {"1F 80 1F |", 31, {}}, // leading 80 accepted
-        {"9F 80 80 80 80 80 80 1F |", 31, {}},
-        {"1F 1E |", -1, {0x10201}}, // below 31 in the long form
-        {"1F 00 |", -1, {0x10201}},
-        {"FF 80 80 00 |", -1, {0x10201}},
-        {"1F 88 80 80 80 | 00", -1, {0x10202}}, // 2^31
-        {"1F 8F FF FF FF | 7F", -1, {0x10202}}, // 2^32 - 1
-        {"1F 90 80 80 80 | 00", -1, {0x10202}}, // 2^32, 0 in 32 bits
-        {"1F FF FF FF FF | FF FF 7F", -1, {0x10202}},
-        {"|", -1, {0x10105}},
-        {"1F |", -1, {0x10105}},
-        {"BF 81 |", -1, {0x10105}},
-    };
-    for (const Row &row : rows) {
-        for (Feed feed : {Feed::memory, Feed::trickle}) {
-            SCOPED_TRACE(row.in);
-            Input input(octets(row.in), feed);
-            Identifier found = decode_identifier(input);
-            EXPECT_EQ(found.result, row.tag >= 0);
-            EXPECT_EQ(found.codes, row.codes);
-            EXPECT_EQ(input.consumed(),
-                      octets(std::string_view(row.in).substr(0, std::string(row.in).find('|'))).size());
-            EXPECT_EQ(found.tag, row.tag >= 0 ? row.tag : -7);
-        }
-    }
-}
-
 TEST(Length, EveryLengthIsWrittenInTheFewestOctetsAndReadBack) {
     for (const Length &length : lengths) {
         std::string expected = octets(length.octets);
@@ -140,45 +106,6 @@ TEST(Length, EveryLengthIsWrittenInTheFewestOctetsAndReadBack) {
         EXPECT_EQ(kovra_asn1_decode_length(input.stream(), &found, &read, nullptr), 1);
         EXPECT_EQ(found, length.length);
         EXPECT_EQ(read, size_of(expected));
-    }
-}
-
-TEST(Length, ReadsLongFormsAsBerHasThem) {
-    struct Row {
-        std::string in;
-        int32_t length; // -2: refused
-        size_t consumed;
-        Codes codes;
-    };
-    const Row rows[] = {
-        {octets("81 05"), 5, 2, {}},
-        {octets("81 00"), 0, 2, {}},
-        {octets("85 00 00 00 00 10"), 16, 6, {}},
-        {octets("84 00 00 00 7F"), 127, 5, {}},
-        {"\xFE" + std::string(125, '\0') + "\x09", 9, 127, {}}, // 126 octets
-        {"\xFE" + std::string(122, '\0') + octets("7F FF FF FF"), 2147483647, 127, {}},
-        {octets("84 80 00 00 00"), -2, 4, {0x10202}},    // 2^31
-        {octets("84 FF FF FF FF"), -2, 4, {0x10202}},    // 2^32 - 1
-        {octets("85 01 00 00 00 00"), -2, 5, {0x10202}}, // 2^32, 0 in 32 bits
-        {octets("88 7F FF FF FF FF FF FF FF"), -2, 5, {0x10202}},
-        {octets("FF"), -2, 1, {0x10203}},
-        {octets("82 01"), -2, 2, {0x10105}},
-        {"", -2, 0, {0x10105}},
-    };
-    for (const Row &row : rows) {
-        for (Feed feed : {Feed::memory, Feed::trickle}) {
-            SCOPED_TRACE(hex(row.in));
-            Input input(row.in, feed);
-            Errors ctx(kovra_err_ctx_new());
-            int32_t length = -7, read = -7;
-            EXPECT_EQ(kovra_asn1_decode_length(input.stream(), &length, &read, ctx.get()), row.length != -2);
-            EXPECT_EQ(Codes(ctx.get()), row.codes);
-            EXPECT_EQ(input.consumed(), row.consumed);
-            if (row.length != -2) {
-                EXPECT_EQ(length, row.length);
-                EXPECT_EQ(static_cast<size_t>(read), row.consumed);
-            }
-        }
     }
 }
 

@@ -117,42 +117,7 @@ TEST(String, IsReadInPieces) {
     expect_pieces(decoded(23, "00 00"), "", kovra_asn1_any_getcontent);
 }
 
-TEST(String, HoldsOneObject) {
-    struct Row {
-        const char *octets;
-        uint32_t type;
-        Codes codes;
-    };
-    const Row rows[] = {{"02 01 05", 2, {}},
-                        {"02 02 00 05", 2, {0x102e3}},
-                        {"30 00", 24, {}},
-                        {"05 00", 5, {}},
-                        {"30 00 05 00", 24, {0x1027f}},
-                        {"02 01 05 00", 2, {0x1027f}},
-                        {"02 01 05", 4, {0x1020a, 0x10219}},
-                        {"02 01", 2, {0x10105, 0x10210}},
-                        {"", 2, {0x10105, 0x102e5, 0x10210}},
-                        {"02 01 05", 208, {0x1026b, 0x1026b}},
-                        {"02 01 05", 8, {0x1026d, 0x10217}}};
-    for (const Row &row : rows) {
-        std::string data = octets(row.octets);
-        Value in_octets = string(data), in_bits(3, kovra_asn1_bitstring_new(0, data.data(), size_of(data)));
-        for (int i = 0; i < 4; ++i) { // each twice: the value is rewound
-            SCOPED_TRACE(row.octets);
-            Errors ctx(kovra_err_ctx_new());
-            kovra_asn1_value *out = nullptr;
-            int32_t result = i < 2 ? kovra_asn1_octetstring_getobject(in_octets.get(), row.type, &out, ctx.get())
-                                   : kovra_asn1_bitstring_getobject(in_bits.get(), row.type, &out, ctx.get());
-            Value object(row.type, out);
-            EXPECT_EQ(result, row.codes.empty() || row.codes[0] == 0x102e3);
-            EXPECT_EQ(Codes(ctx.get()), row.codes);
-            if (result == 1) {
-                EXPECT_EQ(encode(row.type, object.get()).octets, data);
-            } else {
-                EXPECT_FALSE(object);
-            }
-        }
-    }
+TEST(String, HoldsNoObjectForNull) {
     Errors ctx(kovra_err_ctx_new());
     kovra_asn1_value *out = nullptr;
     EXPECT_EQ(kovra_asn1_octetstring_getobject(nullptr, 2, &out, ctx.get()), 0);
