@@ -86,6 +86,28 @@ template <class Make, class... Get> std::string object_of(const std::string &in,
     return result;
 }
 
+std::string sources_of(const std::string &in) {
+    size_t digits = in.find_first_not_of("0123456789");
+    std::string results[2];
+    for (Feed feed : {Feed::memory, Feed::trickle}) {
+        Input input(digits == in.npos ? "" : octets(in.substr(digits)), feed);
+        Errors ctx(kovra_err_ctx_new());
+        kovra_asn1_value *out = nullptr;
+        EXPECT_EQ(kovra_asn1_decode(input.stream(), static_cast<uint32_t>(std::stoul(in)), &out, nullptr, ctx.get()),
+                  0);
+        std::string &sources = results[feed == Feed::trickle];
+        const char *source = "", *message = "";
+        for (int32_t i = 0, line = 0; kovra_err_ctx_getentry(ctx.get(), i, &source, &line, nullptr, &message) == 1;
+             ++i) {
+            sources += (i == 0 ? "" : " ") + std::string(source);
+            EXPECT_GT(line, 0);
+            EXPECT_STRNE(message, "");
+        }
+    }
+    EXPECT_EQ(results[0], results[1]);
+    return results[0];
+}
+
 TEST(Tables, Calls) {
     auto as_any = [](auto, const std::string &data) { return decode(23, data).value; };
     auto as_string = [](auto get, const std::string &data) {
@@ -164,6 +186,7 @@ TEST(Tables, Calls) {
         {"any_getobject", [&](const std::string &in) { return object_of(in, as_any, kovra_asn1_any_getobject); }},
         {"any_contenttoobject",
          [&](const std::string &in) { return object_of(in, as_any, kovra_asn1_any_contenttoobject); }},
+        {"sources", sources_of},
         {"any_toobject", [&](const std::string &in) { return object_of(in, as_any, kovra_asn1_any_toobject); }},
     };
     for (std::vector<std::string> row : table("calls.txt")) {
