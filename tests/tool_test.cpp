@@ -1,241 +1,442 @@
-// The tool as a user meets it: the built program over files and pipes.
+// The tool kovra-asn1, run as a process.
 
-#include <gtest/gtest.h>
+#include "tests/asn1_testing.hpp"
 
-#if defined(KOVRA_TOOL_PATH) && defined(__unix__)
+#if defined(KOVRA_TOOL_PATH) && !defined(_WIN32)
 
 #include <sys/wait.h>
-#include <unistd.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <iterator>
-#include <string>
-#include <vector>
-
-#include "kovra/asn1.h"
-#include "kovra/util.h"
+#include <random>
 
 namespace {
 
 namespace fs = std::filesystem;
+using kovra::test::octets;
+using kovra::test::repeated;
 
-std::string read_file(const fs::path &path) {
+std::string read(const fs::path &path) {
     std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::string from_hex(const std::string &hex) {
-    int32_t length = 0;
-    void *octets = kovra_hexdecode(hex.data(), static_cast<int64_t>(hex.size()), &length);
-    std::string text(static_cast<const char *>(octets), static_cast<size_t>(length));
-    kovra_free(octets);
-    return text;
-}
+struct Result {
+    int code = -1;
+    std::string out;
+    std::string error;
+};
 
 class Tool : public testing::Test {
 protected:
     void SetUp() override {
-        folder_ = fs::temp_directory_path() / ("kovra-tool-" + std::to_string(::getpid()) + "-" +
-                                               testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::create_directories(folder_);
+        std::string pattern = (fs::temp_directory_path() / "kovra-tool-XXXXXX").string();
+        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+        directory_ = pattern;
     }
-    void TearDown() override { fs::remove_all(folder_); }
+    void TearDown() override { fs::remove_all(directory_); }
 
-    std::string put(const std::string &name, const std::string &content) {
-        std::ofstream(folder_ / name, std::ios::binary) << content;
-        return (folder_ / name).string();
+    void file(const std::string &name, std::string_view content) const {
+        std::ofstream(directory_ / name, std::ios::binary) << content;
+    }
+    [[nodiscard]] std::string content(const std::string &name) const { return read(directory_ / name); }
+
+    // Runs the tool in the test's directory with `input` as standard input.
+    [[nodiscard]] Result run(const std::string &arguments, std::string_view input = "",
+                             const std::string &output = "> out") const {
+        file("in", input);
+        file("out", "");
+        const std::string command = "cd " + directory_.string() + " && { " KOVRA_TOOL_PATH " " + arguments +
+                                    "; echo $? > code; } < in 2> err " + output;
+        EXPECT_EQ(std::system(command.c_str()), 0);
+        return {std::atoi(content("code").c_str()), content("out"), content("err")};
     }
 
-    // Runs `kovra-asn1 arguments` through the shell in the folder; what it wrote is in `out` and `err`.
-    int run(const std::string &arguments) {
-        const std::string command =
-            "cd '" + folder_.string() + "' && { '" KOVRA_TOOL_PATH "' " + arguments + "; } >out.txt 2>err.txt";
-        const int status = std::system(command.c_str());
-        out = read_file(folder_ / "out.txt");
-        err = read_file(folder_ / "err.txt");
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    // What `der` makes of what `json` prints.
+    [[nodiscard]] std::string there_and_back(std::string_view input, const std::string &style) const {
+        const Result json = run("json " + style, input);
+        const Result der = run("der", json.out);
+        EXPECT_EQ(json.code, 0) << json.error;
+        EXPECT_EQ(der.code, 0) << der.error;
+        return der.out;
     }
 
-    fs::path folder_;
-    std::string out;
-    std::string err;
+private:
+    fs::path directory_;
 };
 
-std::vector<fs::path> examples() {
-    std::vector<fs::path> found;
-    for (const auto &entry : fs::directory_iterator(KOVRA_SOURCE_DIR "/examples"))
-        if (entry.path().extension() == ".der" || entry.path().extension() == ".pem")
-            found.push_back(entry.path());
-    return found;
+std::string taken(char *text, int64_t length) {
+    std::string result(text != nullptr ? text : "", text != nullptr ? static_cast<size_t>(length) : 0);
+    kovra_free(text);
+    return result;
+}
+
+std::string pem(std::string_view data, const char *label) {
+    int64_t length = 0;
+    char *text = kovra_pemencode(data.data(), static_cast<int32_t>(data.size()), label, &length);
+    return taken(text, length);
+}
+
+std::string base64(std::string_view data) {
+    int64_t length = 0;
+    char *text = kovra_base64encode(data.data(), static_cast<int32_t>(data.size()), 64, &length);
+    return taken(text, length);
+}
+
+// What the library prints for an element; nothing when it has no description.
+std::string description(std::string_view element, int32_t indent) {
+    kovra_json *value = kovra_asn1_tojson(element.data(), static_cast<int32_t>(element.size()));
+    int64_t length = 0;
+    char *printed = kovra_json_print(value, indent, &length);
+    const std::string text = taken(printed, length);
+    kovra_json_free(value);
+    return text.empty() ? text : text + "\n";
+}
+
+// A SEQUENCE whose length takes two octets, whatever it is.
+std::string sequence(std::string_view content) {
+    const size_t length = content.size();
+    return octets("3082") + static_cast<char>(length >> 8) + static_cast<char>(length) + std::string(content);
+}
+
+// Elements in DER, of every kind that the description tells apart.
+constexpr std::string_view elements[] = {
+    "01 01 FF",
+    "01 01 00",
+    "02 01 05",
+    "02 09 FF0102030405060708",
+    "03 03 05 7FE0",
+    "03 01 00",
+    "04 00",
+    "04 03 414243",
+    "05 00",
+    "06 09 2A864886F70D01010B",
+    "06 08 69 85C69DB0B6C51A", // an arc of 49 bits
+    "0A 01 07",
+    "0C 08 22 C3A9 F09F9880 5C", // a quotation mark, characters of two and four octets, a backslash
+    "0C 03 61 0A 00",
+    "0C 02 C328", // ill-formed
+    "12 04 31322033",
+    "13 03 412042",
+    "13 01 40", // outside its repertoire
+    "14 03 E04142",
+    "16 04 41407E7F",
+    "17 0D 3236303232383132333435365A",
+    "17 0D 3236303232383132333435365A",
+    "18 0F 32303234303232393233353935395A", // a leap day
+    "18 13 32303234303232393233353935392E3132355A",
+    "1A 04 41405C22",
+    "1B 01 41",
+    "1C 08 00000041 000303B1",
+    "1C 04 0011FFFF", // no character
+    "1E 04 0041 0431",
+    "1E 02 D800", // half a pair
+    "0D 01 03",
+    "30 00",
+    "31 00",
+    "30 05 30 03 02 01 01",
+    "A0 03 02 01 07",
+    "80 01 07",
+    "A2 06 02 01 01 02 01 02", // two elements inside: no explicit tag
+    "A0 00",
+    "7F 20 02 05 00",
+    "FF 87 FF FF FF 7F 02 05 00", // the largest tag number
+};
+
+// The same and more in BER.
+constexpr std::string_view ber_elements[] = {
+    "01 01 01",
+    "30 80 02 01 05 00 00",
+    "A0 80 02 01 05 00 00",
+    "24 80 04 01 41 24 03 04 01 42 00 00",
+    "23 08 03 02 00 41 03 02 04 50",
+    "2C 05 04 03 C3A9 41",
+    "17 11 3236303232383132333435362B30313330", // with an offset
+    "17 0B 323630323238313233345A",
+    "18 0A 32303234303232393233",
+    "30 80 31 80 A1 80 00 00 00 00 00 00",
+    "30 84 00 00 00 02 05 00",
+    "7F 80 20 02 05 00",
+};
+
+std::string all_elements() {
+    std::string all;
+    for (const std::string_view element : elements)
+        all += octets(element);
+    return all;
 }
 
 TEST_F(Tool, JsonAndDerAreInverse) {
-    std::vector<std::string> inputs = {
-        from_hex("3000"),
-        from_hex("3180310002010500"
-                 "00"),
-        from_hex("0101FF02010504024142050006032A0304"),
-        from_hex("A003020107800107A1800500"
-                 "0000"),
-        from_hex("7F8148023000DF1F00"),
-        from_hex("1E0200411C04000000411303414243"),
-        from_hex("170D3132313132303038333030305A180F32303132313132303038333030305A"),
+    const std::string all = all_elements();
+    for (const char *style : {"", "--compact", "--indent 5"})
+        EXPECT_EQ(there_and_back(all, style), all) << style;
+    const std::string nested = sequence(all + all) + sequence(sequence(all + all));
+    EXPECT_EQ(there_and_back(nested, ""), nested);
+}
+
+TEST_F(Tool, JsonIsWhatTheLibraryPrints) {
+    for (const int32_t indent : {0, 2, 16}) {
+        std::string expected;
+        std::string input;
+        for (const auto &list : {std::vector(std::begin(elements), std::end(elements)),
+                                 std::vector(std::begin(ber_elements), std::end(ber_elements))})
+            for (const std::string_view element : list) {
+                // Deep enough to be at the end of the indentation, too.
+                for (const size_t depth : {0, 1, 40, 100}) {
+                    std::string wrapped = octets(element);
+                    for (size_t i = 0; i < depth; ++i)
+                        wrapped = sequence(wrapped);
+                    input += wrapped;
+                    expected += description(wrapped, indent);
+                }
+            }
+        const Result result = run("json --indent " + std::to_string(indent), input);
+        EXPECT_EQ(result.code, 0) << result.error;
+        EXPECT_TRUE(result.out == expected) << indent;
+    }
+}
+
+// Each mutation stands in a PEM block of its own: those without a description are reported, the others printed.
+TEST_F(Tool, MutationsAreJudgedAsByTheLibrary) {
+    std::mt19937 random(20240229);
+    const std::string nested = all_elements() + octets(ber_elements[1]) + octets(ber_elements[3]);
+    std::string input;
+    std::string expected;
+    long refused = 0;
+    for (int i = 0; i < 4000; ++i) {
+        std::string mutated = i % 4 == 0 ? sequence(nested) : octets(elements[random() % std::size(elements)]);
+        if (i % 4 == 1)
+            mutated = octets(ber_elements[random() % std::size(ber_elements)]);
+        for (size_t count = 1 + random() % 2; count > 0; --count)
+            mutated[random() % mutated.size()] ^=
+                static_cast<char>(random() % 3 == 0 ? random() : 1U << (random() % 8));
+        mutated = sequence(mutated);
+        input += pem(mutated, "DATA");
+        const std::string text = description(mutated, 2);
+        expected += text;
+        refused += text.empty() ? 1 : 0;
+    }
+    const Result result = run("json --quiet", input);
+    EXPECT_TRUE(result.out == expected);
+    EXPECT_EQ(std::count(result.error.begin(), result.error.end(), '\n'), refused);
+    EXPECT_EQ(result.code, 1);
+    const Result dumped = run("dump", input);
+    EXPECT_LE(dumped.code, 1);
+}
+
+TEST_F(Tool, ExamplesComeBackIdentical) {
+    for (const auto &entry : fs::directory_iterator(KOVRA_SOURCE_DIR "/examples")) {
+        const fs::path &path = entry.path();
+        if (path.extension() != ".der" && path.extension() != ".pem")
+            continue;
+        EXPECT_EQ(run("dump " + path.string()).code, 0) << path;
+        const Result json = run("json " + path.string());
+        EXPECT_EQ(json.code, 0) << path << json.error;
+        // BER becomes the DER of the same value, which becomes itself.
+        const std::string der = run("der", json.out).out;
+        EXPECT_EQ(there_and_back(der, "--compact"), der) << path;
+        const std::string original = read(path);
+        const bool is_der = path.extension() == ".der" && original.find(octets("30 80")) != 0;
+        EXPECT_TRUE(!is_der || der == original) << path;
+    }
+}
+
+TEST_F(Tool, FormsAreRecognisedByTheirContent) {
+    const std::string element = sequence(octets("0C 04 54657374 02 01 05"));
+    const std::string expected = description(element, 2);
+    const struct {
+        const char *name;
+        std::string input;
+    } forms[] = {
+        {"octets", element},
+        {"PEM", "some words\r\n" + pem(element, "ANY LABEL")},
+        {"PEM after a byte order mark", "\xEF\xBB\xBF" + pem(element, "X")},
+        {"base64", base64(element)},
+        {"base64 on one line", base64(element).substr(0, base64(element).find('\n'))},
+        {"hexadecimal", "30820009 0C0454657374020105\n"},
+        {"hexadecimal with colons", "30:82:00:09:0c:04\n54:65:73:74:02:01:05"},
     };
-    for (const auto &path : examples())
-        if (path.extension() == ".der")
-            inputs.push_back(read_file(path));
-    for (const std::string &input : inputs) {
-        put("in.der", input);
-        for (const char *form : {"", "--compact", "--indent 7"}) {
-            ASSERT_EQ(run(std::string("json in.der --out j.json ") + form), 0) << err;
-            ASSERT_EQ(run("der j.json --out back.der"), 0) << err;
-            const std::string back = read_file(folder_ / "back.der");
-            if (back == input)
-                continue;
-            // BER comes back as DER, which then stays.
-            EXPECT_NE(input.find('\x80'), std::string::npos);
-            put("in2.der", back);
-            ASSERT_EQ(run("json in2.der --out j2.json"), 0);
-            ASSERT_EQ(run("der j2.json --out back2.der"), 0);
-            EXPECT_EQ(read_file(folder_ / "back2.der"), back);
+    for (const auto &[name, input] : forms) {
+        const Result result = run("json", input);
+        EXPECT_EQ(result.out, expected) << name;
+        EXPECT_EQ(result.code, 0) << name << result.error;
+    }
+    // A message that has PEM inside is not PEM.
+    const std::string holding = octets("04 82 00") + static_cast<char>(pem(element, "X").size()) + pem(element, "X");
+    EXPECT_EQ(run("json", holding).out, description(holding, 2));
+}
+
+TEST_F(Tool, EveryItemIsShown) {
+    const std::string one = octets("02 01 01");
+    const std::string two = octets("30 80 05 00 00 00");
+    file("a", pem(one, "FIRST") + "between\n" + pem(one + two, "SECOND"));
+    file("b", one + two);
+    const Result dumped = run("dump a b");
+    EXPECT_EQ(dumped.code, 0);
+    for (const char *heading :
+         {"# a[1] FIRST\n", "# a[2] SECOND\n", "# a[3] SECOND\n", "# b[1]\n     0", "# b[2]\n     3"})
+        EXPECT_NE(dumped.out.find(heading), std::string::npos) << heading;
+    EXPECT_EQ(run("dump", one).out.find('#'), std::string::npos);
+    EXPECT_EQ(run("json a b").out,
+              repeated(description(one, 2), 2) + description(two, 2) + description(one, 2) + description(two, 2));
+    // A block that is damaged takes nothing with it.
+    const Result damaged = run("json", pem(one, "A") + "-----BEGIN B-----\n?\n-----END B-----\n" + pem(two, "C"));
+    EXPECT_EQ(damaged.out, description(one, 2) + description(two, 2));
+    EXPECT_EQ(damaged.error.find("kovra-asn1: -[2]: octet 0: "), 0U) << damaged.error;
+    EXPECT_EQ(damaged.code, 1);
+}
+
+TEST_F(Tool, DumpPrintsColumnsAndValues) {
+    const struct {
+        std::string_view input;
+        std::string expected;
+    } rows[] = {
+        {"02 02 FF7F", "     0   2      2  INTEGER                        -129\n"},
+        {"06 03 550403", "     0   2      3  OBJECT IDENTIFIER              2.5.4.3 commonName\n"},
+        {"17 0D 3530303232383132333435365A",
+         "     0   2     13  UTCTime                        1950-02-28 12:34:56 UTC\n"},
+        {"17 11 3236303232383132333435362B30313330",
+         "     0   2     17  UTCTime                        2026-02-28 11:04:56 UTC\n"},
+        {"18 12 32303234303232393233353935392E31325A",
+         "     0   2     18  GeneralizedTime                2024-02-29 23:59:59.12 UTC\n"},
+        {"17 01 5A", "     0   2      1  UTCTime                        \"Z\" (not a time)\n"},
+        {"04 04 30 02 05 00", "     0   2      4  OCTET STRING                   contains an element\n"
+                              "     2   2      2    SEQUENCE\n"
+                              "     4   2      0      NULL\n"},
+        {"04 04 30 02 05 01", "     0   2      4  OCTET STRING                   30020501\n"},
+        {"03 03 00 05 00", "     0   2      3  BIT STRING                     contains an element\n"
+                           "     3   2      0    NULL\n"},
+        {"03 03 01 05 00", "     0   2      3  BIT STRING                     (unused bits: 1) 0500\n"},
+        {"24 80 04 01 00 00 00", "     0   2  indef  OCTET STRING (constructed)\n"
+                                 "     2   2      1    OCTET STRING                 00\n"
+                                 "     5   2      0  end-of-contents\n"},
+        {"7F 21 03 5F 1F 00", "     0   3      3  [APPLICATION 33]\n"
+                              "     3   3      0    [APPLICATION 31]\n"},
+        // What a terminal would act on: escape, delete, an 8-bit control sequence, a turn of direction; ill-formed.
+        {"0C 0C 1B 7F 0A C29B E280AE 22 C3A9 FF",
+         R"(     0   2     12  UTF8String                     "\x1b\x7f\n\u{9b}\u{202e}\"é\xff")"
+         "\n"},
+        {"1E 04 001B 0431", "     0   2      4  BMPString                      \"\\x1bб\"\n"},
+    };
+    for (const auto &[input, expected] : rows)
+        EXPECT_EQ(run("dump", octets(input)).out, expected) << input;
+    EXPECT_EQ(run("dump --color always", octets("30 00")).out.find('\x1B'), 19U);
+    EXPECT_EQ(run("dump --color auto", octets("30 00")).out.find('\x1B'), std::string::npos);
+}
+
+TEST_F(Tool, FailuresAreToldInOneForm) {
+    file("bad", octets("30 0F 17 0D 3939303233303132303030305A"));
+    const Result result = run("json bad");
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(result.error, "kovra-asn1: bad[1]: octet 17: decode utctime fail (0x1023b)\n"
+                            "  0x102ec encode other name forms fail  ASN1_Time\n"
+                            "  0x1023b decode utctime fail           kovra-asn1\n");
+    const struct {
+        std::string_view input;
+        const char *place; // and code, of dump
+        const char *code;
+    } rows[] = {
+        {"", "octet 0", "(0x102e5)"},
+        {"30 05 02 05 01", "octet 5", "(0x10105)"},                   // cut off
+        {"30 04 02 03 01 02 02 01 05", "octet 6", "(0x10105)"},       // reaches beyond the element it stands in
+        {"30 03 02 01 05 30 04 00 00 05 00", "octet 7", "(0x1020a)"}, // end-of-contents in a definite length
+        {"1F 05 00", "octet 2", "(0x102e5)"},                         // a low tag number in the long form
+        {"30 FF", "octet 2", "(0x102e7)"},
+        {"30 80 02 01 05", "octet 5", "(0x102e5)"}, // no end-of-contents
+    };
+    for (const auto &[input, place, code] : rows)
+        for (const char *command : {"dump", "json"}) {
+            const Result refused = run(std::string(command) + " --quiet", octets(input));
+            EXPECT_EQ(refused.code, 1) << input;
+            EXPECT_NE(refused.error.find(std::string(": ") + place + ": "), std::string::npos)
+                << input << refused.error;
+            EXPECT_NE(refused.error.find(code), std::string::npos) << input << refused.error;
+            EXPECT_EQ(std::count(refused.error.begin(), refused.error.end(), '\n'), 1) << refused.error;
         }
+    for (const char *text : {"", "{", "[]", "{\"type\":\"INTEGER\"}", "{\"type\":\"NULL\"} x"}) {
+        const Result refused = run("der", text);
+        EXPECT_EQ(refused.code, 1) << text;
+        EXPECT_EQ(refused.error.find("kovra-asn1: -["), 0U) << text << refused.error;
     }
 }
 
-// What is printed on the way is what the library's tree prints.
-TEST_F(Tool, JsonIsTheLibrarysDescription) {
-    std::vector<std::string> inputs = {from_hex("30803080A0030201070000A0800500000000"
-                                                "00"),
-                                       from_hex("3100"), from_hex("3013170D3233303233313030303030305A1303412A42"),
-                                       from_hex("8003020105"), from_hex("24800401410000")};
-    for (const auto &path : examples())
-        if (path.extension() == ".der")
-            inputs.push_back(read_file(path));
-    for (const std::string &input : inputs) {
-        put("in.der", input);
-        const int status = run("json in.der");
-        kovra_json *json = kovra_asn1_tojson(input.data(), static_cast<int32_t>(input.size()));
-        EXPECT_EQ(status, json != nullptr ? 0 : 1);
-        if (json != nullptr) {
-            char *text = kovra_json_print(json, 2, nullptr);
-            EXPECT_EQ(out, std::string(text) + "\n");
-            kovra_free(text);
-        }
-        kovra_json_free(json);
-    }
-}
-
-TEST_F(Tool, RecognisesFormsByContent) {
-    const std::string octets = from_hex("3003020105");
-    put("a.pem", "text before\n-----BEGIN ONE-----\nMAMCAQU=\n-----END ONE-----\n-----BEGIN "
-                 "TWO-----\r\nBQA=\r\n-----END TWO-----");
-    put("b.txt", "MAMC\n AQU=\n");
-    put("c.bin", "30:03:02 0105\n");
-    put("d.pem", octets);
-    const std::string tree = "       0  2        3  SEQUENCE\n       2  2        1    INTEGER 5\n";
-    EXPECT_EQ(run("dump a.pem"), 0);
-    EXPECT_EQ(out, "# a.pem[1] ONE\n" + tree + "# a.pem[2] TWO\n       0  2        0  NULL\n");
-    for (const char *name : {"b.txt", "c.bin", "d.pem"}) {
-        EXPECT_EQ(run(std::string("dump ") + name), 0) << err;
-        EXPECT_EQ(out, tree) << name;
-        EXPECT_EQ(run(std::string("dump < ") + name), 0) << err;
-        EXPECT_EQ(out, tree) << name;
-    }
-    EXPECT_EQ(run("dump d.pem b.txt"), 0);
-    EXPECT_EQ(out, "# d.pem[1] \n" + tree + "# b.txt[1] \n" + tree);
-}
-
-TEST_F(Tool, TellsTroubleInOneLineAndWithItsExitCode) {
-    put("good.der", from_hex("0500"));
-    put("bad.der", from_hex("30030205"));
-    put("eoc.der", from_hex("30020000"));
-    put("two.pem", "-----BEGIN A-----\nBQA=\n-----END A-----\n-----BEGIN B-----\nBQ==\n-----END B-----\n");
+TEST_F(Tool, ExitCodesTellTheWorst) {
+    file("good", octets("05 00"));
+    file("bad", octets("05 01"));
     const struct {
         const char *arguments;
-        int status;
-        const char *message;
+        int code;
     } rows[] = {
-        {"dump bad.der good.der", 1, "kovra-asn1: bad.der: octet 0: the octets end within an element\n"},
-        {"json eoc.der", 1, "kovra-asn1: eoc.der: octet 2: end-of-contents where a value should stand\n"},
-        {"dump two.pem", 1, "kovra-asn1: two.pem[2]: octet 0: the octets end within an element\n"},
-        {"dump none.der bad.der", 3, "kovra-asn1: none.der: No such file or directory\n"},
-        {"dump .", 3, "kovra-asn1: .: is a directory\n"},
-        {"der good.der", 1, "kovra-asn1: good.der: octet 0: not JSON\n"},
-        {"dump good.der > /dev/full", 3, "kovra-asn1: output: No space left on device\n"},
+        {"dump good", 0},
+        {"json good good", 0},
+        {"json bad good", 1},
+        {"json good missing bad", 3},
+        {"dump .", 3},
+        {"types", 0},
+        {"version", 0},
+        {"--help", 0},
+        {"", 2},
+        {"nothing", 2},
+        {"json --indent x", 2},
+        {"json --indent 2 --compact good", 2},
+        {"dump --colour x", 2},
+        {"types good", 2},
+        {"json good --out missing/out", 3},
     };
-    for (const auto &[arguments, status, message] : rows) {
-        EXPECT_EQ(run(arguments), status) << arguments;
-        EXPECT_NE(err.find(message), std::string::npos) << arguments << ": " << err;
-    }
-    for (const char *arguments : {"", "bogus", "dump --color pink good.der", "types good.der"})
-        EXPECT_EQ(run(arguments), 2) << arguments;
-    for (const char *arguments : {"--help", "dump --help", "types", "version"})
-        EXPECT_EQ(run(arguments), 0) << arguments;
-    EXPECT_NE(out.find(kovra_asn1_version()), std::string::npos);
-    // A reader that goes away ends the output quietly.
-    std::string nulls;
-    for (int i = 0; i < 30000; ++i)
-        nulls += from_hex("0500");
-    put("long.der", from_hex("3082EA60") + nulls);
-    EXPECT_EQ(run("dump long.der | head -n 1"), 0);
-    EXPECT_EQ(err, "");
+    for (const auto &[arguments, code] : rows)
+        EXPECT_EQ(run(arguments).code, code) << arguments;
+    EXPECT_EQ(run("json bad missing good --quiet").out, description(octets("05 00"), 2));
+    EXPECT_EQ(run("json --compact good --out there").out, "");
+    EXPECT_EQ(content("there"), description(octets("05 00"), 0));
 }
 
-TEST_F(Tool, DumpShowsValuesSafely) {
-    const struct {
-        const char *hex;
-        const char *line;
-    } rows[] = {
-        {"0206800000000001", "INTEGER -140737488355327"},
-        {"0209010000000000000000", "INTEGER 010000000000000000"},
-        {"0C051B5B306D22", "UTF8String \"\\x1b[0m\\\"\""},
-        {"0C03E2808E", "UTF8String \"\xE2\x80\x8E\""},
-        {"0C03E280AE", "UTF8String \"\\xe2\\x80\\xae\""},
-        {"0C02C29B", "UTF8String \"\\xc2\\x9b\""},
-        {"1303FF4180", "PrintableString \"\\xffA\\x80\""},
-        {"1E0400E9D800", "BMPString 00e9d800"},
-        {"1E0200E9", "BMPString \"\xC3\xA9\""},
-        {"0603550403", "OBJECT IDENTIFIER 2.5.4.3 (commonName)"},
-        {"0603808001", "OBJECT IDENTIFIER 808001"},
-        {"040430020500",
-         "OCTET STRING (encapsulates)\n       2  2        2    SEQUENCE\n       4  2        0      NULL"},
-        {"030500300205"
-         "00",
-         "BIT STRING (encapsulates, 0 unused bits)\n       3  2        2    SEQUENCE"},
-        {"03020780", "BIT STRING (1 bits) 80"},
-        {"8203666F6F", "[2] \"foo\""},
-        {"170B3132313132303038333 05A", "UTCTime \"1211200830Z\" (2012-11-20 08:30:00 UTC)"},
-        {"30800000", "SEQUENCE\n       2  2        0  end-of-contents"},
-    };
-    for (const auto &[hex, line] : rows) {
-        std::string digits;
-        for (const char *digit = hex; *digit != '\0'; ++digit)
-            if (*digit != ' ')
-                digits += *digit;
-        put("in.der", from_hex(digits));
-        EXPECT_EQ(run("dump in.der"), 0) << err;
-        EXPECT_NE(out.find(line), std::string::npos) << hex << ":\n" << out;
+TEST_F(Tool, OutputThatIsFullOrClosedEnds) {
+    const std::string large = repeated(octets("30 03 02 01 05"), 100000);
+    file("large", large);
+    for (const char *command : {"dump", "json", "types", "version"}) {
+        const std::string arguments = std::string(command) + (command[0] == 'd' || command[0] == 'j' ? " large" : "");
+        const Result full = run(arguments, "", "> /dev/full");
+        EXPECT_EQ(full.code, 3) << command;
+        EXPECT_EQ(full.error, "kovra-asn1: standard output: No space left on device\n") << command;
+        const Result closed = run(arguments, "", "| head -c 1 > /dev/null");
+        EXPECT_EQ(closed.code, 0) << command;
+        EXPECT_EQ(closed.error, "") << command;
     }
-    put("null.der", from_hex("0500"));
-    EXPECT_EQ(run("dump --color always null.der"), 0);
-    EXPECT_NE(out.find("\x1b[36mNULL\x1b[0m"), std::string::npos);
 }
 
-TEST_F(Tool, DepthOfAMillionIsLinear) {
-    constexpr int depth = 1000000;
-    std::string opening;
-    for (int i = 0; i < depth; ++i)
-        opening += "\x30\x80";
-    put("open.der", opening);
-    EXPECT_EQ(run("dump open.der --out /dev/null"), 1);
-    EXPECT_EQ(run("json open.der --out /dev/null"), 1);
-    put("deep.der", opening + std::string(2 * depth, '\0'));
-    EXPECT_EQ(run("dump deep.der --out /dev/null"), 0) << err;
-    EXPECT_EQ(run("json --compact deep.der --out j.json"), 0) << err;
-    EXPECT_EQ(run("der j.json --out deep2.der"), 0) << err;
-    EXPECT_GT(fs::file_size(folder_ / "deep2.der"), static_cast<uintmax_t>(2 * depth));
+TEST_F(Tool, DeepNestsTakeLinearTime) {
+    constexpr size_t depth = 1000000;
+    const auto begin = std::chrono::steady_clock::now();
+    for (const char *level : {"30 80", "A0 80", "24 80"}) {
+        const std::string input = repeated(octets(level), depth) + repeated(octets("00 00"), depth);
+        EXPECT_EQ(run("dump --out /dev/null", input).code, 0) << level;
+        EXPECT_EQ(run("json --compact", input).out, description(input, 0)) << level;
+    }
+    // Of definite length, with an OCTET STRING at every other level.
+    std::string reversed;
+    for (size_t i = 0; i < 20000; ++i) {
+        const size_t length = reversed.size();
+        reversed += static_cast<char>(length);
+        reversed += static_cast<char>(length >> 8);
+        reversed += static_cast<char>(length >> 16);
+        reversed += octets(i % 2 == 0 ? "83 04" : "83 30");
+    }
+    const std::string input(reversed.rbegin(), reversed.rend());
+    const Result dumped = run("dump", input);
+    EXPECT_EQ(dumped.code, 0) << dumped.error;
+    EXPECT_EQ(std::count(dumped.out.begin(), dumped.out.end(), '\n'), 20000);
+    EXPECT_EQ(run("json --compact", input).out, description(input, 0));
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(120));
+}
+
+TEST_F(Tool, TypesListsEveryRow) {
+    const std::string out = run("types").out;
+    EXPECT_EQ(std::count(out.begin(), out.end(), '\n'), 1 + KOVRA_ASN1_TYPE_COUNT);
+    EXPECT_NE(out.find("\n  39   16  constructed  CERTIFICATE\n"), std::string::npos);
+    EXPECT_NE(out.find("\n 207 "), std::string::npos);
+    EXPECT_EQ(run("version").out, std::string(kovra_asn1_version()) + "\n");
 }
 
 } // namespace

@@ -14,120 +14,106 @@ namespace {
 // Names of files and labels can hold anything; a terminal gets no control
 // characters from them.
 std::string harmless(std::string text) {
-  std::replace_if(
-      text.begin(), text.end(),
-      [](char c) { return static_cast<uint8_t>(c) < 0x20 || c == 0x7F; }, '?');
-  return text;
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return static_cast<uint8_t>(c) < 0x20 || c == 0x7F; }, '?');
+    return text;
 }
 
 std::string hexadecimal(int32_t code) {
-  char text[16];
-  std::snprintf(text, sizeof text, "0x%x", static_cast<unsigned>(code));
-  return text;
+    char text[16];
+    std::snprintf(text, sizeof text, "0x%x", static_cast<unsigned>(code));
+    return text;
 }
 
 template <class T, void (*release)(T *)> struct Release {
-  void operator()(T *handle) const { release(handle); }
+    void operator()(T *handle) const { release(handle); }
 };
-using Context =
-    std::unique_ptr<kovra_err_ctx, Release<kovra_err_ctx, kovra_err_ctx_free>>;
-using Stream =
-    std::unique_ptr<kovra_stream, Release<kovra_stream, kovra_stream_free>>;
+using Context = std::unique_ptr<kovra_err_ctx, Release<kovra_err_ctx, kovra_err_ctx_free>>;
+using Stream = std::unique_ptr<kovra_stream, Release<kovra_stream, kovra_stream_free>>;
 
 } // namespace
 
 Trouble explain(const Refusal &refusal, std::initializer_list<uint32_t> types) {
-  const auto size = static_cast<int64_t>(refusal.limit - refusal.begin);
-  Trouble trouble;
-  for (const uint32_t type : types) {
-    const Context context(kovra_err_ctx_new());
-    const Stream stream(kovra_stream_new_romem(refusal.octets + refusal.begin,
-                                               size, 0, nullptr));
-    kovra_asn1_value *value = nullptr;
-    if (kovra_asn1_decode(stream.get(), type, &value, nullptr, context.get()) ==
-        1) {
-      kovra_asn1_value_free(type, value);
-      continue;
+    const auto size = static_cast<int64_t>(refusal.limit - refusal.begin);
+    Trouble trouble;
+    for (const uint32_t type : types) {
+        const Context context(kovra_err_ctx_new());
+        const Stream stream(kovra_stream_new_romem(refusal.octets + refusal.begin, size, 0, nullptr));
+        kovra_asn1_value *value = nullptr;
+        if (kovra_asn1_decode(stream.get(), type, &value, nullptr, context.get()) == 1) {
+            kovra_asn1_value_free(type, value);
+            continue;
+        }
+        if (type != KOVRA_ASN1_TYPE_ANY)
+            kovra_asn1_decode_puterr(context.get(), type, "kovra-asn1", 0);
+        const uint8_t *unread = nullptr;
+        int64_t left = 0;
+        kovra_stream_peek(stream.get(), &unread, &left);
+        trouble.octet = refusal.begin + static_cast<size_t>(size - left);
+        const char *text = nullptr;
+        const char *source = nullptr;
+        int32_t code = 0;
+        for (int32_t i = 0; kovra_err_ctx_getentry(context.get(), i, &source, nullptr, &code, &text) == 1; ++i)
+            trouble.chain.push_back({code, text, source});
+        if (!trouble.chain.empty())
+            return trouble;
     }
-    if (type != KOVRA_ASN1_TYPE_ANY)
-      kovra_asn1_decode_puterr(context.get(), type, "kovra-asn1", 0);
-    const uint8_t *unread = nullptr;
-    int64_t left = 0;
-    kovra_stream_peek(stream.get(), &unread, &left);
-    trouble.octet = refusal.begin + static_cast<size_t>(size - left);
-    const char *text = nullptr;
-    const char *source = nullptr;
-    int32_t code = 0;
-    for (int32_t i = 0; kovra_err_ctx_getentry(context.get(), i, &source,
-                                               nullptr, &code, &text) == 1;
-         ++i)
-      trouble.chain.push_back({code, text, source});
-    if (!trouble.chain.empty())
-      return trouble;
-  }
-  constexpr int32_t incorrect_item = 0x1020a;
-  trouble.octet = refusal.begin;
-  trouble.chain = {{incorrect_item, "incorrect item", "kovra-asn1"}};
-  return trouble;
+    constexpr int32_t incorrect_item = 0x1020a;
+    trouble.octet = refusal.begin;
+    trouble.chain = {{incorrect_item, "incorrect item", "kovra-asn1"}};
+    return trouble;
 }
 
 void Session::report(const std::string &place, const Trouble &trouble) {
-  out.flush();
-  status_ = std::max(status_, Status::malformed);
-  const Trouble::Cause &outermost = trouble.chain.back();
-  std::string text = "kovra-asn1: " + place + ": octet " +
-                     std::to_string(trouble.octet) + ": " + outermost.text +
-                     " (" + hexadecimal(outermost.code) + ")\n";
-  if (!options.is_quiet) {
-    size_t width = 0;
-    for (const Trouble::Cause &cause : trouble.chain)
-      width = std::max(width, cause.text.size());
-    for (const Trouble::Cause &cause : trouble.chain)
-      text += "  " + hexadecimal(cause.code) + " " + cause.text +
-              std::string(width - cause.text.size() + 2, ' ') + cause.source +
-              "\n";
-  }
-  std::fputs(text.c_str(), stderr);
+    out.flush();
+    status_ = std::max(status_, Status::malformed);
+    const Trouble::Cause &outermost = trouble.chain.back();
+    std::string text = "kovra-asn1: " + place + ": octet " + std::to_string(trouble.octet) + ": " + outermost.text +
+                       " (" + hexadecimal(outermost.code) + ")\n";
+    if (!options.is_quiet) {
+        size_t width = 0;
+        for (const Trouble::Cause &cause : trouble.chain)
+            width = std::max(width, cause.text.size());
+        for (const Trouble::Cause &cause : trouble.chain)
+            text += "  " + hexadecimal(cause.code) + " " + cause.text +
+                    std::string(width - cause.text.size() + 2, ' ') + cause.source + "\n";
+    }
+    std::fputs(text.c_str(), stderr);
 }
 
 void Session::report_file(const std::string &message) {
-  out.flush();
-  status_ = std::max(status_, Status::io);
-  std::fputs(("kovra-asn1: " + harmless(message) + "\n").c_str(), stderr);
+    out.flush();
+    status_ = std::max(status_, Status::io);
+    std::fputs(("kovra-asn1: " + harmless(message) + "\n").c_str(), stderr);
 }
 
-void Session::for_each_file(
-    const std::function<void(std::vector<uint8_t> &&, const std::string &)>
-        &function) {
-  for (const std::string &file : options.files) {
-    std::vector<uint8_t> octets;
-    if (out.is_over())
-      return;
-    if (const std::string failure = read_file(file, octets); !failure.empty())
-      report_file(file + ": " + failure);
-    else
-      function(std::move(octets), harmless(file));
-  }
-}
-
-void Session::for_each_item(
-    const std::function<void(const Item &, const std::string &)> &function) {
-  for_each_file([&](std::vector<uint8_t> &&octets, const std::string &file) {
-    Items items(std::move(octets));
-    Item item;
-    while (!out.is_over() && items.next(item)) {
-      const std::string place = file + "[" + std::to_string(item.number) + "]";
-      item.is_only = item.is_only && options.files.size() == 1;
-      item.label = harmless(item.label);
-      if (item.is_bad_armour)
-        report(place, {0,
-                       {{KOVRA_ERR_STREAM_PEM,
-                         kovra_igetStreamError(KOVRA_ERR_STREAM_PEM),
-                         "UTIL_Coding"}}});
-      else
-        function(item, place);
+void Session::for_each_file(const std::function<void(std::vector<uint8_t> &&, const std::string &)> &function) {
+    for (const std::string &file : options.files) {
+        std::vector<uint8_t> octets;
+        if (out.is_over())
+            return;
+        if (const std::string failure = read_file(file, octets); !failure.empty())
+            report_file(file + ": " + failure);
+        else
+            function(std::move(octets), harmless(file));
     }
-  });
+}
+
+void Session::for_each_item(const std::function<void(const Item &, const std::string &)> &function) {
+    for_each_file([&](std::vector<uint8_t> &&octets, const std::string &file) {
+        Items items(std::move(octets));
+        Item item;
+        while (!out.is_over() && items.next(item)) {
+            const std::string place = file + "[" + std::to_string(item.number) + "]";
+            item.is_only = item.is_only && options.files.size() == 1;
+            item.label = harmless(item.label);
+            if (item.is_bad_armour)
+                report(place,
+                       {0, {{KOVRA_ERR_STREAM_PEM, kovra_igetStreamError(KOVRA_ERR_STREAM_PEM), "UTIL_Coding"}}});
+            else
+                function(item, place);
+        }
+    });
 }
 
 } // namespace kovra::tool

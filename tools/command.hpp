@@ -17,30 +17,30 @@ namespace kovra::tool {
 enum class Status : int { good = 0, malformed = 1, usage = 2, io = 3 };
 
 struct Options {
-  std::vector<std::string> files; // "-" is standard input
-  bool is_colored = false;
-  bool is_quiet = false;
-  bool is_full = false; // dump: long values are not cut
-  int32_t indent = 2;   // json: blanks a level, 0 for one line
+    std::vector<std::string> files; // "-" is standard input
+    bool is_colored = false;
+    bool is_quiet = false;
+    bool is_full = false; // dump: long values are not cut
+    int32_t indent = 2;   // json: blanks a level, 0 for one line
 };
 
 // What is wrong with an input: where, and why, from the innermost cause
 // outward.
 struct Trouble {
-  struct Cause {
-    int32_t code;
-    std::string text;
-    std::string source;
-  };
-  size_t octet = 0;
-  std::vector<Cause> chain;
+    struct Cause {
+        int32_t code;
+        std::string text;
+        std::string source;
+    };
+    size_t octet = 0;
+    std::vector<Cause> chain;
 };
 
 // Where in the input an element was refused.
 struct Refusal {
-  const uint8_t *octets = nullptr;
-  size_t begin = 0;
-  size_t limit = 0; // the element has to end there at the latest
+    const uint8_t *octets = nullptr;
+    size_t begin = 0;
+    size_t limit = 0; // the element has to end there at the latest
 };
 
 // Lets the library decode the element as each of the types in turn, and tells
@@ -51,36 +51,34 @@ Trouble explain(const Refusal &refusal, std::initializer_list<uint32_t> types);
 // One run of the tool.
 class Session {
 public:
-  Options options;
-  Output out;
+    Options options;
+    Output out;
 
-  [[nodiscard]] Status status() const { return status_; }
+    [[nodiscard]] Status status() const { return status_; }
 
-  // Prints what is wrong to standard error, behind what was printed so far: a
-  // line "kovra-asn1: place: octet N: text (code)" with the outermost text and
-  // code, and the chain below it.
-  void report(const std::string &place, const Trouble &trouble);
-  // Prints that a file cannot be read or written.
-  void report_file(const std::string &message);
+    // Prints what is wrong to standard error, behind what was printed so far: a
+    // line "kovra-asn1: place: octet N: text (code)" with the outermost text and
+    // code, and the chain below it.
+    void report(const std::string &place, const Trouble &trouble);
+    // Prints that a file cannot be read or written.
+    void report_file(const std::string &message);
 
-  // Calls the function with every item of every file until the output is over,
-  // with the name "file[number]". Files that cannot be read and malformed PEM
-  // blocks are reported on the way.
-  void for_each_item(
-      const std::function<void(const Item &, const std::string &)> &function);
-  // The same for whole files.
-  void for_each_file(const std::function<void(std::vector<uint8_t> &&,
-                                              const std::string &)> &function);
+    // Calls the function with every item of every file until the output is over,
+    // with the name "file[number]". Files that cannot be read and malformed PEM
+    // blocks are reported on the way.
+    void for_each_item(const std::function<void(const Item &, const std::string &)> &function);
+    // The same for whole files.
+    void for_each_file(const std::function<void(std::vector<uint8_t> &&, const std::string &)> &function);
 
 private:
-  Status status_ = Status::good;
+    Status status_ = Status::good;
 };
 
 struct Command {
-  const char *name;
-  const char *help;
-  bool takes_files;
-  void (*run)(Session &);
+    const char *name;
+    const char *help;
+    bool takes_files;
+    void (*run)(Session &);
 };
 
 void dump(Session &session);

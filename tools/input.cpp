@@ -21,149 +21,139 @@ namespace kovra::tool {
 namespace {
 
 std::string_view view(const std::vector<uint8_t> &octets) {
-  return {reinterpret_cast<const char *>(octets.data()), octets.size()};
+    return {reinterpret_cast<const char *>(octets.data()), octets.size()};
 }
 
 bool is_space(uint8_t octet) {
-  return octet == ' ' || (octet >= '\t' && octet <= '\r');
+    return octet == ' ' || (octet >= '\t' && octet <= '\r');
 }
 
 // Octets that no text has; UTF-8 is text.
 bool is_control(uint8_t octet) {
-  return (octet < 0x20 && !is_space(octet)) || octet == 0x7F;
+    return (octet < 0x20 && !is_space(octet)) || octet == 0x7F;
 }
 
 constexpr std::string_view armour = "-----BEGIN ";
 
 // Where the first line of PEM armour begins; npos without one.
 size_t find_armour(std::string_view text) {
-  size_t at = text.find(armour);
-  while (at != 0 && at != std::string_view::npos && text[at - 1] != '\n' &&
-         text[at - 1] != '\r' && !(at == 3 && text.starts_with("\xEF\xBB\xBF")))
-    at = text.find(armour, at + 1);
-  return at;
+    size_t at = text.find(armour);
+    while (at != 0 && at != std::string_view::npos && text[at - 1] != '\n' && text[at - 1] != '\r' &&
+           !(at == 3 && text.starts_with("\xEF\xBB\xBF")))
+        at = text.find(armour, at + 1);
+    return at;
 }
 
 // Frees what the library gave and returns a copy; nothing for null.
 bool take(void *octets, int32_t length, std::vector<uint8_t> &out) {
-  if (octets == nullptr)
-    return false;
-  const auto *begin = static_cast<const uint8_t *>(octets);
-  out.assign(begin, begin + length);
-  kovra_free(octets);
-  return true;
+    if (octets == nullptr)
+        return false;
+    const auto *begin = static_cast<const uint8_t *>(octets);
+    out.assign(begin, begin + length);
+    kovra_free(octets);
+    return true;
 }
 
 bool from_hex(const std::vector<uint8_t> &text, std::vector<uint8_t> &out) {
-  std::string digits;
-  for (const uint8_t octet : text) {
-    const bool is_digit = (octet >= '0' && octet <= '9') ||
-                          (octet >= 'a' && octet <= 'f') ||
-                          (octet >= 'A' && octet <= 'F');
-    if (is_digit)
-      digits += static_cast<char>(octet);
-    else if (!is_space(octet) && octet != ':')
-      return false;
-  }
-  int32_t length = 0;
-  return !digits.empty() &&
-         take(kovra_hexdecode(digits.data(),
-                              static_cast<int64_t>(digits.size()), &length),
-              length, out);
+    std::string digits;
+    for (const uint8_t octet : text) {
+        const bool is_digit =
+            (octet >= '0' && octet <= '9') || (octet >= 'a' && octet <= 'f') || (octet >= 'A' && octet <= 'F');
+        if (is_digit)
+            digits += static_cast<char>(octet);
+        else if (!is_space(octet) && octet != ':')
+            return false;
+    }
+    int32_t length = 0;
+    void *octets = kovra_hexdecode(digits.data(), static_cast<int64_t>(digits.size()), &length);
+    return take(octets, length, out) && !out.empty();
 }
 
 bool from_base64(const std::vector<uint8_t> &text, std::vector<uint8_t> &out) {
-  int32_t length = 0;
-  void *octets =
-      kovra_base64decode(view(text).data(), static_cast<int64_t>(text.size()),
-                         KOVRA_BASE64_IGNORE_SPACE, &length);
-  return take(octets, length, out) && !out.empty();
+    int32_t length = 0;
+    void *octets =
+        kovra_base64decode(view(text).data(), static_cast<int64_t>(text.size()), KOVRA_BASE64_IGNORE_SPACE, &length);
+    return take(octets, length, out) && !out.empty();
 }
 
 } // namespace
 
 std::string read_file(const std::string &path, std::vector<uint8_t> &out) {
-  const bool is_standard_input = path == "-";
+    const bool is_standard_input = path == "-";
 #if defined(_WIN32)
-  if (is_standard_input)
-    _setmode(_fileno(stdin), _O_BINARY);
+    if (is_standard_input)
+        _setmode(_fileno(stdin), _O_BINARY);
 #endif
-  errno = 0;
-  const auto close = [](FILE *file) {
-    return file != stdin ? std::fclose(file) : 0;
-  };
-  const std::unique_ptr<FILE, decltype(close)> file(
-      is_standard_input ? stdin : std::fopen(path.c_str(), "rb"), close);
-  if (file == nullptr)
-    return std::strerror(errno);
-  out.clear();
-  constexpr size_t first_piece = 1 << 16;
-  for (size_t size = 0;;) {
-    out.resize(std::max(first_piece, size * 2));
-    size += std::fread(out.data() + size, 1, out.size() - size, file.get());
-    if (size == out.size())
-      continue;
-    out.resize(size);
-    return std::ferror(file.get()) != 0 ? std::strerror(errno) : "";
-  }
+    errno = 0;
+    const auto close = [](FILE *file) { return file != stdin ? std::fclose(file) : 0; };
+    const std::unique_ptr<FILE, decltype(close)> file(is_standard_input ? stdin : std::fopen(path.c_str(), "rb"),
+                                                      close);
+    if (file == nullptr)
+        return std::strerror(errno);
+    out.clear();
+    constexpr size_t first_piece = 1 << 16;
+    for (size_t size = 0;;) {
+        out.resize(std::max(first_piece, size * 2));
+        size += std::fread(out.data() + size, 1, out.size() - size, file.get());
+        if (size == out.size())
+            continue;
+        out.resize(size);
+        return std::ferror(file.get()) != 0 ? std::strerror(errno) : "";
+    }
 }
 
 Items::Items(std::vector<uint8_t> file) {
-  const size_t begin = find_armour(view(file));
-  const auto text_end = begin != std::string_view::npos
-                            ? file.begin() + static_cast<ptrdiff_t>(begin)
-                            : file.end();
-  if (std::any_of(file.begin(), text_end, is_control)) {
-    chunk_ = {true, false, "", std::move(file)};
-  } else if (begin != std::string_view::npos) {
-    text_ = std::move(file);
-    chunk_ = next_block();
-    ahead_ = next_block();
-  } else {
-    chunk_.exists = true;
-    if (!from_hex(file, chunk_.octets) && !from_base64(file, chunk_.octets))
-      chunk_.octets = std::move(file);
-  }
+    const size_t begin = find_armour(view(file));
+    const auto text_end = begin != std::string_view::npos ? file.begin() + static_cast<ptrdiff_t>(begin) : file.end();
+    if (std::any_of(file.begin(), text_end, is_control)) {
+        chunk_ = {true, false, "", std::move(file)};
+    } else if (begin != std::string_view::npos) {
+        text_ = std::move(file);
+        chunk_ = next_block();
+        ahead_ = next_block();
+    } else {
+        chunk_.exists = true;
+        if (!from_hex(file, chunk_.octets) && !from_base64(file, chunk_.octets))
+            chunk_.octets = std::move(file);
+    }
 }
 
 Items::Chunk Items::next_block() {
-  Chunk block;
-  const char *label = nullptr;
-  int32_t label_length = 0;
-  void *data = nullptr;
-  int32_t length = 0;
-  const int32_t result =
-      kovra_pemnext(view(text_).data(), static_cast<int64_t>(text_.size()),
-                    &text_position_, &label, &label_length, &data, &length);
-  if (result == 0)
+    Chunk block;
+    const char *label = nullptr;
+    int32_t label_length = 0;
+    void *data = nullptr;
+    int32_t length = 0;
+    const int32_t result = kovra_pemnext(view(text_).data(), static_cast<int64_t>(text_.size()), &text_position_,
+                                         &label, &label_length, &data, &length);
+    if (result == 0)
+        return block;
+    block.exists = true;
+    block.is_bad_armour = result != 1;
+    if (label != nullptr)
+        block.label.assign(label, static_cast<size_t>(label_length));
+    take(data, length, block.octets);
     return block;
-  block.exists = true;
-  block.is_bad_armour = result != 1;
-  if (label != nullptr)
-    block.label.assign(label, static_cast<size_t>(label_length));
-  take(data, length, block.octets);
-  return block;
 }
 
 bool Items::next(Item &out) {
-  if (position_ != 0 && position_ >= chunk_.octets.size()) {
-    chunk_ = std::move(ahead_);
-    ahead_ = chunk_.exists ? next_block() : Chunk();
-    position_ = 0;
-  }
-  if (!chunk_.exists)
-    return false;
-  const std::vector<uint8_t> &octets = chunk_.octets;
-  size_t end = element_end(octets.data(), position_, octets.size(), Tags::all);
-  // What follows octets that are no element has no beginning of its own.
-  if (end == nowhere || octets[position_] == 0)
-    end = octets.size();
-  out = {octets.data(),        position_,   end, ++count_, false,
-         chunk_.is_bad_armour, chunk_.label};
-  // A chunk without octets has been given, too.
-  position_ = std::max<size_t>(end, 1);
-  out.is_only = count_ == 1 && end == octets.size() && !ahead_.exists;
-  return true;
+    if (position_ != 0 && position_ >= chunk_.octets.size()) {
+        chunk_ = std::move(ahead_);
+        ahead_ = chunk_.exists ? next_block() : Chunk();
+        position_ = 0;
+    }
+    if (!chunk_.exists)
+        return false;
+    const std::vector<uint8_t> &octets = chunk_.octets;
+    size_t end = element_end(octets.data(), position_, octets.size(), Tags::all);
+    // What follows octets that are no element has no beginning of its own.
+    if (end == nowhere || octets[position_] == 0)
+        end = octets.size();
+    out = {octets.data(), position_, end, ++count_, false, chunk_.is_bad_armour, chunk_.label};
+    // A chunk without octets has been given, too.
+    position_ = std::max<size_t>(end, 1);
+    out.is_only = count_ == 1 && end == octets.size() && !ahead_.exists;
+    return true;
 }
 
 } // namespace kovra::tool

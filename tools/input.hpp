@@ -14,15 +14,13 @@ std::string read_file(const std::string &path, std::vector<uint8_t> &out);
 
 // One element, or what cannot be told apart into elements.
 struct Item {
-  const uint8_t *octets =
-      nullptr; // the decoded block or file; positions count from here
-  size_t begin = 0;
-  size_t end = 0;
-  size_t number = 0; // in the file, from 1 on
-  bool is_only = true;
-  bool is_bad_armour =
-      false;         // a PEM block that is malformed: there are no octets
-  std::string label; // of the PEM block
+    const uint8_t *octets = nullptr; // the decoded block or file; positions count from here
+    size_t begin = 0;
+    size_t end = 0;
+    size_t number = 0; // in the file, from 1 on
+    bool is_only = true;
+    bool is_bad_armour = false; // a PEM block that is malformed: there are no octets
+    std::string label;          // of the PEM block
 };
 
 // The items of a file. Its form is told by its content: octets with control
@@ -30,28 +28,28 @@ struct Item {
 // and colons allowed) when it is nothing else, else base64 when it is that.
 class Items {
 public:
-  explicit Items(std::vector<uint8_t> file);
+    explicit Items(std::vector<uint8_t> file);
 
-  // The next item, valid until the next call; false behind the last one.
-  bool next(Item &out);
+    // The next item, valid until the next call; false behind the last one.
+    bool next(Item &out);
 
 private:
-  // A decoded block, or the whole file.
-  struct Chunk {
-    bool exists = false;
-    bool is_bad_armour = false;
-    std::string label;
-    std::vector<uint8_t> octets;
-  };
+    // A decoded block, or the whole file.
+    struct Chunk {
+        bool exists = false;
+        bool is_bad_armour = false;
+        std::string label;
+        std::vector<uint8_t> octets;
+    };
 
-  Chunk next_block();
+    Chunk next_block();
 
-  std::vector<uint8_t> text_; // of PEM
-  int64_t text_position_ = 0;
-  Chunk chunk_;
-  Chunk ahead_;
-  size_t position_ = 0; // in the chunk
-  size_t count_ = 0;
+    std::vector<uint8_t> text_; // of PEM
+    int64_t text_position_ = 0;
+    Chunk chunk_;
+    Chunk ahead_;
+    size_t position_ = 0; // in the chunk
+    size_t count_ = 0;
 };
 
 } // namespace kovra::tool

@@ -20,97 +20,81 @@ constexpr Command commands[] = {
      true, dump},
     {"json", "Print the JSON description of any BER or DER", true, json},
     {"der", "Write the octets of JSON descriptions", true, der},
-    {"types", "List the type identifiers with tag, form and name", false,
-     types},
+    {"types", "List the type identifiers with tag, form and name", false, types},
     {"version", "Print the version of the library", false, version},
 };
 
 struct Arguments {
-  std::string out;
-  std::string color = "auto";
-  bool is_compact = false;
+    std::string out;
+    std::string color = "auto";
+    bool is_compact = false;
 };
 
-void describe(CLI::App &app, Session &session, Arguments &arguments,
-              const Command *&chosen) {
-  Options &options = session.options;
-  app.require_subcommand(1);
-  app.set_help_all_flag("--help-all",
-                        "Print this help and that of every command");
-  app.footer(
-      "Exit codes: 0 all good, 1 malformed input, 2 usage, 3 file or I/O.");
-  app.add_option("--out", arguments.out,
-                 "Write to this file instead of standard output");
-  app.add_option(
-         "--color", arguments.color,
-         "auto, always or never; NO_COLOR in the environment turns auto off")
-      ->check(CLI::IsMember({"auto", "always", "never"}));
-  app.add_flag("--quiet", options.is_quiet,
-               "No headings, and only the first line of an error");
-  for (const Command &command : commands) {
-    CLI::App *sub =
-        app.add_subcommand(command.name, command.help)->fallthrough();
-    sub->callback([&chosen, &command] { chosen = &command; });
-    if (command.takes_files)
-      sub->add_option(
-          "FILE", options.files,
-          "DER, BER, PEM, base64 or hexadecimal; - or none: standard input");
-    if (command.run == dump)
-      sub->add_flag("--full", options.is_full, "Print long values whole");
-    if (command.run == json) {
-      auto *indent = sub->add_option("--indent", options.indent,
-                                     "Blanks a level; 0 prints on one line")
-                         ->check(CLI::Range(0, 16));
-      sub->add_flag("--compact", arguments.is_compact, "Print on one line")
-          ->excludes(indent);
+void describe(CLI::App &app, Session &session, Arguments &arguments, const Command *&chosen) {
+    Options &options = session.options;
+    app.require_subcommand(1);
+    app.set_help_all_flag("--help-all", "Print this help and that of every command");
+    app.footer("Exit codes: 0 all good, 1 malformed input, 2 usage, 3 file or I/O.");
+    app.add_option("--out", arguments.out, "Write to this file instead of standard output");
+    app.add_option("--color", arguments.color, "auto, always or never; NO_COLOR in the environment turns auto off")
+        ->check(CLI::IsMember({"auto", "always", "never"}));
+    app.add_flag("--quiet", options.is_quiet, "No headings, and only the first line of an error");
+    for (const Command &command : commands) {
+        CLI::App *sub = app.add_subcommand(command.name, command.help)->fallthrough();
+        sub->callback([&chosen, &command] { chosen = &command; });
+        if (command.takes_files)
+            sub->add_option("FILE", options.files, "DER, BER, PEM, base64 or hexadecimal; - or none: standard input");
+        if (command.run == dump)
+            sub->add_flag("--full", options.is_full, "Print long values whole");
+        if (command.run == json) {
+            auto *indent = sub->add_option("--indent", options.indent, "Blanks a level; 0 prints on one line")
+                               ->check(CLI::Range(0, 16));
+            sub->add_flag("--compact", arguments.is_compact, "Print on one line")->excludes(indent);
+        }
     }
-  }
 }
 
 bool is_colored(const Arguments &arguments, const Output &out) {
-  const char *no_color = std::getenv("NO_COLOR");
-  const bool is_unwanted = no_color != nullptr && *no_color != '\0';
-  return arguments.color == "always" ||
-         (arguments.color == "auto" && !is_unwanted && out.is_terminal());
+    const char *no_color = std::getenv("NO_COLOR");
+    const bool is_unwanted = no_color != nullptr && *no_color != '\0';
+    return arguments.color == "always" || (arguments.color == "auto" && !is_unwanted && out.is_terminal());
 }
 
 int run(int argc, char **argv) {
-  Session session;
-  Arguments arguments;
-  const Command *chosen = nullptr;
-  CLI::App app("Looks into files of ASN.1 values in BER and DER.",
-               "kovra-asn1");
-  describe(app, session, arguments, chosen);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError &error) {
-    return static_cast<int>(app.exit(error) == 0 ? Status::good
-                                                 : Status::usage);
-  }
-  if (arguments.is_compact)
-    session.options.indent = 0;
-  if (session.options.files.empty())
-    session.options.files.emplace_back("-");
-  session.out.set_path(arguments.out);
-  session.options.is_colored = is_colored(arguments, session.out);
-  chosen->run(session);
-  session.out.finish();
-  if (!session.out.failure().empty())
-    session.report_file(session.out.failure());
-  return static_cast<int>(session.status());
+    Session session;
+    Arguments arguments;
+    const Command *chosen = nullptr;
+    CLI::App app("Looks into files of ASN.1 values in BER and DER.", "kovra-asn1");
+    describe(app, session, arguments, chosen);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        return static_cast<int>(app.exit(error) == 0 ? Status::good : Status::usage);
+    }
+    if (arguments.is_compact)
+        session.options.indent = 0;
+    if (session.options.files.empty())
+        session.options.files.emplace_back("-");
+    session.out.set_path(arguments.out);
+    session.options.is_colored = is_colored(arguments, session.out);
+    chosen->run(session);
+    session.out.finish();
+    if (!session.out.failure().empty())
+        session.report_file(session.out.failure());
+    return static_cast<int>(session.status());
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
 #if defined(SIGPIPE)
-  // Nobody reading any more shows when writing.
-  std::signal(SIGPIPE, SIG_IGN);
+    // Nobody reading any more shows when writing.
+    std::signal(SIGPIPE, SIG_IGN);
 #endif
-  try {
-    return run(argc, argv);
-  } catch (const std::bad_alloc &) {
-    std::fputs("kovra-asn1: memory is short\n", stderr);
-    return static_cast<int>(Status::io);
-  }
+    try {
+        return run(argc, argv);
+    } catch (const std::bad_alloc &) {
+        std::fputs("kovra-asn1: memory is short\n", stderr);
+        return static_cast<int>(Status::io);
+    }
 }

@@ -8,8 +8,8 @@ namespace kovra::tool {
 namespace {
 
 struct OidName {
-  std::string_view dotted;
-  std::string_view name;
+    std::string_view dotted;
+    std::string_view name;
 };
 
 // In the order of the texts.
@@ -417,21 +417,15 @@ constexpr OidName names[] = {
 };
 
 static_assert(std::is_sorted(std::begin(names), std::end(names),
-                             [](const OidName &left, const OidName &right) {
-                               return left.dotted < right.dotted;
-                             }));
+                             [](const OidName &left, const OidName &right) { return left.dotted < right.dotted; }));
 
 } // namespace
 
 std::string_view oid_name(std::string_view dotted) {
-  const auto *found =
-      std::lower_bound(std::begin(names), std::end(names), dotted,
-                       [](const OidName &entry, std::string_view text) {
-                         return entry.dotted < text;
-                       });
-  return found != std::end(names) && found->dotted == dotted
-             ? found->name
-             : std::string_view();
+    const auto *found =
+        std::lower_bound(std::begin(names), std::end(names), dotted,
+                         [](const OidName &entry, std::string_view text) { return entry.dotted < text; });
+    return found != std::end(names) && found->dotted == dotted ? found->name : std::string_view();
 }
 
 } // namespace kovra::tool

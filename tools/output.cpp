@@ -18,24 +18,33 @@ namespace {
 
 #if defined(_WIN32)
 int open_file(const char *path) {
-  return _open(path, _O_WRONLY | _O_CREAT | _O_TRUNC | _O_BINARY,
-               _S_IREAD | _S_IWRITE);
+    return _open(path, _O_WRONLY | _O_CREAT | _O_TRUNC | _O_BINARY, _S_IREAD | _S_IWRITE);
 }
-int close_file(int file) { return _close(file); }
+int close_file(int file) {
+    return _close(file);
+}
 auto write_file(int file, const char *octets, size_t size) {
-  return _write(file, octets, static_cast<unsigned>(size));
+    return _write(file, octets, static_cast<unsigned>(size));
 }
-bool is_terminal_file(int file) { return _isatty(file) != 0; }
-void set_binary(int file) { _setmode(file, _O_BINARY); }
+bool is_terminal_file(int file) {
+    return _isatty(file) != 0;
+}
+void set_binary(int file) {
+    _setmode(file, _O_BINARY);
+}
 #else
 int open_file(const char *path) {
-  return ::open(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    return ::open(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
 }
-int close_file(int file) { return ::close(file); }
+int close_file(int file) {
+    return ::close(file);
+}
 auto write_file(int file, const char *octets, size_t size) {
-  return ::write(file, octets, size);
+    return ::write(file, octets, size);
 }
-bool is_terminal_file(int file) { return ::isatty(file) != 0; }
+bool is_terminal_file(int file) {
+    return ::isatty(file) != 0;
+}
 void set_binary(int) {}
 #endif
 
@@ -44,111 +53,108 @@ constexpr size_t number_digits = 20;
 } // namespace
 
 Output::~Output() {
-  if (file_ > standard_output)
-    close_file(file_);
+    if (file_ > standard_output)
+        close_file(file_);
 }
 
 void Output::put_number(uint64_t number) {
-  char *out = room(number_digits);
-  used(std::to_chars(out, out + number_digits, number).ptr);
+    char *out = room(number_digits);
+    used(std::to_chars(out, out + number_digits, number).ptr);
 }
 
 void Output::put_right(uint64_t number, size_t width) {
-  char digits[number_digits];
-  const auto count = static_cast<size_t>(
-      std::to_chars(digits, digits + number_digits, number).ptr - digits);
-  const size_t blanks = width > count ? width - count : 0;
-  char *out = room(blanks + count);
-  std::memset(out, ' ', blanks);
-  std::memcpy(out + blanks, digits, count);
-  used(out + blanks + count);
+    char digits[number_digits];
+    const auto count = static_cast<size_t>(std::to_chars(digits, digits + number_digits, number).ptr - digits);
+    const size_t blanks = width > count ? width - count : 0;
+    char *out = room(blanks + count);
+    std::memset(out, ' ', blanks);
+    std::memcpy(out + blanks, digits, count);
+    used(out + blanks + count);
 }
 
 void Output::fill(char character, size_t count) {
-  for (size_t piece = 0; count != 0; count -= piece) {
-    piece = std::min(count, largest_room);
-    char *out = room(piece);
-    std::memset(out, character, piece);
-    used(out + piece);
-  }
+    for (size_t piece = 0; count != 0; count -= piece) {
+        piece = std::min(count, largest_room);
+        char *out = room(piece);
+        std::memset(out, character, piece);
+        used(out + piece);
+    }
 }
 
 void Output::put_hex(const uint8_t *octets, size_t length) {
-  static constexpr char digits[] = "0123456789abcdef";
-  for (size_t piece = 0; length != 0; length -= piece, octets += piece) {
-    piece = std::min(length, largest_room / 2);
-    char *out = room(piece * 2);
-    for (size_t i = 0; i < piece; ++i) {
-      *out++ = digits[octets[i] >> 4];
-      *out++ = digits[octets[i] & 0x0F];
+    static constexpr char digits[] = "0123456789abcdef";
+    for (size_t piece = 0; length != 0; length -= piece, octets += piece) {
+        piece = std::min(length, largest_room / 2);
+        char *out = room(piece * 2);
+        for (size_t i = 0; i < piece; ++i) {
+            *out++ = digits[octets[i] >> 4];
+            *out++ = digits[octets[i] & 0x0F];
+        }
+        used(out);
     }
-    used(out);
-  }
 }
 
 void Output::put_long(std::string_view text) {
-  flush();
-  write(text.data(), text.size());
+    flush();
+    write(text.data(), text.size());
 }
 
 void Output::flush() {
-  write(buffer_.get(), used_);
-  used_ = 0;
+    write(buffer_.get(), used_);
+    used_ = 0;
 }
 
 void Output::finish() {
-  flush();
-  if (file_ < 0)
-    open();
-  if (file_ > standard_output) {
-    if (close_file(file_) != 0 && failure_.empty())
-      fail();
-    file_ = standard_output;
-  }
+    flush();
+    if (file_ < 0)
+        open();
+    if (file_ > standard_output) {
+        if (close_file(file_) != 0 && failure_.empty())
+            fail();
+        file_ = standard_output;
+    }
 }
 
 void Output::open() {
-  if (is_over_)
-    return;
-  file_ = path_.empty() ? standard_output : open_file(path_.c_str());
-  if (file_ < 0)
-    fail();
-  else
-    set_binary(file_);
+    if (is_over_)
+        return;
+    file_ = path_.empty() ? standard_output : open_file(path_.c_str());
+    if (file_ < 0)
+        fail();
+    else
+        set_binary(file_);
 }
 
 void Output::write(const char *octets, size_t size) {
-  if (size != 0 && file_ < 0)
-    open();
-  // The largest piece that every system takes at once.
-  constexpr size_t largest_piece = 1 << 30;
-  while (size != 0 && !is_over_) {
-    const auto written =
-        write_file(file_, octets, std::min(size, largest_piece));
-    if (written >= 0) {
-      octets += written;
-      size -= static_cast<size_t>(written);
-    } else if (errno != EINTR) {
-      fail();
+    if (size != 0 && file_ < 0)
+        open();
+    // The largest piece that every system takes at once.
+    constexpr size_t largest_piece = 1 << 30;
+    while (size != 0 && !is_over_) {
+        const auto written = write_file(file_, octets, std::min(size, largest_piece));
+        if (written >= 0) {
+            octets += written;
+            size -= static_cast<size_t>(written);
+        } else if (errno != EINTR) {
+            fail();
+        }
     }
-  }
 }
 
 void Output::fail() {
-  is_over_ = true;
+    is_over_ = true;
 #if defined(_WIN32)
-  // A pipe that nobody reads any more reports this.
-  const bool is_closed_pipe = errno == EPIPE || errno == EINVAL;
+    // A pipe that nobody reads any more reports this.
+    const bool is_closed_pipe = errno == EPIPE || errno == EINVAL;
 #else
-  const bool is_closed_pipe = errno == EPIPE;
+    const bool is_closed_pipe = errno == EPIPE;
 #endif
-  if (!is_closed_pipe)
-    failure_ = (path_.empty() ? "standard output" : path_) + ": " +
-               std::strerror(errno);
+    if (!is_closed_pipe)
+        failure_ = (path_.empty() ? "standard output" : path_) + ": " + std::strerror(errno);
 }
 
 bool Output::is_terminal() const {
-  return path_.empty() && is_terminal_file(standard_output);
+    return path_.empty() && is_terminal_file(standard_output);
 }
 
 } // namespace kovra::tool

@@ -9,9 +9,9 @@ namespace kovra::tool {
 namespace {
 
 struct TypeRow {
-  std::string_view name;
-  uint8_t tag; // universal; 0: that of the alternative
-  std::string_view form;
+    std::string_view name;
+    uint8_t tag; // universal; 0: that of the alternative
+    std::string_view form;
 };
 
 // By type identifier.
@@ -230,17 +230,17 @@ static_assert(sizeof rows / sizeof rows[0] == KOVRA_ASN1_TYPE_COUNT);
 } // namespace
 
 void types(Session &session) {
-  session.out.put("type  tag  form         name\n");
-  uint32_t number = 0;
-  for (const TypeRow &row : rows) {
-    session.out.put_right(number++, 4);
-    session.out.put_right(row.tag, 5);
-    session.out.fill(' ', 2);
-    session.out.put(row.form);
-    session.out.fill(' ', 13 - row.form.size());
-    session.out.put(row.name);
-    session.out.put('\n');
-  }
+    session.out.put("type  tag  form         name\n");
+    uint32_t number = 0;
+    for (const TypeRow &row : rows) {
+        session.out.put_right(number++, 4);
+        session.out.put_right(row.tag, 5);
+        session.out.fill(' ', 2);
+        session.out.put(row.form);
+        session.out.fill(' ', 13 - row.form.size());
+        session.out.put(row.name);
+        session.out.put('\n');
+    }
 }
 
 } // namespace kovra::tool

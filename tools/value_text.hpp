@@ -9,8 +9,8 @@
 namespace kovra::tool {
 
 struct ValueStyle {
-  bool is_full = false;    // long values are not cut
-  bool is_colored = false; // names of object identifiers
+    bool is_full = false;    // long values are not cut
+    bool is_colored = false; // names of object identifiers
 };
 
 // The name of a universal tag; null for one that has none.
@@ -20,7 +20,6 @@ const char *universal_name(uint32_t tag);
 // an empty one without meaning. Text is quoted; in it control characters, those
 // that turn the direction of writing, and octets that are not of the character
 // set are escaped.
-void put_value(Output &out, const Header &header, const uint8_t *element,
-               ValueStyle style);
+void put_value(Output &out, const Header &header, const uint8_t *element, ValueStyle style);
 
 } // namespace kovra::tool
