@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "util/handle.hpp"
+#include "util/utf8.hpp"
 
 using namespace kovra::util;
 
@@ -23,43 +24,12 @@ constexpr int32_t max_length = 0x7FFFFFFF;
 
 constexpr uint32_t ill_formed = UINT32_MAX;
 
-bool is_scalar(uint32_t character) {
-    return character <= 0x10FFFF && (character < 0xD800 || character > 0xDFFF);
-}
-
-// The next character of UTF-8; ill_formed for anything that the shortest form of a scalar value does not look like.
+// The next character of UTF-8.
 uint32_t next_utf8(const uint8_t *&at, const uint8_t *end) {
-    const uint8_t lead = *at++;
-    if (lead < 0x80)
-        return lead;
-    const int more = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
-    if (lead < 0xC2 || lead > 0xF4 || end - at < more)
-        return ill_formed;
-    uint32_t character = lead & (0x3FU >> more);
-    for (int i = 0; i < more; ++i) {
-        const uint8_t octet = *at++;
-        if ((octet & 0xC0) != 0x80)
-            return ill_formed;
-        character = character << 6 | (octet & 0x3FU);
-    }
-    constexpr uint32_t least[] = {0, 0x80, 0x800, 0x10000};
-    return character >= least[more] && is_scalar(character) ? character : ill_formed;
-}
-
-int32_t utf8_size(uint32_t character) {
-    return character < 0x80 ? 1 : character < 0x800 ? 2 : character < 0x10000 ? 3 : 4;
-}
-
-uint8_t *put_utf8(uint8_t *out, uint32_t character) {
-    const int32_t size = utf8_size(character);
-    if (size == 1) {
-        *out++ = static_cast<uint8_t>(character);
-        return out;
-    }
-    *out++ = static_cast<uint8_t>((0xF00U >> size) | (character >> (6 * (size - 1))));
-    for (int32_t i = size - 2; i >= 0; --i)
-        *out++ = static_cast<uint8_t>(0x80 | (character >> (6 * i) & 0x3F));
-    return out;
+    const size_t length = utf8_length_at(at, end);
+    const uint32_t character = length != 0 ? utf8_character(at, length) : ill_formed;
+    at += length;
+    return character;
 }
 
 uint32_t big_endian(const uint8_t *octets, int count) {
@@ -72,19 +42,19 @@ uint32_t big_endian(const uint8_t *octets, int count) {
 uint32_t next_utf32(const uint8_t *&at, const uint8_t *) {
     const uint32_t character = big_endian(at, 4);
     at += 4;
-    return is_scalar(character) ? character : ill_formed;
+    return is_scalar_value(character) ? character : ill_formed;
 }
 
 uint32_t next_bmp(const uint8_t *&at, const uint8_t *) {
     const uint32_t character = big_endian(at, 2);
     at += 2;
-    return is_scalar(character) ? character : ill_formed;
+    return is_scalar_value(character) ? character : ill_formed;
 }
 
 uint32_t next_utf16(const uint8_t *&at, const uint8_t *end) {
     const uint32_t high = big_endian(at, 2);
     at += 2;
-    if (is_scalar(high))
+    if (is_scalar_value(high))
         return high;
     if (high > 0xDBFF || end - at < 2)
         return ill_formed;
@@ -114,7 +84,7 @@ template <class Next> kovra_ustring *convert(const void *data, int32_t length, i
         const uint32_t character = next(at, end);
         if (character == ill_formed)
             return nullptr;
-        total += utf8_size(character);
+        total += static_cast<int64_t>(utf8_length_of(character));
     }
     kovra_ustring *text = make(total);
     if (text == nullptr)
@@ -164,9 +134,14 @@ kovra_ustring *kovra_ustring_newutf8(const void *octets, int32_t length) noexcep
         return nullptr;
     const auto *begin = static_cast<const uint8_t *>(octets);
     const uint8_t *end = length > 0 ? begin + length : begin;
-    for (const uint8_t *at = begin; at != end;)
-        if (next_utf8(at, end) == ill_formed)
+    for (const uint8_t *at = skip_ascii(begin, end); at != end;) {
+        const size_t size = utf8_length_at(at, end);
+        if (size == 0)
             return nullptr;
+        at += size;
+        if (size == 1)
+            at = skip_ascii(at, end);
+    }
     kovra_ustring *text = make(length);
     if (text != nullptr && length > 0)
         std::memcpy(text->octets(), octets, static_cast<size_t>(length));

@@ -1,6 +1,7 @@
 /* JSON values (RFC 8259): a model with the order of members kept, printing and strict parsing. Depth is bounded by
  * memory only. A value belongs to the document of its root; only roots are freed. Null, or a handle of another kind, is
- * an absent value everywhere. */
+ * an absent value everywhere. Looking things up makes indexes inside: threads that share a document take turns, for
+ * reading too. */
 #ifndef KOVRA_UTIL_JSON_H
 #define KOVRA_UTIL_JSON_H
 
@@ -102,9 +103,10 @@ KOVRA_UTIL_API kovra_json *kovra_json_getarrayitem(const kovra_json *array, int3
  * UTF-8 prints as U+FFFD. Null for a negative indent and when memory is short. */
 KOVRA_UTIL_API char *kovra_json_print(const kovra_json *value, int32_t indent, int64_t *out_length) KOVRA_NOTHROW;
 
-/* kovra_json_parse returns the value that the text is, all of it: strict RFC 8259 in UTF-8, surrogate escapes in
- * pairs, numbers within the range of a double, no NUL in a member's name. Null where it is not, with the offset of
- * the octet that does not fit stored (the place may be null), and when memory is short. */
+/* kovra_json_parse returns the value that the text is, all of it, as a root: strict RFC 8259 in UTF-8, surrogate
+ * escapes in pairs, no NUL in a member's name; a number too large for a double is refused, one too small is 0. Null
+ * where it is not, with the offset stored (the place may be null) of the octet that does not fit, of the escape that is
+ * no character or of the name with a NUL; null also when memory is short, and for null and a negative length. */
 KOVRA_UTIL_API kovra_json *kovra_json_parse(const char *text, int64_t length, int64_t *out_error_offset) KOVRA_NOTHROW;
 
 KOVRA_C_END

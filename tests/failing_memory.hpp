@@ -1,0 +1,48 @@
+// The allocator of the tests: it stands in for the libraries' own, counts what is alive and fails on demand.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+
+namespace kovra::test {
+
+// Blocks that were allocated and not yet freed.
+int64_t live_blocks();
+
+// False where the libraries cannot be given another allocator, which is so for a DLL.
+bool is_memory_watched();
+
+// While it lives, allocations of this thread fail from the one behind the first `good` on.
+class ScarceMemory {
+public:
+    explicit ScarceMemory(int64_t good);
+    ~ScarceMemory();
+    ScarceMemory(const ScarceMemory &) = delete;
+    ScarceMemory &operator=(const ScarceMemory &) = delete;
+    static bool has_failed();
+};
+
+// Runs `action` with room for no allocation, one, two ... until it needs no more; each run must leave nothing behind.
+// `action` returns whether it succeeded, which it must as soon as nothing fails.
+template <class Action> void fail_each_allocation(Action action) {
+    if (!is_memory_watched())
+        return;
+    for (int64_t good = 0;; ++good) {
+        const int64_t before = live_blocks();
+        bool is_done = false;
+        bool has_failed = false;
+        {
+            const ScarceMemory scarce(good);
+            is_done = action();
+            has_failed = ScarceMemory::has_failed();
+        }
+        ASSERT_EQ(live_blocks(), before) << "leak with room for " << good << " allocations";
+        if (!has_failed) {
+            ASSERT_TRUE(is_done);
+            return;
+        }
+    }
+}
+
+} // namespace kovra::test

@@ -1,0 +1,188 @@
+#include "util/json_document.hpp"
+
+#include <algorithm>
+#include <new>
+
+namespace kovra::util {
+
+namespace {
+
+constexpr const char *module = "UTIL_JSON";
+constexpr size_t alignment = 8;
+constexpr uint32_t first_slab = 512;
+constexpr uint32_t largest_slab = uint32_t{1024} * 1024;
+constexpr size_t name_slots = 64;
+// A document of fewer members copies their names.
+constexpr uint32_t names_shared_from = 8;
+
+constexpr size_t aligned(size_t size) {
+    return (size + alignment - 1) & ~(alignment - 1);
+}
+
+// Cheap, and without a collision between the names in descriptions of encodings.
+size_t name_slot(const char *name, size_t length) {
+    const auto octet = [name](size_t i) { return size_t{static_cast<uint8_t>(name[i])}; };
+    return length == 0 ? 0 : (length + 2 * octet(0) + 3 * octet(length - 1)) % name_slots;
+}
+
+} // namespace
+
+Document *Document::create(size_t size) {
+    const size_t whole = aligned(sizeof(Document)) + aligned(size);
+    void *memory = kovra_malloc(whole, module, __LINE__);
+    if (memory == nullptr)
+        return nullptr;
+    auto *document = new (memory) Document;
+    document->next_ = static_cast<uint8_t *>(memory) + aligned(sizeof(Document));
+    document->end_ = static_cast<uint8_t *>(memory) + whole;
+    document->slab_size_ = first_slab;
+    return document;
+}
+
+Document *Document::of_root(kovra_json *root) {
+    return reinterpret_cast<Document *>(reinterpret_cast<uint8_t *>(root) - aligned(sizeof(Document)));
+}
+
+void Document::destroy(Document *document) {
+    while (document != nullptr) {
+        // The adopted go in front of what is left to do.
+        Document *rest = document->sibling_;
+        if (Document *first = document->adopted_; first != nullptr) {
+            Document *last = first;
+            while (last->sibling_ != nullptr)
+                last = last->sibling_;
+            last->sibling_ = rest;
+            rest = first;
+        }
+        for (Slab *slab = document->slabs_; slab != nullptr;) {
+            Slab *next = slab->next;
+            kovra_free(slab);
+            slab = next;
+        }
+        for (ItemIndex *index = document->indexes_; index != nullptr;) {
+            ItemIndex *next = index->next;
+            kovra_free(index->items);
+            kovra_free(index->slots);
+            kovra_free(index);
+            index = next;
+        }
+        // Its root is no value any more, for one who uses it after this.
+        std::memset(reinterpret_cast<uint8_t *>(document) + aligned(sizeof(Document)), 0, sizeof(uint32_t));
+        kovra_free(document);
+        document = rest;
+    }
+}
+
+void *Document::allocate(size_t size) {
+    size = aligned(size);
+    if (size > static_cast<size_t>(end_ - next_))
+        return allocate_in_new_slab(size);
+    void *memory = next_;
+    next_ += size;
+    return memory;
+}
+
+void *Document::allocate_in_new_slab(size_t size) {
+    constexpr size_t head = aligned(sizeof(Slab));
+    const size_t whole = std::max<size_t>(head + size, slab_size_);
+    if (size > SIZE_MAX - head)
+        return nullptr;
+    auto *slab = static_cast<Slab *>(kovra_malloc(whole, module, __LINE__));
+    if (slab == nullptr)
+        return nullptr;
+    slab->next = slabs_;
+    slabs_ = slab;
+    slab_size_ = std::min(slab_size_ * 2, largest_slab);
+    auto *memory = reinterpret_cast<uint8_t *>(slab) + head;
+    // Behind a large piece the rest of the current slab may be the larger one.
+    if (whole - head - size > static_cast<size_t>(end_ - next_)) {
+        next_ = memory + size;
+        end_ = reinterpret_cast<uint8_t *>(slab) + whole;
+    }
+    return memory;
+}
+
+kovra_json *Document::make_string(size_t length) {
+    void *memory = length <= most_json_items ? allocate(sizeof(kovra_json) + length + 1) : nullptr;
+    if (memory == nullptr)
+        return nullptr;
+    auto *value =
+        new (memory) kovra_json{json_magic | KOVRA_JSON_STRING, static_cast<uint32_t>(length), nullptr, nullptr};
+    value->text()[length] = '\0';
+    return value;
+}
+
+kovra_json *Document::make_number(double number) {
+    void *memory = allocate(sizeof(Number));
+    return memory != nullptr ? new (memory) Number{{json_magic | KOVRA_JSON_NUMBER, 0, nullptr, nullptr}, number}
+                             : nullptr;
+}
+
+kovra_json *Document::make_plain(uint8_t kind, bool truth) {
+    void *memory = allocate(sizeof(kovra_json));
+    return memory != nullptr ? new (memory) kovra_json{json_magic | kind, truth ? 1U : 0U, nullptr, nullptr} : nullptr;
+}
+
+Container *Document::make_container(uint8_t kind) {
+    void *memory = allocate(sizeof(Container));
+    return memory != nullptr ? new (memory)
+                                   Container{{json_magic | kind, 0, nullptr, nullptr}, this, nullptr, nullptr, nullptr}
+                             : nullptr;
+}
+
+const char *Document::copy_name(const char *name, size_t length) {
+    auto *copy = static_cast<char *>(allocate(length + 1));
+    if (copy == nullptr)
+        return nullptr;
+    if (length != 0)
+        std::memcpy(copy, name, length);
+    copy[length] = '\0';
+    return copy;
+}
+
+const char *Document::intern(const char *name, size_t length) {
+    if (names_ == nullptr) {
+        if (++name_count_ < names_shared_from)
+            return copy_name(name, length);
+        names_ = static_cast<Name *>(allocate(name_slots * sizeof(Name)));
+        if (names_ == nullptr)
+            return nullptr;
+        std::fill_n(names_, name_slots, Name{"", 0});
+    }
+    Name &slot = names_[name_slot(name, length)];
+    if (slot.length == length && std::memcmp(slot.text, name, length) == 0)
+        return slot.text;
+    const char *copy = copy_name(name, length);
+    if (copy != nullptr)
+        slot = {copy, length};
+    return copy;
+}
+
+// The links are shortened on the way, so that a chain built from the outside is not walked again and again.
+Document *Document::outermost() {
+    Document *document = this;
+    while (document->owner_ != nullptr) {
+        if (document->owner_->owner_ != nullptr)
+            document->owner_ = document->owner_->owner_;
+        document = document->owner_;
+    }
+    return document;
+}
+
+bool Document::adopt(kovra_json *root) {
+    Document *document = of_root(root);
+    if (outermost() == document)
+        return false;
+    document->owner_ = this;
+    document->sibling_ = adopted_;
+    adopted_ = document;
+    root->head &= ~json_root;
+    return true;
+}
+
+ItemIndex *Document::make_index() {
+    void *memory = kovra_malloc(sizeof(ItemIndex), module, __LINE__);
+    return memory != nullptr ? indexes_ = new (memory) ItemIndex{indexes_, nullptr, 0, 0, nullptr, 0, 0} : nullptr;
+}
+
+} // namespace kovra::util
