@@ -39,7 +39,7 @@ bool is_possible(const Identifier &identifier) {
 
 // Identifier and length octets; an end-of-contents marker counts as a header without content.
 Result walk_header(Decoder &decoder, Identifier &identifier, int32_t &length) {
-    if (const Result result = decode_identifier(decoder, identifier); result != success)
+    if (const Result result = decode_identifier(decoder, here(), identifier); result != success)
         return result;
     if (identifier.is_end_of_contents()) {
         length = 0;
@@ -47,7 +47,7 @@ Result walk_header(Decoder &decoder, Identifier &identifier, int32_t &length) {
     }
     if (!is_possible(identifier))
         return decoder.fail(here(), code::bad_tag);
-    return decode_length(decoder, length);
+    return decode_length(decoder, here(), length);
 }
 
 } // namespace

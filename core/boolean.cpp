@@ -56,6 +56,10 @@ Boolean *new_boolean(uint32_t word) {
 
 // NULL and end-of-contents have no record: whatever value comes with them is ignored.
 
+Site null_here(int32_t line = __builtin_LINE()) {
+    return {"ASN1_Null", line};
+}
+
 bool holds_anything(const Type &, const Value &) {
     return true;
 }
@@ -68,9 +72,9 @@ int32_t two_octets(const Type &, Value *, Measure) {
 
 Result encode_null_content(Encoder &encoder, const Type &, Value *, int32_t length) {
     if (!encoder.has_stream())
-        return encoder.fail(here(), code::null_argument);
+        return encoder.fail(null_here(), code::null_argument);
     if (length != 0) {
-        record_general(encoder.ctx(), here(), code::bad_length);
+        record_general(encoder.ctx(), null_here(), code::bad_length);
         return failure;
     }
     return success;
@@ -79,14 +83,14 @@ Result encode_null_content(Encoder &encoder, const Type &, Value *, int32_t leng
 Result encode_null(Encoder &encoder, const Type &, Value *) {
     static constexpr uint8_t octets[] = {tag::null, 0x00};
     if (!encoder.has_stream())
-        return encoder.fail(here(), code::null_argument);
-    return encoder.put(here(), octets, sizeof octets);
+        return encoder.fail(null_here(), code::null_argument);
+    return encoder.put(null_here(), octets, sizeof octets);
 }
 
 Result decode_null_content(Decoder &decoder, const Type &, const Element &element, Value *&) {
-    if (const Result result = enter_primitive(decoder, here(), element); result != success)
+    if (const Result result = enter_primitive(decoder, null_here(), element); result != success)
         return result;
-    return element.length == 0 ? success : decoder.fail(here(), code::bad_length);
+    return element.length == 0 ? success : decoder.fail(null_here(), code::bad_length);
 }
 
 Result encode_end_of_contents_content(Encoder &encoder, const Type &, Value *, int32_t length) {

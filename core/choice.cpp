@@ -140,11 +140,11 @@ Result decode_choice(Decoder &decoder, const Type &type, Value *&out) {
     Identifier identifier;
     int32_t length = 0;
     const uint32_t start = decoder.position();
-    if (const Result result = decode_identifier(decoder, identifier); result != success)
+    if (const Result result = decode_identifier(decoder, in(shape), identifier); result != success)
         return result;
     if (find(shape, identifier) == shape.count)
         return decoder.fail(in(shape), code::incorrect_item);
-    if (const Result result = decode_length(decoder, length); result != success)
+    if (const Result result = decode_length(decoder, in(shape), length); result != success)
         return result;
     if (!decoder.has_place())
         return decoder.fail(in(shape), code::null_argument);
@@ -215,11 +215,11 @@ Result decode_string_choice(Decoder &decoder, const Type &type, Value *&out) {
     Identifier identifier;
     int32_t length = 0;
     const uint32_t start = decoder.position();
-    if (const Result result = decode_identifier(decoder, identifier); result != success)
+    if (const Result result = decode_identifier(decoder, in(strings_of(type)), identifier); result != success)
         return result;
     if (!string_choice_begins(type, identifier))
         return fail_decode(decoder, in(strings_of(type)), type);
-    if (const Result result = decode_length(decoder, length); result != success)
+    if (const Result result = decode_length(decoder, in(strings_of(type)), length); result != success)
         return result;
     return decode_begun_string_choice(decoder, type, identifier, {identifier.form, length, start}, out);
 }

@@ -99,13 +99,13 @@ Result decode(Decoder &decoder, const Type &type, Value *&out) {
     Identifier identifier;
     int32_t length = 0;
     const uint32_t start = decoder.position();
-    if (const Result result = decode_identifier(decoder, identifier); result != success)
+    if (const Result result = decode_identifier(decoder, here(), identifier); result != success)
         return result;
     if (!identifier.is(Class::universal, type.tag))
         return decoder.fail(here(), code::incorrect_item);
     if (type.form != Form::either && type.form != identifier.form)
         return decoder.fail(here(), code::form_error);
-    if (const Result result = decode_length(decoder, length); result != success)
+    if (const Result result = decode_length(decoder, here(), length); result != success)
         return result;
     return type.operations->decode_content(decoder, type, {identifier.form, length, start}, out);
 }

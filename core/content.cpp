@@ -125,7 +125,7 @@ Result StreamSource::copy(Site site, uint32_t count, kovra_stream *destination) 
         if (const Result result = kovra_stream_read(stream_, buffer, wanted, &got, ctx_); result != success)
             return result;
         if (got <= 0)
-            return fail(site, code::stream_read);
+            return fail({"UTIL_Stream", site.line}, code::stream_read);
         if (destination != nullptr)
             if (const Result result = kovra_stream_writen(destination, buffer, got, nullptr, ctx_); result != success)
                 return result;

@@ -57,7 +57,7 @@ public:
         if (result != success)
             return result;
         if (got != 1)
-            return fail(site, code::stream_read);
+            return fail({"UTIL_Stream", site.line}, code::stream_read);
         ++count_;
         return success;
     }

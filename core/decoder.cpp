@@ -89,7 +89,8 @@ Result Decoder::short_read(Site site) {
     position_ = size_;
     if (stream_result_ != success)
         return stream_result_;
-    return fail(site, code::stream_read);
+    // The entry that a stream leaves when it ends too soon, also where its octets are read in place.
+    return fail({"UTIL_Stream", site.line}, code::stream_read);
 }
 
 // The octets that were read become the arena's.
@@ -177,14 +178,14 @@ Decoder::Scratch::~Scratch() {
     decoder_.checking_ = checking_;
 }
 
-Result decode_long_identifier(Decoder &decoder, Identifier &out) {
+Result decode_long_identifier(Decoder &decoder, Site site, Identifier &out) {
     const Result result = read_identifier(decoder, here(), out);
-    return result == success ? success : decoder.fail(here(), code::read_identifier, result);
+    return result == success ? success : decoder.fail(site, code::read_identifier, result);
 }
 
-Result decode_long_length(Decoder &decoder, int32_t &out) {
+Result decode_long_length(Decoder &decoder, Site site, int32_t &out) {
     const Result result = read_length(decoder, here(), out);
-    return result == success ? success : decoder.fail(here(), code::read_length, result);
+    return result == success ? success : decoder.fail(site, code::read_length, result);
 }
 
 } // namespace kovra::asn1

@@ -215,15 +215,15 @@ template <class Source> Result read_end_of_contents_length(Source &source, Site 
     return octet == 0 ? success : source.fail(site, code::bad_end_of_contents);
 }
 
-// The same on a decoder, with the entry that every caller adds on failure.
-Result decode_long_identifier(Decoder &decoder, Identifier &out);
-Result decode_long_length(Decoder &decoder, int32_t &out);
+// The same on a decoder, with the entry that every caller adds on failure: it names the caller.
+Result decode_long_identifier(Decoder &decoder, Site site, Identifier &out);
+Result decode_long_length(Decoder &decoder, Site site, int32_t &out);
 
 // What nearly every element has, one octet of each, is read in place.
-inline Result decode_identifier(Decoder &decoder, Identifier &out) {
+inline Result decode_identifier(Decoder &decoder, Site site, Identifier &out) {
     uint8_t octet = 0;
     if (!decoder.look(octet) || (octet & 0x1F) == 0x1F)
-        return decode_long_identifier(decoder, out);
+        return decode_long_identifier(decoder, site, out);
     decoder.step();
     out.tag_class = static_cast<Class>(octet & 0xC0);
     out.form = (octet & 0x20) != 0 ? Form::constructed : Form::primitive;
@@ -231,10 +231,10 @@ inline Result decode_identifier(Decoder &decoder, Identifier &out) {
     return success;
 }
 
-inline Result decode_length(Decoder &decoder, int32_t &out) {
+inline Result decode_length(Decoder &decoder, Site site, int32_t &out) {
     uint8_t octet = 0;
     if (!decoder.look(octet) || octet >= 0x80)
-        return decode_long_length(decoder, out);
+        return decode_long_length(decoder, site, out);
     decoder.step();
     out = octet;
     return success;

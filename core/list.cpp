@@ -227,7 +227,7 @@ Next read_element(Decoder &decoder, const Type &element, ListReading reading, bo
         const Result decoded = decode(decoder, element, out);
         return decoded == success ? Next::element : fault(fail_decode(decoder, here(), element, decoded));
     }
-    if (const Result read = decode_identifier(decoder, identifier); read != success)
+    if (const Result read = decode_identifier(decoder, here(), identifier); read != success)
         return fault(read);
     if (is_indefinite && identifier.is_end_of_contents()) {
         const Result read = read_end_of_contents_length(decoder, here());
@@ -240,7 +240,7 @@ Next read_element(Decoder &decoder, const Type &element, ListReading reading, bo
     }
     if (!begins(element, identifier))
         return fault(decoder.fail(here(), code::incorrect_item));
-    if (const Result read = decode_length(decoder, length); read != success)
+    if (const Result read = decode_length(decoder, here(), length); read != success)
         return fault(read);
     const Result decoded = decode_begun(decoder, element, identifier, {identifier.form, length, start}, out);
     return decoded == success ? Next::element : fault(fail_decode(decoder, here(), element, decoded));

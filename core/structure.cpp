@@ -223,7 +223,8 @@ private:
             if (is_plain && (is_required || component.type == KOVRA_ASN1_TYPE_ANY))
                 return read_whole(component, place);
             identifier_start_ = decoder_.position();
-            if (const Result result = decode_identifier(decoder_, identifier_); result != success)
+            if (const Result result = decode_identifier(decoder_, at(shape_, component), identifier_);
+                result != success)
                 return result;
             identifier_read_ = true;
         } else if (is_plain && component.type == KOVRA_ASN1_TYPE_ANY) {
@@ -235,7 +236,7 @@ private:
             return is_required ? decoder_.fail(at(shape_, component), code::incorrect_item) : success;
         identifier_read_ = false;
         int32_t length = 0;
-        if (const Result result = decode_length(decoder_, length); result != success)
+        if (const Result result = decode_length(decoder_, at(shape_, component), length); result != success)
             return result;
         return component.tag.tagging == Tagging::explicit_
                    ? decode_explicit(decoder_, at(shape_, component), component, length, place)

@@ -108,11 +108,11 @@ Result decode_begun_time(Decoder &decoder, const Type &, const Identifier &ident
 Result decode_time(Decoder &decoder, const Type &type, Value *&out) {
     Identifier identifier;
     int32_t length = 0;
-    if (const Result result = decode_identifier(decoder, identifier); result != success)
+    if (const Result result = decode_identifier(decoder, here(), identifier); result != success)
         return result;
     if (!time_begins(type, identifier))
         return decoder.fail(here(), code::bad_time_type);
-    if (const Result result = decode_length(decoder, length); result != success)
+    if (const Result result = decode_length(decoder, here(), length); result != success)
         return result;
     Value *value = nullptr;
     const Result result = decode_begun_time(decoder, type, identifier, {identifier.form, length}, value);
