@@ -11,8 +11,7 @@ namespace kovra::tool {
 
 namespace {
 
-// Names of files and labels can hold anything; a terminal gets no control
-// characters from them.
+// Names of files and labels can hold anything; a terminal gets no control characters from them.
 std::string harmless(std::string text) {
     std::replace_if(
         text.begin(), text.end(), [](char c) { return static_cast<uint8_t>(c) < 0x20 || c == 0x7F; }, '?');

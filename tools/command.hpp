@@ -24,8 +24,7 @@ struct Options {
     int32_t indent = 2;   // json: blanks a level, 0 for one line
 };
 
-// What is wrong with an input: where, and why, from the innermost cause
-// outward.
+// What is wrong with an input: where, and why, from the innermost cause outward.
 struct Trouble {
     struct Cause {
         int32_t code;
@@ -43,9 +42,8 @@ struct Refusal {
     size_t limit = 0; // the element has to end there at the latest
 };
 
-// Lets the library decode the element as each of the types in turn, and tells
-// how the first that fails does; where none does the element stands where none
-// may.
+// Lets the library decode the element as each of the types in turn, and tells how the first that fails does; where none
+// does the element stands where none may.
 Trouble explain(const Refusal &refusal, std::initializer_list<uint32_t> types);
 
 // One run of the tool.
@@ -56,16 +54,14 @@ public:
 
     [[nodiscard]] Status status() const { return status_; }
 
-    // Prints what is wrong to standard error, behind what was printed so far: a
-    // line "kovra-asn1: place: octet N: text (code)" with the outermost text and
-    // code, and the chain below it.
+    // Prints what is wrong to standard error, behind what was printed so far: a line "kovra-asn1: place: octet N: text
+    // (code)" with the outermost text and code, and the chain below it.
     void report(const std::string &place, const Trouble &trouble);
     // Prints that a file cannot be read or written.
     void report_file(const std::string &message);
 
-    // Calls the function with every item of every file until the output is over,
-    // with the name "file[number]". Files that cannot be read and malformed PEM
-    // blocks are reported on the way.
+    // Calls the function with every item of every file until the output is over, with the name "file[number]". Files
+    // that cannot be read and malformed PEM blocks are reported on the way.
     void for_each_item(const std::function<void(const Item &, const std::string &)> &function);
     // The same for whole files.
     void for_each_file(const std::function<void(std::vector<uint8_t> &&, const std::string &)> &function);

@@ -19,8 +19,7 @@ bool is_space(char character) {
     return character == ' ' || character == '\t' || character == '\n' || character == '\r';
 }
 
-// Where the next text begins: blanks and lines that begin with # are passed
-// over.
+// Where the next text begins: blanks and lines that begin with # are passed over.
 size_t text_begin(std::string_view text, size_t at) {
     if (at == 0 && text.starts_with("\xEF\xBB\xBF"))
         at = 3;
@@ -33,9 +32,8 @@ size_t text_begin(std::string_view text, size_t at) {
     }
 }
 
-// Where the text that begins here ends: behind the bracket that closes its
-// first one. What is no object or array goes to the end, for the parser to
-// refuse.
+// Where the text that begins here ends: behind the bracket that closes its first one. What is no object or array goes
+// to the end, for the parser to refuse.
 size_t text_end(std::string_view text, size_t at) {
     size_t depth = 0;
     bool is_string = false;
@@ -61,8 +59,7 @@ Trouble trouble(size_t octet, const char *text) {
     return {octet, {{KOVRA_ERR_BAD_ARGUMENT, text, "kovra-asn1"}}};
 }
 
-// Prints the encoding of one text; the octet and what is wrong there when it
-// has none.
+// Prints the encoding of one text; the octet and what is wrong there when it has none.
 void encode(Session &session, std::string_view all, size_t begin, size_t end, const std::string &place) {
     int64_t offset = 0;
     const std::unique_ptr<kovra_json, Free> value(

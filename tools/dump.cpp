@@ -91,8 +91,7 @@ private:
         } else {
             out_.put_right(header.length, width_);
         }
-        // Deeper levels are indented no further, so that a deep nest takes no more
-        // than a line each.
+        // Deeper levels are indented no further, so that a deep nest takes no more than a line each.
         constexpr size_t deepest_indent = 32;
         const size_t indent = 2 + 2 * std::min(open_.depth(), deepest_indent);
         out_.fill(' ', indent);
@@ -114,8 +113,7 @@ private:
         put_value(out_, header, octets_ + at_, style_);
     }
 
-    // The content is entered like that of a constructed element; the octet of
-    // unused bits, 0, goes to the header.
+    // The content is entered like that of a constructed element; the octet of unused bits, 0, goes to the header.
     void put_opened(Header &header, size_t blanks) {
         out_.fill(' ', blanks + 1);
         out_.put("contains an element");
@@ -151,8 +149,7 @@ private:
         return width;
     }
 
-    // Is the content of an OCTET STRING or a BIT STRING one element, well formed
-    // down to its primitive ones?
+    // Is the content of an OCTET STRING or a BIT STRING one element, well formed down to its primitive ones?
     bool is_opened(const Header &header) {
         if (header.lead != octet_string && header.lead != bit_string)
             return false;
@@ -166,15 +163,13 @@ private:
         return end - begin >= 2 && is_likely(octets_[begin]) && is_element(begin, end);
     }
 
-    // Keys and digests are random octets; only what content usually begins with
-    // is taken for an element.
+    // Keys and digests are random octets; only what content usually begins with is taken for an element.
     static bool is_likely(uint8_t lead) {
         constexpr std::string_view leads("\x01\x02\x03\x04\x05\x06\x0A\x0C\x13\x16\x17\x18\x1E\x30\x31");
         return leads.find(static_cast<char>(lead)) != std::string_view::npos;
     }
 
-    // Looks at every header once: strings inside are opened by later calls, which
-    // begin where this one passes over.
+    // Looks at every header once: strings inside are opened by later calls, which begin where this one passes over.
     bool is_element(size_t at, size_t end) {
         inside_.clear(end);
         do {

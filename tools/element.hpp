@@ -1,5 +1,5 @@
-// Headers of BER elements, read in place: the library's functions for this work
-// on streams, an octet a call. The limits are those of kovra/asn1_lib.h.
+// Headers of BER elements, read in place: the library's functions for this work on streams, an octet a call. The limits
+// are those of kovra/asn1_lib.h.
 #pragma once
 
 #include <cstddef>
@@ -22,9 +22,8 @@ struct Header {
 
 inline constexpr size_t nowhere = SIZE_MAX;
 
-// Reads the header at `position` of the octets before `end`. False when there
-// is none such; whether the content of a definite length ends before `end` is
-// checked too.
+// Reads the header at `position` of the octets before `end`. False when there is none such; whether the content of a
+// definite length ends before `end` is checked too.
 bool read_header(const uint8_t *octets, size_t position, size_t end, Header &out);
 
 // Does the library's open type take the tag in this form?
@@ -33,8 +32,8 @@ bool is_possible(const Header &header);
 // Which elements a walk passes over.
 enum class Tags : uint8_t { all, possible };
 
-// The position behind the element at `position`, `nowhere` when it does not end
-// before `end`. Only elements of indefinite length are looked into.
+// The position behind the element at `position`, `nowhere` when it does not end before `end`. Only elements of
+// indefinite length are looked into.
 size_t element_end(const uint8_t *octets, size_t position, size_t end, Tags tags);
 
 } // namespace kovra::tool

@@ -33,6 +33,9 @@ bool is_control(uint8_t octet) {
     return (octet < 0x20 && !is_space(octet)) || octet == 0x7F;
 }
 
+// Sizes that a file may claim beforehand; a directory claims more.
+constexpr long largest_trusted_size = 0x7FFFFFFE;
+
 constexpr std::string_view armour = "-----BEGIN ";
 
 // Where the first line of PEM armour begins; npos without one.
@@ -90,10 +93,17 @@ std::string read_file(const std::string &path, std::vector<uint8_t> &out) {
                                                       close);
     if (file == nullptr)
         return std::strerror(errno);
-    out.clear();
+    // Room for the whole file and an octet more, which shows that it ends; what cannot be positioned grows.
     constexpr size_t first_piece = 1 << 16;
-    for (size_t size = 0;;) {
-        out.resize(std::max(first_piece, size * 2));
+    size_t room = first_piece;
+    if (!is_standard_input && std::fseek(file.get(), 0, SEEK_END) == 0) {
+        if (const long end = std::ftell(file.get()); end > 0 && end < largest_trusted_size)
+            room = static_cast<size_t>(end) + 1;
+        std::rewind(file.get());
+    }
+    errno = 0;
+    for (size_t size = 0;; room = size * 2) {
+        out.resize(room);
         size += std::fread(out.data() + size, 1, out.size() - size, file.get());
         if (size == out.size())
             continue;

@@ -8,8 +8,7 @@
 
 namespace kovra::tool {
 
-// Reads a file whole, "-" being standard input. What the system says when that
-// fails; empty when it does not.
+// Reads a file whole, "-" being standard input. What the system says when that fails; empty when it does not.
 std::string read_file(const std::string &path, std::vector<uint8_t> &out);
 
 // One element, or what cannot be told apart into elements.
@@ -23,9 +22,8 @@ struct Item {
     std::string label;          // of the PEM block
 };
 
-// The items of a file. Its form is told by its content: octets with control
-// characters are BER; text is PEM when it has a block, else hexadecimal (blanks
-// and colons allowed) when it is nothing else, else base64 when it is that.
+// The items of a file. Its form is told by its content: octets with control characters are BER; text is PEM when it has
+// a block, else hexadecimal (blanks and colons allowed) when it is nothing else, else base64 when it is that.
 class Items {
 public:
     explicit Items(std::vector<uint8_t> file);

@@ -1,5 +1,4 @@
-// `json`: the description that kovra_asn1_tojson makes, printed while the
-// octets are walked, without a tree.
+// `json`: the description that kovra_asn1_tojson makes, printed while the octets are walked, without a tree.
 
 #include <array>
 #include <charconv>
@@ -18,8 +17,7 @@ namespace {
 constexpr uint32_t sequence = 16;
 constexpr uint32_t set = 17;
 
-// Prints nothing: a description is printed only when there is one, which a
-// first walk finds out.
+// Prints nothing: a description is printed only when there is one, which a first walk finds out.
 struct NoWriter {
     static constexpr bool prints = false;
 };
@@ -126,8 +124,7 @@ struct Free {
     void operator()(kovra_json *value) const { kovra_json_free(value); }
 };
 
-// The type of a universal tag that has a description of its own and no members;
-// 0 for others.
+// The type of a universal tag that has a description of its own and no members; 0 for others.
 constexpr auto leaf_types = [] {
     std::array<uint8_t, 32> of{};
     of[1] = KOVRA_ASN1_TYPE_BOOLEAN;
@@ -205,8 +202,7 @@ public:
     Description(const Item &item, Printer &printer)
         : octets_(item.octets), at_(item.begin), end_(item.end), to_(printer) {}
 
-    // False when the element has no description: refusal() and refused_type()
-    // tell where.
+    // False when the element has no description: refusal() and refused_type() tell where.
     bool run() {
         if (!element(end_))
             return false;
@@ -328,8 +324,7 @@ private:
         return true;
     }
 
-    // Values in the form that DER gives them; false, with nothing printed, for
-    // what is not so plain.
+    // Values in the form that DER gives them; false, with nothing printed, for what is not so plain.
     bool plain(const Header &header) {
         const uint8_t *content = octets_ + at_ + header.size;
         const size_t length = header.length;
@@ -471,8 +466,7 @@ private:
         return true;
     }
 
-    // Any other value of a type that has a description: the library says what it
-    // is.
+    // Any other value of a type that has a description: the library says what it is.
     bool by_library(uint32_t type, size_t limit) {
         const size_t end = element_end(octets_, at_, limit, Tags::possible);
         if (end == nowhere)

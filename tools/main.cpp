@@ -1,5 +1,4 @@
-// kovra-asn1: looks into files of BER and DER. Each command has a file of its
-// own.
+// kovra-asn1: looks into files of BER and DER. Each command has a file of its own.
 
 #include <CLI/CLI.hpp>
 
@@ -34,7 +33,7 @@ void describe(CLI::App &app, Session &session, Arguments &arguments, const Comma
     Options &options = session.options;
     app.require_subcommand(1);
     app.set_help_all_flag("--help-all", "Print this help and that of every command");
-    app.footer("Exit codes: 0 all good, 1 malformed input, 2 usage, 3 file or I/O.");
+    app.footer("Exit codes: 0 all good, 1 malformed input, 2 usage, 3 file or I/O.\n");
     app.add_option("--out", arguments.out, "Write to this file instead of standard output");
     app.add_option("--color", arguments.color, "auto, always or never; NO_COLOR in the environment turns auto off")
         ->check(CLI::IsMember({"auto", "always", "never"}));
@@ -78,7 +77,7 @@ int run(int argc, char **argv) {
     session.out.set_path(arguments.out);
     session.options.is_colored = is_colored(arguments, session.out);
     chosen->run(session);
-    session.out.finish();
+    session.out.finish(session.status() == Status::good);
     if (!session.out.failure().empty())
         session.report_file(session.out.failure());
     return static_cast<int>(session.status());

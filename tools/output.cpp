@@ -104,9 +104,9 @@ void Output::flush() {
     used_ = 0;
 }
 
-void Output::finish() {
+void Output::finish(bool may_be_empty) {
     flush();
-    if (file_ < 0)
+    if (file_ < 0 && may_be_empty)
         open();
     if (file_ > standard_output) {
         if (close_file(file_) != 0 && failure_.empty())

@@ -17,12 +17,10 @@ public:
     Output(const Output &) = delete;
     Output &operator=(const Output &) = delete;
 
-    // Names the file to write, made or emptied when the first octets go out;
-    // without one it is standard output.
+    // Names the file to write, made or emptied when the first octets go out; without one it is standard output.
     void set_path(const std::string &path) { path_ = path; }
 
-    // Room for `size` octets, at most `largest_room`; used(end) says how far it
-    // was filled.
+    // Room for `size` octets, at most `largest_room`; used(end) says how far it was filled.
     static constexpr size_t largest_room = 4096;
     char *room(size_t size) {
         if (capacity - used_ < size)
@@ -50,14 +48,13 @@ public:
 
     // Writes what is gathered.
     void flush();
-    // Writes the rest and closes a file, which is made even if nothing was
-    // printed.
-    void finish();
+    // Writes the rest and closes the file, which is made even if nothing was printed when it may be empty; otherwise a
+    // file of that name stays as it is.
+    void finish(bool may_be_empty);
 
     // Nothing more can be written; the rest is thrown away.
     [[nodiscard]] bool is_over() const { return is_over_; }
-    // What went wrong, and where; empty while nothing did. That nobody reads any
-    // more is nothing wrong.
+    // What went wrong, and where; empty while nothing did. That nobody reads any more is nothing wrong.
     [[nodiscard]] const std::string &failure() const { return failure_; }
     [[nodiscard]] bool is_terminal() const;
 

@@ -1,5 +1,4 @@
-// `types`: the type identifiers. Names are those of kovra/asn1_types.h, without
-// KOVRA_ASN1_TYPE_, where it has one.
+// `types`: the type identifiers. Names are those of kovra/asn1_types.h, without KOVRA_ASN1_TYPE_, where it has one.
 
 #include "command.hpp"
 #include "kovra/asn1.h"

@@ -145,8 +145,7 @@ private:
         out_.put(" octets)");
     }
 
-    // Octets of no known kind are shown as text when they look like it: `least`
-    // of them or more.
+    // Octets of no known kind are shown as text when they look like it: `least` of them or more.
     void text_or_hex(size_t least) {
         const bool is_text =
             length_ >= least && std::all_of(content_, content_ + length_, [](uint8_t octet) {
@@ -155,8 +154,7 @@ private:
         return is_text ? text(content_, length_) : hex(content_, length_);
     }
 
-    // Dotted text and, in it, the arcs that are complete; false where one is
-    // longer than 63 bits.
+    // Dotted text and, in it, the arcs that are complete; false where one is longer than 63 bits.
     bool dotted(std::string &out) const {
         uint64_t arc = 0;
         bool is_begun = false;
@@ -199,8 +197,7 @@ private:
             out_.put("\x1b[0m");
     }
 
-    // A character that is neither a control character nor one that a terminal
-    // acts on.
+    // A character that is neither a control character nor one that a terminal acts on.
     static bool is_harmless(uint32_t character) {
         const bool is_control = character < 0x20 || (character >= 0x7F && character < 0xA0);
         const bool is_direction = character == 0x061C || (character >= 0x200B && character <= 0x200F) ||
@@ -209,8 +206,7 @@ private:
         return !is_control && !is_direction && character < 0xE0000;
     }
 
-    // The octets of the well-formed character that begins here, which is stored;
-    // 0 when none does.
+    // The octets of the well-formed character that begins here, which is stored; 0 when none does.
     static size_t character_at(const uint8_t *octets, size_t length, uint32_t &character) {
         const uint8_t lead = octets[0];
         const size_t size = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
@@ -284,8 +280,7 @@ private:
         kovra_data_blob_free(utf8);
     }
 
-    // The form that DER prescribes, without asking the library: long lists are
-    // full of it.
+    // The form that DER prescribes, without asking the library: long lists are full of it.
     bool plain_time() {
         const size_t digits = header_.tag == 23 ? 12 : 14;
         const auto is_digit = [](uint8_t octet) { return octet >= '0' && octet <= '9'; };

@@ -16,9 +16,8 @@ struct ValueStyle {
 // The name of a universal tag; null for one that has none.
 const char *universal_name(uint32_t tag);
 
-// Prints the value of a primitive element: a blank, then the value; nothing for
-// an empty one without meaning. Text is quoted; in it control characters, those
-// that turn the direction of writing, and octets that are not of the character
+// Prints the value of a primitive element: a blank, then the value; nothing for an empty one without meaning. Text is
+// quoted; in it control characters, those that turn the direction of writing, and octets that are not of the character
 // set are escaped.
 void put_value(Output &out, const Header &header, const uint8_t *element, ValueStyle style);
 
