@@ -1,10 +1,9 @@
 // What holds for all primitive types alike, over every row of the table of decodings and what comes of changing it.
-#include <pthread.h>
-
 #include <chrono>
 #include <functional>
 
 #include "tests/asn1_testing.hpp"
+#include "tests/small_stack.hpp"
 
 namespace kovra::test {
 namespace {
@@ -251,24 +250,9 @@ TEST(Properties, AValueOfAnotherKindIsNotEncoded) {
 }
 
 // Runs on a thread with a small stack, and says how many seconds it took.
-double on_a_small_stack(const std::function<void()> &work) {
-#if defined(__SANITIZE_ADDRESS__)
-    constexpr size_t stack = 256 * 1024; // what the sanitizer adds to frames
-#else
-    constexpr size_t stack = 64 * 1024;
-#endif
+template <class Work> double on_a_small_stack(Work work) {
     auto start = std::chrono::steady_clock::now();
-    pthread_attr_t attributes;
-    pthread_attr_init(&attributes);
-    EXPECT_EQ(pthread_attr_setstacksize(&attributes, stack), 0);
-    pthread_t thread;
-    auto run = [](void *argument) -> void * {
-        (*static_cast<const std::function<void()> *>(argument))();
-        return nullptr;
-    };
-    EXPECT_EQ(pthread_create(&thread, &attributes, run, const_cast<std::function<void()> *>(&work)), 0);
-    pthread_join(thread, nullptr);
-    pthread_attr_destroy(&attributes);
+    run_on_small_stack(work);
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 

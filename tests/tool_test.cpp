@@ -294,6 +294,7 @@ TEST_F(Tool, DumpPrintsColumnsAndValues) {
         std::string expected;
     } rows[] = {
         {"02 02 FF7F", "     0   2      2  INTEGER                        -129\n"},
+        {"02 09 00FFFFFFFFFFFFFFFF", "     0   2      9  INTEGER                        0x00ffffffffffffffff\n"},
         {"06 03 550403", "     0   2      3  OBJECT IDENTIFIER              2.5.4.3 commonName\n"},
         {"17 0D 3530303232383132333435365A",
          "     0   2     13  UTCTime                        1950-02-28 12:34:56 UTC\n"},

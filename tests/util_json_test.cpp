@@ -52,6 +52,9 @@ TEST(UtilJson, ParsesAndPrintsWhatTheStandardAllows) {
         {"negative zero", "-0", "-0"},
         {"too small is zero", "[1e-999,-0.0000000001e-400,1e-99999999999999999999,0e999,0.0e99999999999999999999]",
          "[0,-0,0,0,0]"},
+        {"too small without exponent", "0." + std::string(400, '0') + "1", "0"},
+        {"large exponent that is made up for", "0." + std::string(400, '0') + "1e+401", "1"},
+        {"small exponent that is made up for", "1" + std::string(400, '0') + "e-399", "10"},
         {"escapes of code units", "\"\\u0041\\u00e9\\u20AC\\ud83d\\uDE00\"",
          "\"A\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80\""},
         {"all escapes", "\"\\\"\\\\\\/\\b\\f\\n\\r\\t\\u0000\\u001f\"", "\"\\\"\\\\/\\b\\f\\n\\r\\t\\u0000\\u001f\""},
@@ -108,6 +111,7 @@ TEST(UtilJson, RefusesWhatTheStandardDoesNotAllow) {
         {"hexadecimal", "0x1", 1},
         {"beyond a double", "1e999", 5},
         {"beyond a double, long", std::string(400, '9'), 400},
+        {"beyond a double with a small exponent", "1" + std::string(400, '0') + "e-9", 404},
         {"open string", "\"a", 2},
         {"single quotes", "'a'", 0},
         {"line end in a string", "\"\n\"", 1},
@@ -321,6 +325,11 @@ TEST(UtilJson, DepthIsBoundedByMemoryOnly) {
         int64_t offset = 0;
         EXPECT_EQ(parse(std::string(depth, '['), &offset), nullptr);
         EXPECT_EQ(offset, int64_t{depth});
+
+        // Indentation does not grow with the depth for ever.
+        constexpr size_t levels = 10000;
+        const Json indented = parse(std::string(levels, '[') + std::string(levels, ']'));
+        EXPECT_LE(print(indented, 1).size(), 2 * levels * 66);
 
         // Each in a document of its own, put together from the outside and from the inside.
         Json outer(kovra_json_newarray());
