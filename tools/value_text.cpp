@@ -55,7 +55,7 @@ constexpr std::array<const char *, 37> names = {
 
 // The octets that are shown of a long value.
 constexpr size_t shown_octets = 48;
-constexpr size_t shown_text = 256;
+constexpr size_t shown_text = 128;
 
 class ValuePrinter {
 public:
@@ -71,7 +71,7 @@ public:
             return length_ == 1 ? boolean() : hex(content_, length_);
         case 2:
         case 10:
-            return length_ - 1 < sizeof(uint64_t) ? integer() : hex(content_, length_);
+            return length_ - 1 < sizeof(uint64_t) ? integer() : hex(content_, length_, "0x");
         case 3:
             return length_ != 0 && content_[0] < 8 ? bits() : hex(content_, length_);
         case 4:
@@ -129,10 +129,12 @@ private:
         hex(content_ + 1, length_ - 1);
     }
 
-    void hex(const uint8_t *octets, size_t length) {
+    void hex(const uint8_t *octets, size_t length, std::string_view prefix = "") {
         const size_t shown = style_.is_full ? length : std::min(length, shown_octets);
-        if (length != 0)
+        if (length != 0) {
             out_.put(' ');
+            out_.put(prefix);
+        }
         out_.put_hex(octets, shown);
         cut(shown, length);
     }
