@@ -80,19 +80,6 @@ Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure)
     return encode_generic(encoder, type, value, type.operations->content_length(type, value, Measure::known));
 }
 
-bool begins(const Type &type, const Identifier &identifier) {
-    if (type.operations->begins != nullptr)
-        return type.operations->begins(type, identifier);
-    return identifier.is(Class::universal, type.tag) && (type.form == Form::either || type.form == identifier.form);
-}
-
-Result decode_begun(Decoder &decoder, const Type &type, const Identifier &identifier, const Element &element,
-                    Value *&out) {
-    if (type.operations->decode_begun != nullptr)
-        return type.operations->decode_begun(decoder, type, identifier, element, out);
-    return type.operations->decode_content(decoder, type, element, out);
-}
-
 Result decode(Decoder &decoder, const Type &type, Value *&out) {
     if (type.operations->decode != nullptr)
         return type.operations->decode(decoder, type, out);

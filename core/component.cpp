@@ -6,19 +6,6 @@
 
 namespace kovra::asn1 {
 
-const Type &encode_row(const Component &component) {
-    return row(component.encode_type != 0 ? component.encode_type : component.type);
-}
-const Type &decode_row(const Component &component) {
-    return row(component.decode_type != 0 ? component.decode_type : component.type);
-}
-int32_t encode_code(const Component &component) {
-    return component.encode_code != 0 ? component.encode_code : encode_row(component).base;
-}
-int32_t decode_code(const Component &component) {
-    return component.decode_code != 0 ? component.decode_code : decode_row(component).base + 1;
-}
-
 int32_t component_length(const Component &component, Value *value, Measure measure) {
     const Type &type = encode_row(component);
     switch (component.tag.tagging) {
@@ -64,11 +51,6 @@ Result encode_component(Encoder &encoder, Site site, const Component &component,
         return encode_tagged(encoder, site, component, value, measure);
     const Result result = encode(encoder, encode_row(component), value, measure);
     return result == success ? success : encoder.fail(site, encode_code(component), result);
-}
-
-Result decode_component(Decoder &decoder, Site site, const Component &component, Value *&out) {
-    const Result result = decode(decoder, decode_row(component), out);
-    return result == success ? success : decoder.fail(site, decode_code(component), result);
 }
 
 Result decode_explicit(Decoder &decoder, Site site, const Component &component, int32_t length, Value *&out) {

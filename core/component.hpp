@@ -89,10 +89,18 @@ template <size_t count> consteval bool is_sound(const Component (&components)[co
 }
 
 // The types and codes that apply in each direction.
-const Type &encode_row(const Component &component);
-const Type &decode_row(const Component &component);
-int32_t encode_code(const Component &component);
-int32_t decode_code(const Component &component);
+inline const Type &encode_row(const Component &component) {
+    return row(component.encode_type != 0 ? component.encode_type : component.type);
+}
+inline const Type &decode_row(const Component &component) {
+    return row(component.decode_type != 0 ? component.decode_type : component.type);
+}
+inline int32_t encode_code(const Component &component) {
+    return component.encode_code != 0 ? component.encode_code : encode_row(component).base;
+}
+inline int32_t decode_code(const Component &component) {
+    return component.decode_code != 0 ? component.decode_code : decode_row(component).base + 1;
+}
 
 // Octets that a value takes, the component's tag included.
 int32_t component_length(const Component &component, Value *value, Measure measure = Measure::fresh);
@@ -101,6 +109,9 @@ Result encode_component(Encoder &encoder, Site site, const Component &component,
 // Reads what an explicit tag whose length was read holds.
 Result decode_explicit(Decoder &decoder, Site site, const Component &component, int32_t length, Value *&out);
 // Reads a value whole, as the component's type.
-Result decode_component(Decoder &decoder, Site site, const Component &component, Value *&out);
+inline Result decode_component(Decoder &decoder, Site site, const Component &component, Value *&out) {
+    const Result result = decode(decoder, decode_row(component), out);
+    return result == success ? success : decoder.fail(site, decode_code(component), result);
+}
 
 } // namespace kovra::asn1

@@ -75,9 +75,17 @@ Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure 
 
 // Reads a whole value, and the content behind an identifier that `begins` accepted.
 Result decode(Decoder &decoder, const Type &type, Value *&out);
-bool begins(const Type &type, const Identifier &identifier);
-Result decode_begun(Decoder &decoder, const Type &type, const Identifier &identifier, const Element &element,
-                    Value *&out);
+inline bool begins(const Type &type, const Identifier &identifier) {
+    if (type.operations->begins != nullptr)
+        return type.operations->begins(type, identifier);
+    return identifier.is(Class::universal, type.tag) && (type.form == Form::either || type.form == identifier.form);
+}
+inline Result decode_begun(Decoder &decoder, const Type &type, const Identifier &identifier, const Element &element,
+                           Value *&out) {
+    if (type.operations->decode_begun != nullptr)
+        return type.operations->decode_begun(decoder, type, identifier, element, out);
+    return type.operations->decode_content(decoder, type, element, out);
+}
 
 // A copy that is independent of the value, by encoding and decoding it. Null, with entries, when that fails.
 Value *duplicate(const Type &type, const Value *value, kovra_err_ctx *ctx);

@@ -185,7 +185,7 @@ public:
             if (!is_indefinite() && consumed() > static_cast<uint32_t>(length_))
                 return decoder_.fail(at(shape_, component), code::incorrect_length);
         }
-        for (uint8_t i = 0; i < shape_.count; ++i)
+        for (uint8_t i = 0; shape_.has_defaults && i < shape_.count; ++i)
             if (record_.slots[i] == nullptr && shape_.components[i].presence == Presence::defaulted)
                 if ((record_.slots[i] = shape_.components[i].fallback->make(decoder_.arena())) == nullptr)
                     return decoder_.fail(at(shape_, shape_.components[i]), code::no_memory);

@@ -54,18 +54,12 @@ template <class Visit> bool for_each_subidentifier(const uint8_t *octets, uint32
     return true;
 }
 
-// Can a text be made? Subidentifiers of at most nine octets fit 64 bits without counting.
+// Can a text be made? Where no octet is 80 and none has room for ten, no subidentifier begins with 80 or is too large.
 bool has_text(const uint8_t *octets, uint32_t length) {
     constexpr uint32_t surely_fits = 9;
-    uint32_t begin = 0;
-    bool is_sure = true;
-    for (uint32_t i = 0; i < length; ++i) {
-        if (octets[i] >= 0x80)
-            continue;
-        is_sure = is_sure && octets[begin] != 0x80 && i - begin < surely_fits;
-        begin = i + 1;
-    }
-    return is_sure || for_each_subidentifier(octets, length, [](uint64_t) {});
+    if (length <= surely_fits && std::memchr(octets, 0x80, length) == nullptr)
+        return true;
+    return for_each_subidentifier(octets, length, [](uint64_t) {});
 }
 
 Result decode_oid_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
