@@ -102,7 +102,7 @@ Result encode_any_content(Encoder &encoder, const Type &, Value *value, int32_t 
     return length == indefinite || copied == length ? success : encoder.fail(here(), code::short_copy);
 }
 
-Result decode_any(Decoder &decoder, const Type &, Value *&out) {
+[[gnu::noinline]] Result decode_any_with_care(Decoder &decoder, Value *&out) {
     if (const Result result = enter(decoder, here()); result != success)
         return result;
     Extent extent;
@@ -110,6 +110,25 @@ Result decode_any(Decoder &decoder, const Type &, Value *&out) {
         return result;
     out = new_any(decoder, extent);
     return out != nullptr ? success : decoder.fail(here(), code::no_memory);
+}
+
+Result decode_any(Decoder &decoder, const Type &, Value *&out) {
+    const uint32_t start = decoder.position();
+    uint8_t octet = 0;
+    uint32_t length = 0;
+    if (decoder.has_both_ends() && decoder.header(octet, length)) {
+        auto *any =
+            begins_element[octet] ? static_cast<Any *>(decoder.arena().allocate_in_place(sizeof(Any))) : nullptr;
+        if (any != nullptr) {
+            fill_any(*any, decoder.arena(),
+                     {start, decoder.position(), identifier_of(octet), static_cast<int32_t>(length)}, length);
+            decoder.step_over(length);
+            out = any;
+            return success;
+        }
+        decoder.rewind(start);
+    }
+    return decode_any_with_care(decoder, out);
 }
 
 // An element, or the end-of-contents that stands where one may stand.

@@ -62,21 +62,24 @@ inline Result walk_element(Decoder &decoder, Extent &out) {
     return walk_element_with_care(decoder, out);
 }
 
+// Makes a record the open-type value of an element whose content, with its end-of-contents, has so many octets.
+inline void fill_any(Any &any, Arena &arena, const Extent &extent, uint32_t content_octets) {
+    const bool is_marker = extent.identifier.is_end_of_contents();
+    any = {{Kind::any, 0, &arena},
+           {nullptr, extent.start, is_marker ? 0 : extent.content - extent.start},
+           {{nullptr, extent.content, content_octets}, nullptr, 0},
+           extent.identifier.tag,
+           extent.length,
+           extent.identifier.tag_class,
+           extent.identifier.form,
+           is_marker};
+}
+
 // The open-type record of an element that was just walked over; null when memory is short.
 inline Any *new_any(Decoder &decoder, const Extent &extent) {
-    Arena &arena = decoder.arena();
-    auto *any = static_cast<Any *>(arena.allocate(sizeof(Any)));
-    if (any == nullptr)
-        return nullptr;
-    const bool is_marker = extent.identifier.is_end_of_contents();
-    *any = {{Kind::any, 0, &arena},
-            {nullptr, extent.start, is_marker ? 0 : extent.content - extent.start},
-            {{nullptr, extent.content, decoder.position() - extent.content}, nullptr, 0},
-            extent.identifier.tag,
-            extent.length,
-            extent.identifier.tag_class,
-            extent.identifier.form,
-            is_marker};
+    auto *any = static_cast<Any *>(decoder.arena().allocate(sizeof(Any)));
+    if (any != nullptr)
+        fill_any(*any, decoder.arena(), extent, decoder.position() - extent.content);
     return any;
 }
 

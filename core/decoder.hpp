@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 
 #include "core/arena.hpp"
 #include "core/failure.hpp"
@@ -50,8 +51,9 @@ public:
     [[nodiscard]] uint32_t position() const { return position_; }
     void rewind(uint32_t position) { position_ = position; }
     [[nodiscard]] const uint8_t *at(uint32_t offset) const { return base_ + offset; }
-    // How many octets are there from an offset on.
-    [[nodiscard]] uint32_t reach_of(uint32_t offset) const { return size_ - offset; }
+    // The octets from the position on, and how many there are.
+    [[nodiscard]] const uint8_t *next() const { return base_ + position_; }
+    [[nodiscard]] uint32_t reach() const { return size_ - position_; }
     [[nodiscard]] Arena &arena() const { return *arena_; }
     [[nodiscard]] kovra_err_ctx *ctx() const { return ctx_; }
     [[nodiscard]] bool has_stream() const { return !no_stream_; }
@@ -118,6 +120,24 @@ public:
     }
     // Adds an entry that succeeds: the decode goes on.
     void warn(Site site, int32_t code) const { record(ctx_, site, code); }
+
+    // Primitive content of at least one octet that is all there goes into a new record, made in the room that the
+    // arena has left; null, and nothing done, when it is anything else. A content decoder that tries this first does
+    // the usual in a few instructions, and everything else, and all that can go wrong, behind it.
+    template <class T> T *take(const Element &element, Octets &octets) {
+        const auto length = static_cast<uint32_t>(element.length);
+        if (element.form != Form::primitive || length - 1 >= size_ - position_ || !has_both_ends_)
+            return nullptr;
+        auto *record = static_cast<T *>(arena_->allocate_in_place(sizeof(T)));
+        if (record == nullptr)
+            return nullptr;
+        std::memset(static_cast<void *>(record), 0, sizeof(T));
+        record->kind = T::own_kind;
+        record->arena = arena_;
+        octets = {nullptr, position_, length};
+        position_ += length;
+        return record;
+    }
 
     // A content decoder's first look: are there a stream and a place for the value?
     [[nodiscard]] bool has_both_ends() const { return has_both_ends_; }

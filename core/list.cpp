@@ -139,7 +139,8 @@ public:
         auto *items = static_cast<Value **>(list_->arena->allocate(size_t{count_} * sizeof(Value *)));
         if (items == nullptr)
             return nullptr;
-        std::copy_n(built_, count_, items);
+        for (uint32_t i = 0; i < count_; ++i)
+            items[i] = built_[i];
         list_->items = items;
         list_->element = &element;
         list_->count = list_->capacity = count_;

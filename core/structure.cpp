@@ -341,7 +341,13 @@ private:
     State state_ = State::between;
 };
 
-Result decode_structure_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
+// What decoding keeps of a structure besides its components.
+enum class Keep : uint8_t {
+    nothing,
+    encoding, // the octets from its identifier on
+};
+
+template <Keep keep> Result decode_content_of(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     const Structure &shape = shape_of(type);
     if (const Result result = enter(decoder, in(shape)); result != success)
         return result;
@@ -361,18 +367,14 @@ Result decode_structure_content(Decoder &decoder, const Type &type, const Elemen
         return result;
     if (shape.allows != nullptr && !shape.allows(*record))
         return decoder.fail(in(shape), shape.refusal);
+    if (keep == Keep::encoding && element.start != Element::no_start)
+        kept_of(*record)[0] = decoder.octets_from(element.start);
     out = record;
     return success;
 }
 
-// A structure that keeps its encoding: the octets from its identifier on.
-Result decode_kept_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
-    if (const Result result = decode_structure_content(decoder, type, element, out); result != success)
-        return result;
-    if (element.start != Element::no_start)
-        *kept_of(*static_cast<Record *>(out)) = decoder.octets_from(element.start);
-    return success;
-}
+constexpr auto decode_structure_content = decode_content_of<Keep::nothing>;
+constexpr auto decode_kept_content = decode_content_of<Keep::encoding>;
 
 // One of definite length ends where it says: its components do not reach beyond.
 Result decode_kept_entered(Decoder &decoder, const Type &type, const Element &element, Value *&out) {

@@ -55,27 +55,31 @@ template <class Visit> bool for_each_subidentifier(const uint8_t *octets, uint32
     return true;
 }
 
-// Is one of the first octets, of which eight can be read, 80? (The classic test for a zero octet, on the octets with
-// their highest bit turned.)
-bool has_80(const uint8_t *octets, uint32_t length) {
-    constexpr uint64_t every = 0x0101010101010101;
-    uint64_t word = 0;
-    std::memcpy(&word, octets, sizeof word);
-    if (length < sizeof word)
-        word |= ~uint64_t{0} << (8 * length);
-    word ^= every * 0x80;
-    return ((word - every) & ~word & every * 0x80) != 0;
-}
-
-// Can a text be made? Where no octet is 80 and none has room for ten, no subidentifier begins with 80 or is too large.
-bool has_text(const uint8_t *octets, uint32_t length, uint32_t reach) {
-    if constexpr (std::endian::native == std::endian::little)
-        if (length <= 9 && reach >= 9 && !has_80(octets, length) && octets[8] != 0x80)
-            return true;
+// Can a text be made? No subidentifier begins with 80 or is too large.
+bool has_text(const uint8_t *octets, uint32_t length) {
     return for_each_subidentifier(octets, length, [](uint64_t) {});
 }
 
-Result decode_oid_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
+// The same told at a glance, of which false says nothing: no octet is 80, and no subidentifier has room to be too
+// large.
+bool surely_has_text(const uint8_t *octets, int32_t length, uint32_t reach) {
+    constexpr int32_t longest = 9;
+    constexpr uint64_t every = 0x0101010101010101;
+    if (std::endian::native != std::endian::little || length > longest || reach < longest)
+        return false;
+    uint64_t word = 0;
+    std::memcpy(&word, octets, sizeof word);
+    if (length < static_cast<int32_t>(sizeof word))
+        word |= ~uint64_t{0} << (8 * (length & 7));
+    else if (octets[longest - 1] == 0x80)
+        return false;
+    // The classic test for a zero octet, on the octets with their highest bit turned.
+    word ^= every * 0x80;
+    return ((word - every) & ~word & every * 0x80) == 0;
+}
+
+[[gnu::noinline]] Result decode_long_oid_content(Decoder &decoder, const Type &type, const Element &element,
+                                                 Value *&out) {
     if (const Result result = enter_primitive(decoder, here(), element); result != success)
         return result;
     if (element.length < 1)
@@ -88,10 +92,22 @@ Result decode_oid_content(Decoder &decoder, const Type &type, const Element &ele
         return result;
     oid->octets = decoder.octets_from(begin);
     oid->relative = type.number == KOVRA_ASN1_TYPE_RELATIVE_OID;
-    if (!has_text(decoder.at(begin), oid->octets.length, decoder.reach_of(begin)))
+    if (!has_text(decoder.at(begin), oid->octets.length))
         return decoder.fail(here(), code::bad_oid_content);
     out = oid;
     return success;
+}
+
+Result decode_oid_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
+    Octets octets;
+    if (surely_has_text(decoder.next(), element.length, decoder.reach()))
+        if (auto *oid = decoder.take<ObjectIdentifier>(element, octets); oid != nullptr) {
+            oid->octets = octets;
+            oid->relative = type.number == KOVRA_ASN1_TYPE_RELATIVE_OID;
+            out = oid;
+            return success;
+        }
+    return decode_long_oid_content(decoder, type, element, out);
 }
 
 char *put_number(char *out, uint64_t number) {
