@@ -34,30 +34,23 @@ Result encode_oid_content(Encoder &encoder, const Type &, Value *value, int32_t 
     return encoder.put(here(), oid->octets.data(*oid->arena), oid->octets.length);
 }
 
-// Calls visit(subidentifier) with each that is complete: octets of an unfinished one at the end stay in the content
-// and are not part of the text. False when one does not fit 64 bits or begins with a redundant 80.
-template <class Visit> bool for_each_subidentifier(const uint8_t *octets, uint32_t length, Visit visit) {
+// Can a text be made? No subidentifier begins with a redundant 80 or does not fit 64 bits. Octets of an unfinished one
+// at the end stay in the content and are not part of the text.
+bool has_text(const uint8_t *octets, uint32_t length) {
     uint64_t value = 0;
     uint32_t begin = 0;
     bool fits = true;
     for (uint32_t i = 0; i < length; ++i) {
-        if (value >= uint64_t{1} << 57)
-            fits = false;
+        fits = fits && value < uint64_t{1} << 57;
         value = value << 7 | (octets[i] & 0x7FU);
         if (octets[i] >= 0x80)
             continue;
         if (!fits || octets[begin] == 0x80)
             return false;
-        visit(value);
         value = 0;
         begin = i + 1;
     }
     return true;
-}
-
-// Can a text be made? No subidentifier begins with 80 or is too large.
-bool has_text(const uint8_t *octets, uint32_t length) {
-    return for_each_subidentifier(octets, length, [](uint64_t) {});
 }
 
 // The same told at a glance, of which false says nothing: no octet is 80, and no subidentifier has room to be too
@@ -110,8 +103,15 @@ Result decode_oid_content(Decoder &decoder, const Type &type, const Element &ele
     return decode_long_oid_content(decoder, type, element, out);
 }
 
+// Most arcs have one digit or two.
 char *put_number(char *out, uint64_t number) {
-    return std::to_chars(out, out + max_arc_digits, number).ptr;
+    if (number >= 100)
+        return std::to_chars(out, out + max_arc_digits, number).ptr;
+    const auto digits = static_cast<uint32_t>(number);
+    if (digits >= 10)
+        *out++ = static_cast<char>('0' + digits / 10);
+    *out++ = static_cast<char>('0' + digits % 10);
+    return out;
 }
 
 // The dotted text, in the arena of the record; null when memory is short.
@@ -124,19 +124,26 @@ const char *text_of(ObjectIdentifier &oid) {
     if (text == nullptr)
         return nullptr;
     char *end = text;
-    bool is_first = true;
-    for_each_subidentifier(octets, oid.octets.length, [&](uint64_t value) {
-        if (is_first && !oid.relative) {
-            const uint64_t root = value < 40 ? 0 : value < 80 ? 1 : 2;
-            end = put_number(end, root);
-            value -= root * 40;
-            is_first = false;
-        }
-        if (!is_first)
+    uint64_t value = 0;
+    bool is_root = !oid.relative;
+    // What cannot be a text was refused when the record was made.
+    for (uint32_t i = 0; i < oid.octets.length; ++i) {
+        value = value << 7 | (octets[i] & 0x7FU);
+        if (octets[i] >= 0x80)
+            continue;
+        if (end != text)
             *end++ = '.';
-        is_first = false;
+        if (is_root) {
+            // The first subidentifier holds two arcs.
+            const uint32_t root = value < 40 ? 0 : value < 80 ? 1 : 2;
+            *end++ = static_cast<char>('0' + root);
+            *end++ = '.';
+            value -= root * 40;
+            is_root = false;
+        }
         end = put_number(end, value);
-    });
+        value = 0;
+    }
     *end = '\0';
     return oid.text = text;
 }
