@@ -142,10 +142,15 @@ Result decode_choice(Decoder &decoder, const Type &type, Value *&out) {
     const uint32_t start = decoder.position();
     if (const Result result = decode_identifier(decoder, in(shape), identifier); result != success)
         return result;
-    if (find(shape, identifier) == shape.count)
+    const bool is_known = find(shape, identifier) != shape.count;
+    // Where only the tag number tells the alternative, a broken length comes to light before an unknown number.
+    const bool may_be_known = is_known || (shape.any_form && identifier.tag_class == Class::context);
+    if (!may_be_known)
         return decoder.fail(in(shape), code::incorrect_item);
     if (const Result result = decode_length(decoder, in(shape), length); result != success)
         return result;
+    if (!is_known)
+        return decoder.fail(in(shape), code::incorrect_item);
     if (!decoder.has_both_ends())
         return decoder.fail(in(shape), code::null_argument);
     return decode_begun_choice(decoder, type, identifier, {identifier.form, length, start}, out);

@@ -191,7 +191,10 @@ public:
         const uint32_t end = end_;
         const Component *component = shape_.components;
         const Component *const last = component + shape_.count;
+        const Component *const required_end = component + shape_.required_end;
         Value **slot = record_.slots;
+        // What stands behind a component that may be absent is known by its identifier, whether that was there or not.
+        bool follows_optional = false;
         if (shape_.signed_slot == 0) {
             *slot = nullptr;
             if (const Result result = read_signed(*component++, *slot++); result != success)
@@ -202,14 +205,15 @@ public:
             *slot = nullptr;
             if (state_ != State::between)
                 result = state_ == State::ended ? leave_absent(*component, *slot) : read_tested(*component, *slot);
-            else if (decoder.position() == end && component->presence != Presence::required)
+            else if (decoder.position() == end && component >= required_end)
                 result = leave_absent(*component, *slot);
-            else if (component->is_read_whole)
+            else if (component->is_read_whole && !(follows_optional && component->type != KOVRA_ASN1_TYPE_ANY))
                 result = read_whole(*component, *slot);
             else
                 result = read_tested(*component, *slot);
             if (result != success)
                 return result;
+            follows_optional = component->presence != Presence::required;
             if (decoder.position() > end)
                 return decoder.fail(at(shape_, *component), code::incorrect_length);
         }
@@ -268,7 +272,14 @@ private:
 
     Result read_tested(const Component &component, Value *&slot) {
         if (state_ == State::between) {
+            const Type &type = decode_row(component);
+            uint32_t length = 0;
             identifier_start_ = decoder_.position();
+            if (component.tag.tagging == Tagging::none && type.operations->begins == nullptr &&
+                decoder_.enter(type.usual_identifier, length)) {
+                identifier_ = identifier_of(type.usual_identifier);
+                return read_content(component, static_cast<int32_t>(length), slot);
+            }
             if (const Result result = decode_identifier(decoder_, at(shape_, component), identifier_);
                 result != success)
                 return result;
