@@ -27,6 +27,7 @@ std::vector<Row> rows() {
                 fields[0] + ": " + fields[1],
                 noted(fields[1]),
                 fields[2] != "-",
+                fields[2] != "~",
                 "",
                 {}};
         if (row.is_accepted)
