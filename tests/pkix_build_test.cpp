@@ -343,6 +343,11 @@ TEST(PkixBuild, NamesGrow) {
     EXPECT_EQ(kovra_x500name_addrdn(name.get(), own, 0), 0);
     EXPECT_EQ(kovra_x500name_addrdn(name.get(), own, 1), 1);
     EXPECT_EQ(kovra_asn1_list_getsize(kovra_x500name_getdn(name.get())), 3);
+    // A name that a certificate holds grows, and what the certificate writes stays.
+    const Value cert = noted_value(39, "{cert}");
+    EXPECT_EQ(kovra_x500name_addrdn(kovra_x509pubkeycert_getsubject(cert.get()), rdn.get(), 1), 1);
+    EXPECT_EQ(borrowed(32, kovra_x509pubkeycert_getsubject(cert.get())), noted_hex("30({rdn} {rdn})"));
+    EXPECT_EQ(encoding(cert), noted_hex("{cert}"));
     // Refused arguments change nothing.
     Value foreign = list_of({noted_value(2, "{int}").release()});
     const std::string before = encoding(name);
