@@ -171,7 +171,7 @@ std::string borrowed(uint32_t type, kovra_asn1_value *value) {
 }
 
 bool is_list(uint32_t type) {
-    for (uint32_t list : {31, 37, 44, 64, 66, 78, 137, 138, 141, 142})
+    for (uint32_t list : {31U, 37U, 44U, 64U, 66U, 78U, 137U, 138U, 141U, 142U})
         if (type == list)
             return true;
     return false;
