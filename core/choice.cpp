@@ -84,10 +84,13 @@ uint8_t find(const ChoiceShape &shape, const Identifier &identifier) {
         const Component &component = shape.alternatives[i];
         const Type &type = decode_row(component);
         if (component.tag.tagging == Tagging::none) {
-            if (begins(type, identifier))
+            if (component.begins == Begins::in_any_form ? identifier.is(Class::universal, type.tag)
+                                                        : begins(type, identifier))
                 break;
             continue;
         }
+        if (component.begins == Begins::with_any_number && identifier.tag_class == Class::context)
+            break;
         const bool is_constructed = component.tag.tagging == Tagging::explicit_ || type.form == Form::constructed;
         if (identifier.is(Class::context, component.tag.number) &&
             (shape.any_form || !is_constructed || identifier.form == Form::constructed))
@@ -273,6 +276,15 @@ Choice *construct_choice(const ChoiceShape &shape, uint32_t alternative, const k
     choice->shape = &shape;
     choice->alternative = alternative;
     choice->value = copy;
+    return choice;
+}
+
+Choice *construct_null_choice(const ChoiceShape &shape, uint32_t alternative) {
+    auto *choice = new_root<Choice>();
+    if (choice == nullptr)
+        return nullptr;
+    choice->shape = &shape;
+    choice->alternative = alternative;
     return choice;
 }
 

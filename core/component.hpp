@@ -22,6 +22,17 @@ extern const Default default_zero;  // INTEGER 0, as far as it reads as a 32-bit
 extern const Default default_false; // BOOLEAN FALSE
 extern const Default default_true;  // BOOLEAN TRUE
 
+// What a constant encoding decodes to: a new value, and the test whether one is encoded just so.
+Value *make_encoded(Arena &arena, uint8_t type, const uint8_t *octets, size_t count);
+bool is_encoded(const Value &value, uint8_t type, const uint8_t *octets, size_t count);
+
+// A default given by its type and its encoding.
+template <uint8_t type, const auto &octets>
+inline constexpr Default default_encoding = {
+    [](Arena &arena) { return make_encoded(arena, type, octets, sizeof octets); },
+    [](const Value &value) { return is_encoded(value, type, octets, sizeof octets); },
+};
+
 struct Tag {
     Tagging tagging;
     uint8_t number;
@@ -33,6 +44,15 @@ constexpr Tag implicit_tag(uint8_t number) {
 constexpr Tag explicit_tag(uint8_t number) {
     return {Tagging::explicit_, number};
 }
+
+// Which identifiers begin a component. The form is usually that of the tag's content, except that the content of an
+// implicit tag, where its type is primitive, finds a constructed form by itself.
+enum class Begins : uint8_t {
+    usually,
+    in_any_form,    // an alternative's class and tag alone tell; a wrong form is found when the content is read
+    in_own_form,    // under an implicit tag too
+    with_any_number // and any context tag, in either form
+};
 
 struct Component {
     const char *name;
@@ -50,6 +70,7 @@ struct Component {
     // Is it decoded whole, without a look at its identifier first?
     bool is_read_whole =
         tag.tagging == Tagging::none && (presence == Presence::required || type == KOVRA_ASN1_TYPE_ANY);
+    Begins begins = Begins::usually;
 
     constexpr Component codes(int32_t encode, int32_t decode) const {
         Component changed = *this;
@@ -65,6 +86,11 @@ struct Component {
     constexpr Component decode_as(uint8_t other) const {
         Component changed = *this;
         changed.read_as = &registry[other];
+        return changed;
+    }
+    constexpr Component begun(Begins how) const {
+        Component changed = *this;
+        changed.begins = how;
         return changed;
     }
 };

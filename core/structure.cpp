@@ -239,7 +239,8 @@ private:
             return begins(type, identifier_);
         case Tagging::implicit:
             return identifier_.is(Class::context, component.tag.number) &&
-                   (type.form != Form::constructed || identifier_.form == Form::constructed);
+                   (identifier_.form == type.form ||
+                    (type.form != Form::constructed && component.begins != Begins::in_own_form));
         case Tagging::explicit_:
             return identifier_.is(Class::context, component.tag.number) && identifier_.form == Form::constructed;
         }
