@@ -44,7 +44,7 @@ kovra_asn1_value *kovra_ecpkparameters_new_implicitlyca(void) noexcept {
 
 int32_t kovra_ecpkparameters_gettype(const kovra_asn1_value *obj) noexcept {
     const Choice *choice = as_choice(ecpk_parameters, obj);
-    return choice != nullptr ? static_cast<int32_t>(choice->alternative) + 1 : -1;
+    return choice != nullptr ? static_cast<int32_t>(choice->alternative) + 1 : 0;
 }
 
 kovra_asn1_value *kovra_ecpkparameters_namedcurve(const kovra_asn1_value *obj) noexcept {

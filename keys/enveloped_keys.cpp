@@ -94,7 +94,7 @@ kovra_asn1_value *kovra_innerenvelopedkeypair_newsm2(const kovra_asn1_value *sm2
 
 int32_t kovra_innerenvelopedkeypair_gettype(const kovra_asn1_value *obj) noexcept {
     const Choice *choice = as_choice(inner_enveloped_key_pair, obj);
-    return choice != nullptr ? static_cast<int32_t>(choice->alternative) + 1 : -1;
+    return choice != nullptr ? static_cast<int32_t>(choice->alternative) + 1 : 0;
 }
 
 kovra_asn1_value *kovra_innerenvelopedkeypair_getrsa(const kovra_asn1_value *obj) noexcept {

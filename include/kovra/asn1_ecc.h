@@ -21,7 +21,7 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_ecpkparameters_new_namedcurve(const kovra
  * which has no value. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_ecpkparameters_new_implicitlyca(void) KOVRA_NOTHROW;
 
-/* kovra_ecpkparameters_gettype returns the number of the alternative, 1 to 3; -1 for null and for a value of another
+/* kovra_ecpkparameters_gettype returns the number of the alternative, 1 to 3; 0 for null and for a value of another
  * kind. */
 KOVRA_ASN1_API int32_t kovra_ecpkparameters_gettype(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
@@ -116,7 +116,7 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_innerenvelopedkeypair_newrsa(const kovra_
  * SM2EnvelopedKey. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_innerenvelopedkeypair_newsm2(const kovra_asn1_value *sm2) KOVRA_NOTHROW;
 
-/* kovra_innerenvelopedkeypair_gettype returns the number of the alternative, 1 or 2; -1 for null and for a value of
+/* kovra_innerenvelopedkeypair_gettype returns the number of the alternative, 1 or 2; 0 for null and for a value of
  * another kind. */
 KOVRA_ASN1_API int32_t kovra_innerenvelopedkeypair_gettype(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
