@@ -61,6 +61,7 @@ struct Component {
     Tag tag;
     const Default *fallback; // of a defaulted component
     int32_t line;
+    Begins begins = Begins::usually;
     // Codes that stand in for those of the component's type; 0: none does.
     int32_t encode_code = 0;
     int32_t decode_code = 0;
@@ -70,8 +71,12 @@ struct Component {
     // Is it decoded whole, without a look at its identifier first?
     bool is_read_whole =
         tag.tagging == Tagging::none && (presence == Presence::required || type == KOVRA_ASN1_TYPE_ANY);
-    Begins begins = Begins::usually;
 
+    constexpr Component begun(Begins how) const {
+        Component changed = *this;
+        changed.begins = how;
+        return changed;
+    }
     constexpr Component codes(int32_t encode, int32_t decode) const {
         Component changed = *this;
         changed.encode_code = encode;
@@ -86,11 +91,6 @@ struct Component {
     constexpr Component decode_as(uint8_t other) const {
         Component changed = *this;
         changed.read_as = &registry[other];
-        return changed;
-    }
-    constexpr Component begun(Begins how) const {
-        Component changed = *this;
-        changed.begins = how;
         return changed;
     }
 };
