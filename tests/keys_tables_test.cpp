@@ -86,7 +86,7 @@ TEST(KeysTables, FormsTagsAndStreams) {
         EXPECT_EQ(decode_content(type, "", 0, -2).codes, Codes({0x10001}));
         EXPECT_EQ(encode(type, nullptr).codes, Codes({0x10002}));
         EXPECT_EQ(kovra_asn1_length(type, nullptr), -2);
-        Value value = decoded(type, hex(row.data)), indefinite;
+        Value value = decoded(type, hex(row.data));
         Encoded content = encode_content(type, value.get(), -1);
         ASSERT_EQ(content.result, 1);
         EXPECT_EQ(content.octets.substr(content.octets.size() - 2), std::string(2, '\0'));

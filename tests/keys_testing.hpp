@@ -27,8 +27,10 @@ inline void expect_clean_without_memory(uint32_t type, const std::string &data) 
     fail_each_allocation([&] {
         Input input(data);
         kovra_asn1_value *out = nullptr;
-        if (input.stream() == nullptr || kovra_asn1_decode(input.stream(), type, &out, nullptr, nullptr) != 1)
-            return out != nullptr;
+        if (input.stream() == nullptr || kovra_asn1_decode(input.stream(), type, &out, nullptr, nullptr) != 1) {
+            EXPECT_EQ(out, nullptr);
+            return false;
+        }
         Value value(type, out);
         Value copy(type, kovra_asn1_dupobject(type, value.get(), nullptr));
         return copy && Blob(kovra_asn1_mem_encode(type, copy.get())) != nullptr;
