@@ -10,6 +10,7 @@
 #include "kovra/asn1_codec.h"
 #include "kovra/asn1_dss.h"
 #include "kovra/asn1_ecc.h"
+#include "kovra/asn1_decode.h"
 #include "kovra/asn1_extension.h"
 #include "kovra/asn1_integer.h"
 #include "kovra/asn1_json.h"
