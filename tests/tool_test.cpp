@@ -54,6 +54,15 @@ protected:
         return {std::atoi(content("code").c_str()), content("out"), content("err")};
     }
 
+    // The same with what a shell command writes as standard input, through a pipe.
+    [[nodiscard]] Result run_on_pipe(const std::string &writer, const std::string &arguments) const {
+        file("out", "");
+        const std::string command = "cd " + directory_.string() + " && { " + writer + "; } | { " KOVRA_TOOL_PATH " " +
+                                    arguments + "; echo $? > code; } 2> err > out";
+        EXPECT_EQ(std::system(command.c_str()), 0);
+        return {std::atoi(content("code").c_str()), content("out"), content("err")};
+    }
+
     // What `der` makes of what `json` prints.
     [[nodiscard]] std::string there_and_back(std::string_view input, const std::string &style) const {
         const Result json = run("json " + style, input);
@@ -286,6 +295,58 @@ TEST_F(Tool, EveryItemIsShown) {
     EXPECT_EQ(damaged.out, description(one, 2) + description(two, 2));
     EXPECT_EQ(damaged.error.find("kovra-asn1: -[2]: octet 0: "), 0U) << damaged.error;
     EXPECT_EQ(damaged.code, 1);
+}
+
+TEST_F(Tool, PipesAreReadLikeFiles) {
+    const std::string two = octets("02 01 05 30 80 05 00 00 00");
+    const std::string inputs[] = {
+        "",
+        octets("02 01 05"),
+        two,
+        two + octets("00 00 02 01"),
+        two + octets("00 05"),
+        two + octets("04 05 00"),                              // cut short
+        octets("30 04 04 05 00 00 05 00"),                     // malformed inside
+        octets("30 80 04 80 00 00 00 00 05 00"),               // primitive and indefinite
+        octets("5F 37 04 01 02 03 04 05 00"),                  // tag numbers of several octets
+        octets("30 80 BF 81 00 02 05 00 00 00 05 00"),         // also inside
+        octets("30 30") + repeated("A", 48) + octets("05 00"), // for long like text
+        pem(two, "TWO"),
+        base64(two),
+        octets("04 82 00 40") + pem(octets("05 00"), "X"),
+        repeated(octets("30 82 04 00") + repeated(octets("05 00"), 512), 3000), // items are dropped on the way
+    };
+    for (const std::string &input : inputs) {
+        SCOPED_TRACE(kovra::test::hex(input.substr(0, 20)));
+        for (const char *command : {"dump", "json"}) {
+            const Result expected = run(command, input);
+            for (const char *writer : {"cat in", "dd if=in bs=1 2> dd"}) {
+                if (input.size() > 1000 && writer[0] == 'd')
+                    continue;
+                const Result found = run_on_pipe(writer, command);
+                EXPECT_EQ(found.out, expected.out);
+                EXPECT_EQ(found.error, expected.error);
+                EXPECT_EQ(found.code, expected.code);
+            }
+        }
+    }
+}
+
+// The writer goes on until it sees its elements shown, or gives up.
+TEST_F(Tool, PipesThatDoNotEndAreShownAsTheyCome) {
+    const auto see = [](const std::string &text) {
+        return "for i in $(seq 600); do grep -q '" + text + "' out && echo seen >> seen && break; sleep 0.05; done";
+    };
+    file("first", octets("02 01 05"));
+    file("second", octets("30 80 05 00"));
+    file("third", octets("00 00"));
+    EXPECT_EQ(
+        run_on_pipe("cat first; " + see("INTEGER") + "; cat second third; " + see("end-of-contents"), "dump").code, 0);
+    EXPECT_EQ(content("seen"), "seen\nseen\n");
+    // Nothing can follow what is no element; who writes on is told by a closed pipe.
+    EXPECT_EQ(run_on_pipe("cat /dev/zero", "dump").code, 1);
+    EXPECT_EQ(run_on_pipe("while cat first; do :; done 2> cat", "dump | head -n 2 | tail -n 1").out,
+              "     0   2      1  INTEGER                        5\n");
 }
 
 TEST_F(Tool, DumpPrintsColumnsAndValues) {

@@ -67,8 +67,8 @@ void Session::report(const std::string &place, const Trouble &trouble) {
     out.flush();
     status_ = std::max(status_, Status::malformed);
     const Trouble::Cause &outermost = trouble.chain.back();
-    std::string text = "kovra-asn1: " + place + ": octet " + std::to_string(trouble.octet) + ": " + outermost.text +
-                       " (" + hexadecimal(outermost.code) + ")\n";
+    std::string text = "kovra-asn1: " + place + ": octet " + std::to_string(origin_ + trouble.octet) + ": " +
+                       outermost.text + " (" + hexadecimal(outermost.code) + ")\n";
     if (!options.is_quiet) {
         size_t width = 0;
         for (const Trouble::Cause &cause : trouble.chain)
@@ -98,21 +98,39 @@ void Session::for_each_file(const std::function<void(std::vector<uint8_t> &&, co
     }
 }
 
-void Session::for_each_item(const std::function<void(const Item &, const std::string &)> &function) {
-    for_each_file([&](std::vector<uint8_t> &&octets, const std::string &file) {
-        Items items(std::move(octets));
-        Item item;
-        while (!out.is_over() && items.next(item)) {
-            const std::string place = file + "[" + std::to_string(item.number) + "]";
-            item.is_only = item.is_only && options.files.size() == 1;
-            item.label = harmless(item.label);
-            if (item.is_bad_armour)
-                report(place,
-                       {0, {{KOVRA_ERR_STREAM_PEM, kovra_igetStreamError(KOVRA_ERR_STREAM_PEM), "UTIL_Coding"}}});
-            else
-                function(item, place);
+void Session::for_each_item(const ForItem &function) {
+    for (const std::string &file : options.files) {
+        if (out.is_over())
+            return;
+        std::string failure;
+        if (file == "-" && StandardInput::arrives_in_pieces()) {
+            StandardInput input([this] { out.flush(); });
+            for_each_of(Items(input), file, function);
+            failure = input.failure();
+        } else {
+            std::vector<uint8_t> octets;
+            failure = read_file(file, octets);
+            if (failure.empty())
+                for_each_of(Items(std::move(octets)), harmless(file), function);
         }
-    });
+        if (!failure.empty())
+            report_file(file + ": " + failure);
+    }
+}
+
+void Session::for_each_of(Items items, const std::string &file, const ForItem &function) {
+    Item item;
+    while (!out.is_over() && items.next(item)) {
+        const std::string place = file + "[" + std::to_string(item.number) + "]";
+        item.is_only = item.is_only && options.files.size() == 1;
+        item.label = harmless(item.label);
+        origin_ = item.origin;
+        if (item.is_bad_armour)
+            report(place, {0, {{KOVRA_ERR_STREAM_PEM, kovra_igetStreamError(KOVRA_ERR_STREAM_PEM), "UTIL_Coding"}}});
+        else
+            function(item, place);
+    }
+    origin_ = 0;
 }
 
 } // namespace kovra::tool

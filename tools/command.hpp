@@ -61,13 +61,18 @@ public:
     void report_file(const std::string &message);
 
     // Calls the function with every item of every file until the output is over, with the name "file[number]". Files
-    // that cannot be read and malformed PEM blocks are reported on the way.
+    // that cannot be read and malformed PEM blocks are reported on the way. Items of a pipe are given as they come,
+    // with what was printed before them written out.
     void for_each_item(const std::function<void(const Item &, const std::string &)> &function);
     // The same for whole files.
     void for_each_file(const std::function<void(std::vector<uint8_t> &&, const std::string &)> &function);
 
 private:
+    using ForItem = std::function<void(const Item &, const std::string &)>;
+    void for_each_of(Items items, const std::string &file, const ForItem &function);
+
     Status status_ = Status::good;
+    size_t origin_ = 0; // of the item at hand
 };
 
 struct Command {

@@ -50,11 +50,13 @@ private:
 class Dump {
 public:
     Dump(const Item &item, Session &session)
-        : octets_(item.octets), at_(item.begin), out_(session.out), open_(item.end), inside_(item.end),
+        : octets_(item.octets), origin_(item.origin), at_(item.begin), out_(session.out), open_(item.end),
+          inside_(item.end),
           is_colored_(session.options.is_colored), style_{session.options.is_full, session.options.is_colored} {
         constexpr size_t usual_width = 6;
         char digits[20];
-        const auto width = static_cast<size_t>(std::to_chars(digits, digits + sizeof digits, item.end).ptr - digits);
+        const auto width =
+            static_cast<size_t>(std::to_chars(digits, digits + sizeof digits, item.origin + item.end).ptr - digits);
         width_ = std::max(usual_width, width);
     }
 
@@ -82,7 +84,7 @@ public:
 
 private:
     void put_line(Header &header) {
-        out_.put_right(at_, width_);
+        out_.put_right(origin_ + at_, width_);
         out_.put_right(header.size, 4);
         out_.put(' ');
         if (header.is_indefinite) {
@@ -197,6 +199,7 @@ private:
     static constexpr uint32_t set = 17;
 
     const uint8_t *octets_;
+    size_t origin_;
     size_t at_;
     Output &out_;
     OpenElements open_;

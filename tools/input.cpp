@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "element.hpp"
+#include "kovra/asn1.h"
 #include "kovra/util.h"
 
 #if defined(_WIN32)
@@ -79,6 +80,24 @@ bool from_base64(const std::vector<uint8_t> &text, std::vector<uint8_t> &out) {
     return take(octets, length, out) && !out.empty();
 }
 
+// Are the first octets those of BER, whatever follows? Reads until that is known or unlikely.
+bool begins_as_ber(StandardInput &input, std::vector<uint8_t> &octets) {
+    constexpr size_t enough = 1 << 16;
+    size_t seen = 0;
+    while (octets.size() < enough && input.read(octets)) {
+        const auto control = std::find_if(octets.begin() + static_cast<ptrdiff_t>(seen), octets.end(), is_control);
+        if (control != octets.end())
+            return find_armour(view(octets).substr(0, static_cast<size_t>(control - octets.begin()))) ==
+                   std::string_view::npos;
+        seen = octets.size();
+    }
+    return false;
+}
+
+struct Free {
+    void operator()(kovra_asn1_decode_any_ctx *ctx) const { kovra_asn1_decode_any_ctx_free(ctx); }
+};
+
 } // namespace
 
 std::string read_file(const std::string &path, std::vector<uint8_t> &out) {
@@ -113,6 +132,22 @@ std::string read_file(const std::string &path, std::vector<uint8_t> &out) {
 }
 
 Items::Items(std::vector<uint8_t> file) {
+    recognize(std::move(file));
+}
+
+Items::Items(StandardInput &input) {
+    std::vector<uint8_t> octets;
+    if (begins_as_ber(input, octets)) {
+        input_ = &input;
+        chunk_ = {true, false, "", std::move(octets)};
+    } else {
+        input.read_all(octets);
+        if (!octets.empty() || input.failure().empty())
+            recognize(std::move(octets));
+    }
+}
+
+void Items::recognize(std::vector<uint8_t> file) {
     const size_t begin = find_armour(view(file));
     const auto text_end = begin != std::string_view::npos ? file.begin() + static_cast<ptrdiff_t>(begin) : file.end();
     if (std::any_of(file.begin(), text_end, is_control)) {
@@ -146,7 +181,79 @@ Items::Chunk Items::next_block() {
     return block;
 }
 
+// False when the input ends before.
+bool Items::await_octets(size_t end) {
+    while (chunk_.octets.size() < end)
+        if (!input_->read(chunk_.octets))
+            return false;
+    return true;
+}
+
+// Reads on until the element at the position is there, as far as it is one that the library takes in pieces. False when
+// it has to be looked for without.
+bool Items::await_content() {
+    const std::vector<uint8_t> &octets = chunk_.octets;
+    const std::unique_ptr<kovra_asn1_decode_any_ctx, Free> ctx(kovra_asn1_decode_any_ctx_new());
+    size_t taken = position_;
+    uint32_t tag_class = 0;
+    int32_t form = 0;
+    int32_t tag = 0;
+    int32_t length = 0;
+    int32_t left = 0;
+    constexpr int32_t more_input_needed = -100;
+    constexpr size_t largest_piece = 1 << 30;
+    const auto piece = [&] { return static_cast<int32_t>(std::min(octets.size() - taken, largest_piece)); };
+    for (int32_t result = more_input_needed; result != 1;) {
+        if (!await_octets(taken + 1))
+            return true;
+        const int32_t count = piece();
+        result = kovra_asn1_decode_any_identifier_length(ctx.get(), 0, octets.data() + taken, count, &tag_class, &form,
+                                                         &tag, &length, &left);
+        // Tag numbers of several octets are not read as in files.
+        if (result == 0 || (octets[position_] & 0x1F) == 0x1F)
+            return false;
+        taken += static_cast<size_t>(count - left);
+    }
+    if (length >= 0) {
+        const size_t rest_of_marker = octets[position_] == 0 ? 1 : 0;
+        await_octets(taken + static_cast<size_t>(length) + rest_of_marker);
+        return true;
+    }
+    while (kovra_asn1_decode_any_isfinish(ctx.get()) == 0) {
+        if (!await_octets(taken + 1))
+            return true;
+        const int32_t count = piece();
+        if (kovra_asn1_decode_any_update(ctx.get(), octets.data() + taken, count, &left) != 1)
+            return false;
+        taken += static_cast<size_t>(count - left);
+    }
+    return element_end(octets.data(), position_, taken, Tags::all) == taken;
+}
+
+void Items::await_element() {
+    std::vector<uint8_t> &octets = chunk_.octets;
+    // What was given goes, but for an octet: position 0 says that nothing was.
+    constexpr size_t worth_dropping = 1 << 20;
+    if (position_ > worth_dropping && position_ > octets.size() / 2) {
+        const size_t dropped = position_ - 1;
+        octets.erase(octets.begin(), octets.begin() + static_cast<ptrdiff_t>(dropped));
+        origin_ += dropped;
+        position_ -= dropped;
+    }
+    if (await_content())
+        return;
+    // Looking again only each time that the octets have doubled keeps the time linear where there are many.
+    constexpr size_t many = 4096;
+    for (size_t more = 1; element_end(octets.data(), position_, octets.size(), Tags::all) == nowhere;) {
+        if (!await_octets(octets.size() + more))
+            return;
+        more = octets.size() - position_ < many ? 1 : octets.size() - position_;
+    }
+}
+
 bool Items::next(Item &out) {
+    if (input_ != nullptr)
+        await_element();
     if (position_ != 0 && position_ >= chunk_.octets.size()) {
         chunk_ = std::move(ahead_);
         ahead_ = chunk_.exists ? next_block() : Chunk();
@@ -157,12 +264,17 @@ bool Items::next(Item &out) {
     const std::vector<uint8_t> &octets = chunk_.octets;
     size_t end = element_end(octets.data(), position_, octets.size(), Tags::all);
     // What follows octets that are no element has no beginning of its own.
-    if (end == nowhere || octets[position_] == 0)
+    if (end == nowhere || octets[position_] == 0) {
         end = octets.size();
-    out = {octets.data(), position_, end, ++count_, false, chunk_.is_bad_armour, chunk_.label};
+        input_ = nullptr;
+    }
+    // Whether the first is the only one shows with the next octet. Where nothing comes for a while, it is given first.
+    const bool may_be_only = count_ == 0 && end == octets.size() && !ahead_.exists;
+    const bool has_more = may_be_only && input_ != nullptr && (StandardInput::pauses() || input_->read(chunk_.octets));
+    out = {octets.data(), origin_, position_, end, ++count_, false, chunk_.is_bad_armour, chunk_.label};
     // A chunk without octets has been given, too.
     position_ = std::max<size_t>(end, 1);
-    out.is_only = count_ == 1 && end == octets.size() && !ahead_.exists;
+    out.is_only = may_be_only && !has_more;
     return true;
 }
 

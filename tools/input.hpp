@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "standard_input.hpp"
+
 namespace kovra::tool {
 
 // Reads a file whole, "-" being standard input. What the system says when that fails; empty when it does not.
@@ -14,6 +16,7 @@ std::string read_file(const std::string &path, std::vector<uint8_t> &out);
 // One element, or what cannot be told apart into elements.
 struct Item {
     const uint8_t *octets = nullptr; // the decoded block or file; positions count from here
+    size_t origin = 0;               // octets of the input in front of these, gone already
     size_t begin = 0;
     size_t end = 0;
     size_t number = 0; // in the file, from 1 on
@@ -27,6 +30,9 @@ struct Item {
 class Items {
 public:
     explicit Items(std::vector<uint8_t> file);
+    // Items of an input that arrives in pieces. One of BER is given as soon as it is complete, and dropped behind that;
+    // other forms are read to their end first.
+    explicit Items(StandardInput &input);
 
     // The next item, valid until the next call; false behind the last one.
     bool next(Item &out);
@@ -40,12 +46,18 @@ private:
         std::vector<uint8_t> octets;
     };
 
+    void recognize(std::vector<uint8_t> file);
     Chunk next_block();
+    void await_element();
+    bool await_content();
+    bool await_octets(size_t end);
 
-    std::vector<uint8_t> text_; // of PEM
+    StandardInput *input_ = nullptr; // where more of the chunk comes from
+    std::vector<uint8_t> text_;      // of PEM
     int64_t text_position_ = 0;
     Chunk chunk_;
     Chunk ahead_;
+    size_t origin_ = 0;   // octets that were dropped in front of the chunk
     size_t position_ = 0; // in the chunk
     size_t count_ = 0;
 };
