@@ -171,6 +171,7 @@ constexpr Row rows[] = {
     {"30 03 00 00 00", refused, "half a marker"},
     {"30 80 00 01", refused, "no marker"},
     {"30 80 30 02 00 00 00 00", 8, "only the last marker ends the element"},
+    {"30 08 30 80 30 04 00 00 00 00", refused, "nor do markers in a definite one end what is around it"},
     // Tag numbers of several octets: an octet of 80 and above ends them and is the first length octet.
     {"9F 01 81 02 41 42", 6, "tag 129, length 2"},
     {"9F 1F 05 82 00 01 41", 7, "a number of three octets"},

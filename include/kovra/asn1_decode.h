@@ -33,7 +33,7 @@
  * 80 and above ends it, and is read again as the first length octet. 1F 01 82 01 00 has tag number 130 and length 256.
  * An element with such a tag, or with one inside, is mostly refused, or ends elsewhere than by X.690 (clause 8.1.2.4).
  *
- * Nothing is recorded in an error context but by kovra_asn1_decode_any_ctx_toobject. A context of another kind is
+ * Nothing is recorded in an error context but by kovra_asn1_decode_any_ctx_toobject. A handle of another kind is
  * refused like null. A context is for one thread at a time. */
 #ifndef KOVRA_ASN1_DECODE_H
 #define KOVRA_ASN1_DECODE_H
@@ -78,7 +78,8 @@ KOVRA_ASN1_API int32_t kovra_asn1_decode_any_identifier_length(kovra_asn1_decode
 
 /* kovra_asn1_decode_any_ctx_toobject reads the complete element as a value of the type and stores it; the context stays
  * as it is and may be asked again, and the value does not need it. Codes, in `ctx_err`: 0x10002 for null `ctx` or
- * place; 0x10001 when the element is not complete; then those of kovra_asn1_any_toobject. */
+ * place; 0x10001 when the element is not complete, and for a handle of another kind; then those of
+ * kovra_asn1_any_toobject. */
 KOVRA_ASN1_API int32_t kovra_asn1_decode_any_ctx_toobject(const kovra_asn1_decode_any_ctx *ctx, uint32_t type,
                                                           kovra_asn1_value **out_value,
                                                           kovra_err_ctx *ctx_err) KOVRA_NOTHROW;
