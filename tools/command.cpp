@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <memory>
 
 #include "kovra/asn1.h"
 #include "kovra/util.h"
+#include "tool_handles.hpp"
 
 namespace kovra::tool {
 
@@ -23,12 +23,6 @@ std::string hexadecimal(int32_t code) {
     std::snprintf(text, sizeof text, "0x%x", static_cast<unsigned>(code));
     return text;
 }
-
-template <class T, void (*release)(T *)> struct Release {
-    void operator()(T *handle) const { release(handle); }
-};
-using Context = std::unique_ptr<kovra_err_ctx, Release<kovra_err_ctx, kovra_err_ctx_free>>;
-using Stream = std::unique_ptr<kovra_stream, Release<kovra_stream, kovra_stream_free>>;
 
 } // namespace
 
