@@ -31,6 +31,9 @@ public:
     // The next item, valid until the next call; false behind the last one.
     bool next(Item &out);
 
+    // The file is text of none of these forms, which is hardly meant to be one element.
+    [[nodiscard]] bool is_other_text() const { return is_other_text_; }
+
 private:
     // A decoded block, or the whole file.
     struct Chunk {
@@ -48,6 +51,7 @@ private:
     Chunk ahead_;
     size_t position_ = 0; // in the chunk
     size_t count_ = 0;
+    bool is_other_text_ = false;
 };
 
 } // namespace kovra::tool
