@@ -118,7 +118,6 @@ size_t alternative_of(const kovra_asn1_value *name) {
 void put_other_name(Printer &printer, const kovra_asn1_value *name) {
     printer.out.put(name_of_oid(kovra_instanceoftypeid_getid(name)));
     printer.out.put(' ');
-    // The value stands in an explicit tag, which may be the element that the library gives, or left out by it.
     const std::string value = encoding_of(KOVRA_ASN1_TYPE_ANY, kovra_instanceoftypeid_gettype(name));
     std::string text;
     if (!characters_of(value, text))

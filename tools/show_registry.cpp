@@ -51,7 +51,7 @@ constexpr TypeRow structures[] = {
 };
 
 void show_nothing(Printer &printer, kovra_asn1_value *) {
-    printer.field("value", "NULL");
+    printer.field("content", "NULL");
 }
 
 constexpr OidRow extensions[] = {
