@@ -45,7 +45,8 @@ void describe(CLI::App &app, Session &session, Arguments &arguments, const Comma
     app.add_option("--out", arguments.out, "Write to this file instead of standard output");
     app.add_option("--color", arguments.color, "auto, always or never; NO_COLOR in the environment turns auto off")
         ->check(CLI::IsMember({"auto", "always", "never"}));
-    app.add_flag("--quiet", options.is_quiet, "No headings, summary and progress bar, and only the first line of an error");
+    app.add_flag("--quiet", options.is_quiet,
+                 "No headings, summary and progress bar, and only the first line of an error");
     for (const Command &command : commands) {
         CLI::App *sub = app.add_subcommand(command.name, command.help)->fallthrough();
         sub->callback([&chosen, &command] { chosen = &command; });

@@ -51,6 +51,8 @@ public:
             value = value << 8 | static_cast<uint8_t>(octet);
         return value;
     }
+    // As many octets as the two before them say.
+    std::string_view counted() { return run(static_cast<size_t>(number(2))); }
 
 private:
     std::string_view octets_;
@@ -63,7 +65,7 @@ bool show_timestamp(Printer &printer, std::string_view octets) {
     const uint64_t version = reader.number(1);
     const std::string_view log = reader.run(32);
     const uint64_t milliseconds = reader.number(8);
-    reader.run(reader.number(2));
+    reader.counted();
     if (!reader.is_good() || version != 0)
         return false;
     const Time time(kovra_time_newunix(static_cast<int64_t>(milliseconds / 1000),
@@ -195,11 +197,11 @@ void show_statements(Printer &printer, kovra_asn1_value *statements) {
 void show_timestamps(Printer &printer, kovra_asn1_value *string) {
     const std::string octets = octets_of(string);
     Reader reader(octets);
-    Reader list(reader.run(reader.number(2)));
+    Reader list(reader.counted());
     if (!reader.is_good() || !reader.is_empty())
         return printer.hex("octets", octets);
     while (!list.is_empty()) {
-        const std::string_view timestamp = list.run(list.number(2));
+        const std::string_view timestamp = list.counted();
         if (!list.is_good())
             return printer.hex("octets", octets);
         if (!show_timestamp(printer, timestamp))
