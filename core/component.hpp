@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "core/registry.hpp"
+#include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {
 
@@ -21,6 +22,17 @@ extern const Default default_zero;  // INTEGER 0, as far as it reads as a 32-bit
 extern const Default default_false; // BOOLEAN FALSE
 extern const Default default_true;  // BOOLEAN TRUE
 
+// What a constant encoding decodes to: a new value, and the test whether one is encoded just so.
+Value *make_encoded(Arena &arena, uint8_t type, const uint8_t *octets, size_t count);
+bool is_encoded(const Value &value, uint8_t type, const uint8_t *octets, size_t count);
+
+// A default given by its type and its encoding.
+template <uint8_t type, const auto &octets>
+inline constexpr Default default_encoding = {
+    [](Arena &arena) { return make_encoded(arena, type, octets, sizeof octets); },
+    [](const Value &value) { return is_encoded(value, type, octets, sizeof octets); },
+};
+
 struct Tag {
     Tagging tagging;
     uint8_t number;
@@ -33,6 +45,15 @@ constexpr Tag explicit_tag(uint8_t number) {
     return {Tagging::explicit_, number};
 }
 
+// Which identifiers begin a component. The form is usually that of the tag's content, except that the content of an
+// implicit tag, where its type is primitive, finds a constructed form by itself.
+enum class Begins : uint8_t {
+    usually,
+    in_any_form,    // an alternative's class and tag alone tell; a wrong form is found when the content is read
+    in_own_form,    // under an implicit tag too
+    with_any_number // and any context tag, in either form
+};
+
 struct Component {
     const char *name;
     uint8_t type;
@@ -40,13 +61,22 @@ struct Component {
     Tag tag;
     const Default *fallback; // of a defaulted component
     int32_t line;
+    Begins begins = Begins::usually;
     // Codes that stand in for those of the component's type; 0: none does.
     int32_t encode_code = 0;
     int32_t decode_code = 0;
-    // Types that stand in for the component's own in one direction; 0: none does.
-    uint8_t encode_type = 0;
-    uint8_t decode_type = 0;
+    // The row as which each direction takes the component: that of its type, unless another stands in for it.
+    const Type *written_as = &registry[type];
+    const Type *read_as = &registry[type];
+    // Is it decoded whole, without a look at its identifier first?
+    bool is_read_whole =
+        tag.tagging == Tagging::none && (presence == Presence::required || type == KOVRA_ASN1_TYPE_ANY);
 
+    constexpr Component begun(Begins how) const {
+        Component changed = *this;
+        changed.begins = how;
+        return changed;
+    }
     constexpr Component codes(int32_t encode, int32_t decode) const {
         Component changed = *this;
         changed.encode_code = encode;
@@ -55,12 +85,12 @@ struct Component {
     }
     constexpr Component encode_as(uint8_t other) const {
         Component changed = *this;
-        changed.encode_type = other;
+        changed.written_as = &registry[other];
         return changed;
     }
     constexpr Component decode_as(uint8_t other) const {
         Component changed = *this;
-        changed.decode_type = other;
+        changed.read_as = &registry[other];
         return changed;
     }
 };
@@ -90,10 +120,10 @@ template <size_t count> consteval bool is_sound(const Component (&components)[co
 
 // The types and codes that apply in each direction.
 inline const Type &encode_row(const Component &component) {
-    return row(component.encode_type != 0 ? component.encode_type : component.type);
+    return *component.written_as;
 }
 inline const Type &decode_row(const Component &component) {
-    return row(component.decode_type != 0 ? component.decode_type : component.type);
+    return *component.read_as;
 }
 inline int32_t encode_code(const Component &component) {
     return component.encode_code != 0 ? component.encode_code : encode_row(component).base;
