@@ -1,63 +1,27 @@
 // The tool kovra-asn1, run as a process.
 
-#include "tests/asn1_testing.hpp"
+#include "tests/tool_testing.hpp"
 
 #if defined(KOVRA_TOOL_PATH) && !defined(_WIN32)
 
-#include <sys/wait.h>
-
 #include <chrono>
-#include <cstdlib>
-#include <filesystem>
-#include <iterator>
 #include <random>
 
 namespace {
 
 namespace fs = std::filesystem;
 using kovra::test::octets;
+using kovra::test::pem;
 using kovra::test::repeated;
+using kovra::test::taken;
+using Result = kovra::test::ToolResult;
 
-std::string read(const fs::path &path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-struct Result {
-    int code = -1;
-    std::string out;
-    std::string error;
-};
-
-class Tool : public testing::Test {
+class Tool : public kovra::test::ToolTest {
 protected:
-    void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "kovra-tool-XXXXXX").string();
-        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-        directory_ = pattern;
-    }
-    void TearDown() override { fs::remove_all(directory_); }
-
-    void file(const std::string &name, std::string_view content) const {
-        std::ofstream(directory_ / name, std::ios::binary) << content;
-    }
-    [[nodiscard]] std::string content(const std::string &name) const { return read(directory_ / name); }
-
-    // Runs the tool in the test's directory with `input` as standard input.
-    [[nodiscard]] Result run(const std::string &arguments, std::string_view input = "",
-                             const std::string &output = "> out") const {
-        file("in", input);
-        file("out", "");
-        const std::string command = "cd " + directory_.string() + " && { " KOVRA_TOOL_PATH " " + arguments +
-                                    "; echo $? > code; } < in 2> err " + output;
-        EXPECT_EQ(std::system(command.c_str()), 0);
-        return {std::atoi(content("code").c_str()), content("out"), content("err")};
-    }
-
     // The same with what a shell command writes as standard input, through a pipe.
     [[nodiscard]] Result run_on_pipe(const std::string &writer, const std::string &arguments) const {
         file("out", "");
-        const std::string command = "cd " + directory_.string() + " && { " + writer + "; } | { " KOVRA_TOOL_PATH " " +
+        const std::string command = "cd " + path("").string() + " && { " + writer + "; } | { " KOVRA_TOOL_PATH " " +
                                     arguments + "; echo $? > code; } 2> err > out";
         EXPECT_EQ(std::system(command.c_str()), 0);
         return {std::atoi(content("code").c_str()), content("out"), content("err")};
@@ -71,22 +35,7 @@ protected:
         EXPECT_EQ(der.code, 0) << der.error;
         return der.out;
     }
-
-private:
-    fs::path directory_;
 };
-
-std::string taken(char *text, int64_t length) {
-    std::string result(text != nullptr ? text : "", text != nullptr ? static_cast<size_t>(length) : 0);
-    kovra_free(text);
-    return result;
-}
-
-std::string pem(std::string_view data, const char *label) {
-    int64_t length = 0;
-    char *text = kovra_pemencode(data.data(), static_cast<int32_t>(data.size()), label, &length);
-    return taken(text, length);
-}
 
 std::string base64(std::string_view data) {
     int64_t length = 0;
@@ -246,7 +195,7 @@ TEST_F(Tool, ExamplesComeBackIdentical) {
         // BER becomes the DER of the same value, which becomes itself.
         const std::string der = run("der", json.out).out;
         EXPECT_EQ(there_and_back(der, "--compact"), der) << path;
-        const std::string original = read(path);
+        const std::string original = kovra::test::read_file(path);
         const bool is_der = path.extension() == ".der" && original.find(octets("30 80")) != 0;
         EXPECT_TRUE(!is_der || der == original) << path;
     }

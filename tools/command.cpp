@@ -2,21 +2,14 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <memory>
 
 #include "kovra/asn1.h"
 #include "kovra/util.h"
+#include "tool_handles.hpp"
 
 namespace kovra::tool {
 
 namespace {
-
-// Names of files and labels can hold anything; a terminal gets no control characters from them.
-std::string harmless(std::string text) {
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return static_cast<uint8_t>(c) < 0x20 || c == 0x7F; }, '?');
-    return text;
-}
 
 std::string hexadecimal(int32_t code) {
     char text[16];
@@ -24,11 +17,8 @@ std::string hexadecimal(int32_t code) {
     return text;
 }
 
-template <class T, void (*release)(T *)> struct Release {
-    void operator()(T *handle) const { release(handle); }
-};
-using Context = std::unique_ptr<kovra_err_ctx, Release<kovra_err_ctx, kovra_err_ctx_free>>;
-using Stream = std::unique_ptr<kovra_stream, Release<kovra_stream, kovra_stream_free>>;
+const Trouble::Cause incorrect_item = {0x1020a, "incorrect item", "kovra-asn1"};
+const Trouble::Cause octets_left = {0x1027f, "there is some bytes not decode", "kovra-asn1"};
 
 } // namespace
 
@@ -38,15 +28,18 @@ Trouble explain(const Refusal &refusal, std::initializer_list<uint32_t> types) {
     for (const uint32_t type : types) {
         const Context context(kovra_err_ctx_new());
         const Stream stream(kovra_stream_new_romem(refusal.octets + refusal.begin, size, 0, nullptr));
+        const uint8_t *unread = nullptr;
+        int64_t left = 0;
         kovra_asn1_value *value = nullptr;
         if (kovra_asn1_decode(stream.get(), type, &value, nullptr, context.get()) == 1) {
             kovra_asn1_value_free(type, value);
-            continue;
+            kovra_stream_peek(stream.get(), &unread, &left);
+            if (left == 0 || !refusal.is_whole)
+                continue;
+            return {refusal.limit - static_cast<size_t>(left), {octets_left}};
         }
         if (type != KOVRA_ASN1_TYPE_ANY)
             kovra_asn1_decode_puterr(context.get(), type, "kovra-asn1", 0);
-        const uint8_t *unread = nullptr;
-        int64_t left = 0;
         kovra_stream_peek(stream.get(), &unread, &left);
         trouble.octet = refusal.begin + static_cast<size_t>(size - left);
         const char *text = nullptr;
@@ -57,19 +50,27 @@ Trouble explain(const Refusal &refusal, std::initializer_list<uint32_t> types) {
         if (!trouble.chain.empty())
             return trouble;
     }
-    constexpr int32_t incorrect_item = 0x1020a;
-    trouble.octet = refusal.begin;
-    trouble.chain = {{incorrect_item, "incorrect item", "kovra-asn1"}};
-    return trouble;
+    return {refusal.begin, {incorrect_item}};
+}
+
+Trouble bad_armour() {
+    return {0, {{KOVRA_ERR_STREAM_PEM, kovra_igetStreamError(KOVRA_ERR_STREAM_PEM), "UTIL_Coding"}}};
+}
+
+std::string harmless(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return static_cast<uint8_t>(c) < 0x20 || c == 0x7F; }, '?');
+    return text;
 }
 
 void Session::report(const std::string &place, const Trouble &trouble) {
     out.flush();
     status_ = std::max(status_, Status::malformed);
     const Trouble::Cause &outermost = trouble.chain.back();
-    std::string text = "kovra-asn1: " + place + ": octet " + std::to_string(origin_ + trouble.octet) + ": " +
-                       outermost.text + " (" + hexadecimal(outermost.code) + ")\n";
-    if (!options.is_quiet) {
+    std::string text =
+        "kovra-asn1: " + place + ": octet " + std::to_string(origin_ + trouble.octet) + ": " + outermost.text;
+    text += outermost.code != 0 ? " (" + hexadecimal(outermost.code) + ")\n" : "\n";
+    if (!options.is_quiet && outermost.code != 0) {
         size_t width = 0;
         for (const Trouble::Cause &cause : trouble.chain)
             width = std::max(width, cause.text.size());
@@ -126,7 +127,7 @@ void Session::for_each_of(Items items, const std::string &file, const ForItem &f
         item.label = harmless(item.label);
         origin_ = item.origin;
         if (item.is_bad_armour)
-            report(place, {0, {{KOVRA_ERR_STREAM_PEM, kovra_igetStreamError(KOVRA_ERR_STREAM_PEM), "UTIL_Coding"}}});
+            report(place, bad_armour());
         else
             function(item, place);
     }

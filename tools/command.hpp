@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "input.hpp"
+#include "kovra/asn1_types.h"
 #include "output.hpp"
 
 namespace kovra::tool {
@@ -20,14 +21,15 @@ struct Options {
     std::vector<std::string> files; // "-" is standard input
     bool is_colored = false;
     bool is_quiet = false;
-    bool is_full = false; // dump: long values are not cut
-    int32_t indent = 2;   // json: blanks a level, 0 for one line
+    bool is_full = false;                  // dump: long values are not cut
+    int32_t indent = 2;                    // json: blanks a level, 0 for one line
+    uint32_t type = KOVRA_ASN1_TYPE_COUNT; // show, check: what the elements are; the count of types when not told
 };
 
 // What is wrong with an input: where, and why, from the innermost cause outward.
 struct Trouble {
     struct Cause {
-        int32_t code;
+        int32_t code; // 0: found by the tool, not by the library; there is one cause then
         std::string text;
         std::string source;
     };
@@ -39,12 +41,19 @@ struct Trouble {
 struct Refusal {
     const uint8_t *octets = nullptr;
     size_t begin = 0;
-    size_t limit = 0; // the element has to end there at the latest
+    size_t limit = 0;      // the element has to end there at the latest
+    bool is_whole = false; // and not before
 };
 
 // Lets the library decode the element as each of the types in turn, and tells how the first that fails does; where none
 // does the element stands where none may.
 Trouble explain(const Refusal &refusal, std::initializer_list<uint32_t> types);
+
+// The octets of a PEM block cannot be read.
+Trouble bad_armour();
+
+// Names of files and labels can hold anything; a terminal gets no control characters from them.
+std::string harmless(std::string text);
 
 // One run of the tool.
 class Session {
@@ -83,8 +92,10 @@ struct Command {
 };
 
 void dump(Session &session);
+void show(Session &session);
 void json(Session &session);
 void der(Session &session);
+void check(Session &session);
 void types(Session &session);
 void version(Session &session);
 

@@ -158,7 +158,8 @@ void Items::recognize(std::vector<uint8_t> file) {
         ahead_ = next_block();
     } else {
         chunk_.exists = true;
-        if (!from_hex(file, chunk_.octets) && !from_base64(file, chunk_.octets))
+        is_other_text_ = !file.empty() && !from_hex(file, chunk_.octets) && !from_base64(file, chunk_.octets);
+        if (is_other_text_)
             chunk_.octets = std::move(file);
     }
 }

@@ -37,6 +37,9 @@ public:
     // The next item, valid until the next call; false behind the last one.
     bool next(Item &out);
 
+    // The file is text of none of these forms, which is hardly meant to be one element.
+    [[nodiscard]] bool is_other_text() const { return is_other_text_; }
+
 private:
     // A decoded block, or the whole file.
     struct Chunk {
@@ -60,6 +63,7 @@ private:
     size_t origin_ = 0;   // octets that were dropped in front of the chunk
     size_t position_ = 0; // in the chunk
     size_t count_ = 0;
+    bool is_other_text_ = false;
 };
 
 } // namespace kovra::tool

@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "command.hpp"
+#include "type_names.hpp"
 
 namespace {
 
@@ -17,8 +18,10 @@ constexpr Command commands[] = {
      "Print the tree of any BER or DER: offset, header length, length, tag, "
      "value",
      true, dump},
+    {"show", "Print certificates, CRLs, requests and other structures in words", true, show},
     {"json", "Print the JSON description of any BER or DER", true, json},
     {"der", "Write the octets of JSON descriptions", true, der},
+    {"check", "Decode, encode again and compare: one line for each bad element, a summary at the end", true, check},
     {"types", "List the type identifiers with tag, form and name", false, types},
     {"version", "Print the version of the library", false, version},
 };
@@ -26,8 +29,13 @@ constexpr Command commands[] = {
 struct Arguments {
     std::string out;
     std::string color = "auto";
+    std::string type;
     bool is_compact = false;
 };
+
+std::string check_type(const std::string &text) {
+    return find_type(text) < KOVRA_ASN1_TYPE_COUNT ? "" : "no such type; `kovra-asn1 types` lists them";
+}
 
 void describe(CLI::App &app, Session &session, Arguments &arguments, const Command *&chosen) {
     Options &options = session.options;
@@ -37,13 +45,20 @@ void describe(CLI::App &app, Session &session, Arguments &arguments, const Comma
     app.add_option("--out", arguments.out, "Write to this file instead of standard output");
     app.add_option("--color", arguments.color, "auto, always or never; NO_COLOR in the environment turns auto off")
         ->check(CLI::IsMember({"auto", "always", "never"}));
-    app.add_flag("--quiet", options.is_quiet, "No headings, and only the first line of an error");
+    app.add_flag("--quiet", options.is_quiet,
+                 "No headings, summary and progress bar, and only the first line of an error");
     for (const Command &command : commands) {
         CLI::App *sub = app.add_subcommand(command.name, command.help)->fallthrough();
         sub->callback([&chosen, &command] { chosen = &command; });
         if (command.takes_files)
-            sub->add_option("FILE", options.files, "DER, BER, PEM, base64 or hexadecimal; - or none: standard input");
-        if (command.run == dump)
+            sub->add_option(command.run == check ? "PATH" : "FILE", options.files,
+                            command.run == check
+                                ? "Files of any form, directories with all in them; - or none: standard input"
+                                : "DER, BER, PEM, base64 or hexadecimal; - or none: standard input");
+        if (command.run == show || command.run == check)
+            sub->add_option("--type", arguments.type, "Name or number of the type; recognised when not given")
+                ->check(check_type);
+        if (command.run == dump || command.run == show)
             sub->add_flag("--full", options.is_full, "Print long values whole");
         if (command.run == json) {
             auto *indent = sub->add_option("--indent", options.indent, "Blanks a level; 0 prints on one line")
@@ -72,6 +87,8 @@ int run(int argc, char **argv) {
     }
     if (arguments.is_compact)
         session.options.indent = 0;
+    if (!arguments.type.empty())
+        session.options.type = find_type(arguments.type);
     if (session.options.files.empty())
         session.options.files.emplace_back("-");
     session.out.set_path(arguments.out);

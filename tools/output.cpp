@@ -52,6 +52,10 @@ constexpr size_t number_digits = 20;
 
 } // namespace
 
+bool is_terminal(int file) {
+    return is_terminal_file(file);
+}
+
 Output::~Output() {
     if (file_ > standard_output)
         close_file(file_);
@@ -154,7 +158,7 @@ void Output::fail() {
 }
 
 bool Output::is_terminal() const {
-    return path_.empty() && is_terminal_file(standard_output);
+    return path_.empty() && tool::is_terminal(standard_output);
 }
 
 } // namespace kovra::tool

@@ -10,6 +10,8 @@
 
 namespace kovra::tool {
 
+bool is_terminal(int file);
+
 class Output {
 public:
     Output() : buffer_(std::make_unique<char[]>(capacity)) {}

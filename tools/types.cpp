@@ -1,7 +1,11 @@
 // `types`: the type identifiers. Names are those of kovra/asn1_types.h, without KOVRA_ASN1_TYPE_, where it has one.
 
+#include <algorithm>
+#include <charconv>
+
 #include "command.hpp"
 #include "kovra/asn1.h"
+#include "type_names.hpp"
 
 namespace kovra::tool {
 
@@ -227,6 +231,25 @@ constexpr TypeRow rows[] = {
 static_assert(sizeof rows / sizeof rows[0] == KOVRA_ASN1_TYPE_COUNT);
 
 } // namespace
+
+std::string_view type_name(uint32_t type) {
+    return type < KOVRA_ASN1_TYPE_COUNT ? rows[type].name : std::string_view();
+}
+
+uint32_t find_type(std::string_view text) {
+    uint32_t number = 0;
+    const char *end = text.data() + text.size();
+    if (const auto [stop, error] = std::from_chars(text.data(), end, number); error == std::errc() && stop == end)
+        return std::min<uint32_t>(number, KOVRA_ASN1_TYPE_COUNT);
+    const auto same = [](char left, char right) {
+        const auto plain = [](char c) { return c == '-' ? '_' : c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; };
+        return plain(left) == right;
+    };
+    while (number < KOVRA_ASN1_TYPE_COUNT &&
+           !std::equal(text.begin(), text.end(), rows[number].name.begin(), rows[number].name.end(), same))
+        ++number;
+    return number;
+}
 
 void types(Session &session) {
     session.out.put("type  tag  form         name\n");

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <memory>
 
+#include "characters.hpp"
 #include "kovra/asn1.h"
-#include "kovra/util.h"
 #include "oid_names.hpp"
+#include "tool_handles.hpp"
 
 namespace kovra::tool {
 
@@ -100,9 +100,8 @@ public:
         case 24:
             return time();
         case 28:
-            return wide_text(kovra_ustring_newutf32be(content_, static_cast<int32_t>(length_)));
         case 30:
-            return wide_text(kovra_ustring_newutf16be(content_, static_cast<int32_t>(length_)));
+            return wide_text();
         default:
             return hex(content_, length_);
         }
@@ -199,87 +198,20 @@ private:
             out_.put("\x1b[0m");
     }
 
-    // A character that is neither a control character nor one that a terminal acts on.
-    static bool is_harmless(uint32_t character) {
-        const bool is_control = character < 0x20 || (character >= 0x7F && character < 0xA0);
-        const bool is_direction = character == 0x061C || (character >= 0x200B && character <= 0x200F) ||
-                                  (character >= 0x2028 && character <= 0x202E) ||
-                                  (character >= 0x2060 && character <= 0x206F) || character == 0xFEFF;
-        return !is_control && !is_direction && character < 0xE0000;
-    }
-
-    // The octets of the well-formed character that begins here, which is stored; 0 when none does.
-    static size_t character_at(const uint8_t *octets, size_t length, uint32_t &character) {
-        const uint8_t lead = octets[0];
-        const size_t size = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
-        if (size == 0 || size > length)
-            return 0;
-        character = size == 1 ? lead : lead & (0xFFU >> (size + 1));
-        for (size_t i = 1; i < size; ++i) {
-            if ((octets[i] & 0xC0) != 0x80)
-                return 0;
-            character = character << 6 | (octets[i] & 0x3FU);
-        }
-        const bool is_overlong = (size == 3 && character < 0x800) || (size == 4 && character < 0x10000);
-        const bool is_surrogate = character >= 0xD800 && character <= 0xDFFF;
-        return is_overlong || is_surrogate || character > 0x10FFFF ? 0 : size;
-    }
-
-    void put_escaped(uint32_t number, bool is_character) {
-        if (number == '"' || number == '\\') {
-            const char escaped[] = {'\\', static_cast<char>(number)};
-            return out_.put({escaped, 2});
-        }
-        const char *letter = number == '\n' ? "\\n" : number == '\r' ? "\\r" : number == '\t' ? "\\t" : nullptr;
-        if (letter != nullptr)
-            return out_.put(letter);
-        const bool is_short = !is_character || number < 0x80;
-        char digits[8];
-        const auto *end = std::to_chars(digits, digits + sizeof digits, number, 16).ptr;
-        out_.put(is_short ? (number < 0x10 ? "\\x0" : "\\x") : "\\u{");
-        out_.put({digits, static_cast<size_t>(end - digits)});
-        if (!is_short)
-            out_.put('}');
-    }
-
     void text(const uint8_t *octets, size_t length) {
-        const size_t shown = style_.is_full ? length : std::min(length, shown_text);
-        size_t at = 0;
         out_.put(" \"");
-        while (at < shown) {
-            size_t end = at;
-            while (end < shown && octets[end] >= 0x20 && octets[end] < 0x7F && octets[end] != '"' &&
-                   octets[end] != '\\')
-                ++end;
-            out_.put({reinterpret_cast<const char *>(octets) + at, end - at});
-            at = end;
-            if (at >= shown)
-                break;
-            uint32_t character = 0;
-            const size_t size = character_at(octets + at, length - at, character);
-            if (size == 0)
-                put_escaped(octets[at], false);
-            else if (size == 1 || !is_harmless(character))
-                put_escaped(character, true);
-            else
-                out_.put({reinterpret_cast<const char *>(octets) + at, size});
-            at += std::max<size_t>(size, 1);
-        }
+        const size_t printed = put_text(out_, octets, length, style_.is_full ? length : std::min(length, shown_text));
         out_.put('"');
-        cut(std::min(at, length), length);
+        cut(std::min(printed, length), length);
     }
 
-    // Takes the string over, which is null for octets that are none.
-    void wide_text(kovra_ustring *string) {
-        kovra_data_blob *utf8 = kovra_ustring_toutf8(string);
-        kovra_ustring_free(string);
-        if (utf8 == nullptr) {
-            hex(content_, length_);
-            out_.put(" (not characters)");
-        } else {
-            text(kovra_data_blob_getdata(utf8), static_cast<size_t>(kovra_data_blob_getlength(utf8)));
-        }
-        kovra_data_blob_free(utf8);
+    // Of BMPString and UniversalString.
+    void wide_text() {
+        std::string utf8;
+        if (to_utf8(header_.tag, content_, length_, utf8))
+            return text(reinterpret_cast<const uint8_t *>(utf8.data()), utf8.size());
+        hex(content_, length_);
+        out_.put(" (not characters)");
     }
 
     // The form that DER prescribes, without asking the library: long lists are full of it.
@@ -309,39 +241,17 @@ private:
         if (plain_time())
             return;
         const auto size = static_cast<int32_t>(header_.size + header_.length);
-        kovra_asn1_value *value = nullptr;
-        kovra_time *time = nullptr;
-        if (kovra_asn1_mem_decode(element_, size, KOVRA_ASN1_TYPE_TIME, &value) == size)
-            time = kovra_asn1_time_getutctime(value);
+        Value value(KOVRA_ASN1_TYPE_TIME);
+        Time time;
+        if (kovra_asn1_mem_decode(element_, size, KOVRA_ASN1_TYPE_TIME, value.place()) == size)
+            time.reset(kovra_asn1_time_getutctime(value.get()));
         if (time == nullptr) {
             text(content_, length_);
             out_.put(" (not a time)");
         } else {
-            readable(*time);
+            out_.put(' ');
+            put_time(out_, *time);
         }
-        kovra_time_free(time);
-        kovra_asn1_value_free(KOVRA_ASN1_TYPE_TIME, value);
-    }
-
-    void readable(const kovra_time &time) {
-        const struct {
-            char before;
-            int32_t number;
-        } parts[] = {{' ', kovra_time_getyear(&time)},   {'-', kovra_time_getmonth(&time)},
-                     {'-', kovra_time_getday(&time)},    {' ', kovra_time_gethour(&time)},
-                     {':', kovra_time_getminute(&time)}, {':', kovra_time_getsecond(&time)}};
-        for (const auto &[before, number] : parts) {
-            out_.put(before);
-            if (number < 10)
-                out_.put('0');
-            out_.put_number(static_cast<uint64_t>(number));
-        }
-        if (int32_t fraction = kovra_time_getns(&time); fraction != 0) {
-            out_.put('.');
-            for (int32_t unit = 100000000; fraction != 0; fraction %= unit, unit /= 10)
-                out_.put(static_cast<char>('0' + fraction / unit));
-        }
-        out_.put(kovra_time_isutctime(&time) == 1 ? " UTC" : " local");
     }
 
     Output &out_;
@@ -360,6 +270,27 @@ const char *universal_name(uint32_t tag) {
 
 void put_value(Output &out, const Header &header, const uint8_t *element, ValueStyle style) {
     ValuePrinter(out, header, element, style).run();
+}
+
+void put_time(Output &out, const kovra_time &time) {
+    const struct {
+        std::string_view before;
+        int32_t number;
+    } parts[] = {{"", kovra_time_getyear(&time)},    {"-", kovra_time_getmonth(&time)},
+                 {"-", kovra_time_getday(&time)},    {" ", kovra_time_gethour(&time)},
+                 {":", kovra_time_getminute(&time)}, {":", kovra_time_getsecond(&time)}};
+    for (const auto &[before, number] : parts) {
+        out.put(before);
+        if (number < 10)
+            out.put('0');
+        out.put_number(static_cast<uint64_t>(number));
+    }
+    if (int32_t fraction = kovra_time_getns(&time); fraction != 0) {
+        out.put('.');
+        for (int32_t unit = 100000000; fraction != 0; fraction %= unit, unit /= 10)
+            out.put(static_cast<char>('0' + fraction / unit));
+    }
+    out.put(kovra_time_isutctime(&time) == 1 ? " UTC" : " local");
 }
 
 } // namespace kovra::tool

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "element.hpp"
+#include "kovra/util_time.h"
 #include "output.hpp"
 
 namespace kovra::tool {
@@ -20,5 +21,8 @@ const char *universal_name(uint32_t tag);
 // quoted; in it control characters, those that turn the direction of writing, and octets that are not of the character
 // set are escaped.
 void put_value(Output &out, const Header &header, const uint8_t *element, ValueStyle style);
+
+// Prints a time as 2024-02-29 23:59:59.12 UTC.
+void put_time(Output &out, const kovra_time &time);
 
 } // namespace kovra::tool

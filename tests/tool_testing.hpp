@@ -1,0 +1,71 @@
+// What the tests of the tool share: it is run as a process, in a directory of the test's own.
+#pragma once
+
+#if defined(KOVRA_TOOL_PATH) && !defined(_WIN32)
+
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <iterator>
+
+#include "tests/asn1_testing.hpp"
+
+namespace kovra::test {
+
+inline std::string read_file(const std::filesystem::path &path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+struct ToolResult {
+    int code = -1;
+    std::string out;
+    std::string error;
+};
+
+class ToolTest : public testing::Test {
+protected:
+    void SetUp() override {
+        std::string pattern = (std::filesystem::temp_directory_path() / "kovra-tool-XXXXXX").string();
+        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+        directory_ = pattern;
+    }
+    void TearDown() override { std::filesystem::remove_all(directory_); }
+
+    void file(const std::string &name, std::string_view content) const {
+        std::ofstream(directory_ / name, std::ios::binary) << content;
+    }
+    [[nodiscard]] std::filesystem::path path(const std::string &name) const { return directory_ / name; }
+    [[nodiscard]] std::string content(const std::string &name) const { return read_file(directory_ / name); }
+
+    // Runs the tool in the test's directory with `input` as standard input.
+    [[nodiscard]] ToolResult run(const std::string &arguments, std::string_view input = "",
+                                 const std::string &output = "> out") const {
+        file("in", input);
+        file("out", "");
+        const std::string command = "cd " + directory_.string() + " && { " KOVRA_TOOL_PATH " " + arguments +
+                                    "; echo $? > code; } < in 2> err " + output;
+        EXPECT_EQ(std::system(command.c_str()), 0);
+        return {std::atoi(content("code").c_str()), content("out"), content("err")};
+    }
+
+private:
+    std::filesystem::path directory_;
+};
+
+inline std::string taken(char *text, int64_t length) {
+    std::string result(text != nullptr ? text : "", text != nullptr ? static_cast<size_t>(length) : 0);
+    kovra_free(text);
+    return result;
+}
+
+inline std::string pem(std::string_view data, const char *label) {
+    int64_t length = 0;
+    char *text = kovra_pemencode(data.data(), static_cast<int32_t>(data.size()), label, &length);
+    return taken(text, length);
+}
+
+} // namespace kovra::test
+
+#endif

@@ -1,0 +1,37 @@
+// Characters of any origin, made fit for people and terminals.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "output.hpp"
+
+namespace kovra::tool {
+
+struct Character {
+    uint32_t code = 0;
+    size_t size = 0; // in octets of UTF-8; 0 where no well-formed character begins
+};
+
+// The character that begins with the first of `length` octets, of which there is at least one.
+Character character_at(const uint8_t *octets, size_t length);
+
+// Neither a control character nor one that a terminal or a viewer acts on, as by turning the direction of writing.
+bool is_harmless(uint32_t code);
+
+// Prints the characters that begin in the first `shown` octets of UTF-8. Quotation marks, backslashes, what is not
+// harmless, and octets that are no UTF-8 are escaped as in C. Returns the number of octets printed.
+size_t put_text(Output &out, const uint8_t *octets, size_t length, size_t shown);
+
+// The same with all octets, as the value of an attribute in RFC 4514: `\` before a special character, `\` and two
+// hexadecimal digits for each octet of what is escaped otherwise.
+void put_name_text(Output &out, std::string_view text);
+
+// Converts a character string of the universal tag to UTF-8. Octets of TeletexString are taken for ISO 8859-1, which is
+// what they are in practice. False when a BMPString or a UniversalString has other octets than characters; whether the
+// octets of other strings are of their character set is not looked at.
+bool to_utf8(uint32_t tag, const uint8_t *octets, size_t length, std::string &out);
+
+} // namespace kovra::tool

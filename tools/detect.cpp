@@ -1,0 +1,279 @@
+#include "detect.hpp"
+
+#include <algorithm>
+#include <iterator>
+
+#include "element.hpp"
+#include "kovra/asn1.h"
+
+namespace kovra::tool {
+
+namespace {
+
+constexpr uint32_t ocsp_request = 173;
+constexpr uint32_t ocsp_response = 175;
+constexpr uint32_t time_stamp_request = 187;
+constexpr uint32_t time_stamp_response = 190;
+constexpr uint32_t time_stamp_info = 192;
+constexpr uint32_t ec_parameters = 201;
+constexpr uint32_t ec_private_key = 202;
+
+// A pattern is a sequence of marks for elements, in parentheses those inside the one before:
+//   S SEQUENCE, T SET, I INTEGER, B BIT STRING, O OCTET STRING, o OBJECT IDENTIFIER, E ENUMERATED, t a time,
+//   0 to 9 constructed and a to d primitive context tags, . anything, * whatever follows at this level,
+//   ? in front of what may be absent.
+struct Shape {
+    uint32_t type;
+    std::string_view pattern;
+    bool is_certain = false; // nothing else looks like this
+};
+
+// From the most specific to the least; a shape that others share comes behind them.
+constexpr Shape shapes[] = {
+    {KOVRA_ASN1_TYPE_CERTIFICATE, "S(S(?0(I)ISSS(tt)SS(SB)*)S(o*)B)", true},
+    {KOVRA_ASN1_TYPE_CERTIFICATE_LIST, "S(S(?ISSt*)S(o*)B)", true},
+    {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST, "S(S(ISS(SB)0)S(o*)B)", true},
+    {KOVRA_ASN1_TYPE_CONTENT_INFO, "S(o0(*))"},
+    {KOVRA_ASN1_TYPE_PFX, "S(IS(o0(*))?S)"},
+    {KOVRA_ASN1_TYPE_PRIVATE_KEY_INFO, "S(IS(o*)O*)"},
+    {KOVRA_ASN1_TYPE_RSA_PRIVATE_KEY, "S(IIIIIIIII*)"},
+    {ec_private_key, "S(IO?0(*)?1(B))"},
+    {KOVRA_ASN1_TYPE_ENCRYPTED_PRIVATE_KEY_INFO, "S(S(oS*)O)"},
+    {KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO, "S(S(o*)B)"},
+    {KOVRA_ASN1_TYPE_CERTIFICATE_PAIR, "S(0(S(S(*)SB))?1(S(S(*)SB)))"},
+    {KOVRA_ASN1_TYPE_CERTIFICATE_PAIR, "S(1(S(S(*)SB)))"},
+    {ocsp_response, "S(E?0(S(oO)))"},
+    {ocsp_request, "S(S(*)?0(S(*)))"},
+    {time_stamp_request, "S(IS(S(o*)O)*)"},
+    {time_stamp_response, "S(S(I*)?S(o0(*)))"},
+    {time_stamp_info, "S(IoS(S(o*)O)It*)"},
+    {KOVRA_ASN1_TYPE_TBS_CERTIFICATE, "S(?0(I)ISSS(tt)SS(SB)*)"},
+    {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST_INFO, "S(ISS(SB)0)"},
+    {KOVRA_ASN1_TYPE_DIGEST_INFO, "S(S(o*)O)"},
+    {KOVRA_ASN1_TYPE_NAME, "S(T(S(o.))*)"},
+    {KOVRA_ASN1_TYPE_EXTENSIONS, "S(S(o*)*)"},
+};
+
+struct Label {
+    std::string_view label;
+    uint32_t type;
+};
+constexpr Label labels[] = {
+    {"CERTIFICATE", KOVRA_ASN1_TYPE_CERTIFICATE},
+    {"X509 CERTIFICATE", KOVRA_ASN1_TYPE_CERTIFICATE},
+    {"X509 CRL", KOVRA_ASN1_TYPE_CERTIFICATE_LIST},
+    {"CRL", KOVRA_ASN1_TYPE_CERTIFICATE_LIST},
+    {"CERTIFICATE REQUEST", KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST},
+    {"NEW CERTIFICATE REQUEST", KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST},
+    {"PKCS7", KOVRA_ASN1_TYPE_CONTENT_INFO},
+    {"CMS", KOVRA_ASN1_TYPE_CONTENT_INFO},
+    {"PUBLIC KEY", KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO},
+    {"RSA PUBLIC KEY", KOVRA_ASN1_TYPE_RSA_PUBLIC_KEY},
+    {"PRIVATE KEY", KOVRA_ASN1_TYPE_PRIVATE_KEY_INFO},
+    {"ENCRYPTED PRIVATE KEY", KOVRA_ASN1_TYPE_ENCRYPTED_PRIVATE_KEY_INFO},
+    {"RSA PRIVATE KEY", KOVRA_ASN1_TYPE_RSA_PRIVATE_KEY},
+    {"EC PRIVATE KEY", ec_private_key},
+    {"EC PARAMETERS", ec_parameters},
+    {"DSA PARAMETERS", KOVRA_ASN1_TYPE_DSS_PARMS},
+    {"DH PARAMETERS", KOVRA_ASN1_TYPE_DH_PARAMETER},
+};
+
+bool has_mark(char mark, const Header &header) {
+    switch (mark) {
+    case '.':
+        return true;
+    case 'S':
+        return header.lead == 0x30;
+    case 'T':
+        return header.lead == 0x31;
+    case 'I':
+        return header.lead == 0x02;
+    case 'B':
+        return (header.lead & ~0x20) == 0x03;
+    case 'O':
+        return (header.lead & ~0x20) == 0x04;
+    case 'o':
+        return header.lead == 0x06;
+    case 'E':
+        return header.lead == 0x0A;
+    case 't':
+        return (header.lead & ~0x20) == 0x17 || (header.lead & ~0x20) == 0x18;
+    default:
+        return mark >= 'a' ? header.lead == 0x80 + mark - 'a' : header.lead == 0xA0 + mark - '0';
+    }
+}
+
+// Reads along a pattern. As deep as the pattern nests, which is a few levels.
+class Matcher {
+public:
+    Matcher(const Item &item, std::string_view pattern) : octets_(item.octets), end_(item.end), pattern_(pattern) {}
+
+    // Has the element the shape, or, where its octets end early, have they begun with it? `least` elements of it have
+    // to be there in any case.
+    bool matches(size_t begin, size_t least) {
+        at_ = begin;
+        Header header;
+        if (!is_there(nowhere, header) || !has_mark(pattern_[0], header) || !element(header, nowhere))
+            return false;
+        return seen_ >= least && (is_cut_ || (next_ == pattern_.size() && at_ == end_));
+    }
+
+private:
+    // Matches up to the end of the pattern's level.
+    bool level(size_t end) {
+        while (next_ < pattern_.size() && pattern_[next_] != ')') {
+            if (pattern_[next_] == '*') {
+                ++next_;
+                at_ = end;
+                return true;
+            }
+            const bool is_optional = pattern_[next_] == '?';
+            if (is_optional)
+                ++next_;
+            Header header;
+            if (is_there(end, header) && has_mark(pattern_[next_], header)) {
+                if (!element(header, end))
+                    return false;
+                if (is_cut_)
+                    return true;
+            } else if (is_cut_) {
+                return true;
+            } else if (is_optional) {
+                skip();
+            } else {
+                return false;
+            }
+        }
+        return at_ == end;
+    }
+
+    bool is_there(size_t end, Header &header) {
+        is_cut_ = end_ - at_ < 2 && end > at_;
+        return at_ < end && !is_cut_ && read_clipped(header);
+    }
+
+    // Like read_header, with a length that may reach beyond the octets that there are.
+    bool read_clipped(Header &header) {
+        if (read_header(octets_, at_, end_, header))
+            return true;
+        // A length of four octets, and one of its own, is as long as a header of a shape is.
+        uint8_t head[6] = {};
+        const size_t there = std::min<size_t>(sizeof head, end_ - at_);
+        std::copy_n(octets_ + at_, there, head);
+        const size_t count = head[1] > 0x80 ? head[1] & 0x7FU : 0;
+        if (head[1] == 0x80 || count > 4 || (head[0] & 0x1F) == 0x1F)
+            return false;
+        header = {};
+        header.lead = head[0];
+        header.size = static_cast<uint32_t>(2 + count);
+        header.length = head[1] < 0x80 ? head[1] : 0;
+        for (size_t i = 0; i < count; ++i)
+            header.length = header.length << 8 | head[2 + i];
+        return true;
+    }
+
+    bool element(const Header &header, size_t end) {
+        ++seen_;
+        ++next_;
+        const size_t content = at_ + header.size;
+        const size_t past = header.is_indefinite ? element_end(octets_, at_, end_, Tags::all) : content + header.length;
+        const bool is_entered = next_ < pattern_.size() && pattern_[next_] == '(';
+        if (past == nowhere || content > end_)
+            return is_cut_ = true;
+        if (past > end)
+            return false;
+        if (is_entered) {
+            ++next_;
+            at_ = content;
+            if (!level(header.is_indefinite ? past - 2 : past))
+                return false;
+            if (is_cut_)
+                return true;
+            ++next_; // the closing parenthesis
+        }
+        at_ = past;
+        is_cut_ = past > end_;
+        return true;
+    }
+
+    // Passes over an optional mark and what is in parentheses behind it.
+    void skip() {
+        size_t open = 0;
+        do {
+            ++next_;
+            open += next_ < pattern_.size() && pattern_[next_] == '(' ? 1 : 0;
+            open -= pattern_[next_ - 1] == ')' ? 1 : 0;
+        } while (open != 0);
+    }
+
+    const uint8_t *octets_;
+    size_t end_;
+    std::string_view pattern_;
+    size_t next_ = 0; // in the pattern
+    size_t at_ = 0;
+    size_t seen_ = 0;
+    bool is_cut_ = false;
+};
+
+bool decode(const Item &item, uint32_t type, Detected &out) {
+    const auto size = static_cast<int32_t>(item.end - item.begin);
+    out = {type, false, nullptr};
+    const int32_t read = kovra_asn1_mem_decode(item.octets + item.begin, size, type, &out.value);
+    out.is_good = read == size && size > 0;
+    if (read >= 0 && !out.is_good) {
+        kovra_asn1_value_free(type, out.value);
+        out.value = nullptr;
+    }
+    return out.is_good;
+}
+
+// Does the library know the type? Rows without a structure only refuse.
+bool is_known(uint32_t type) {
+    constexpr int32_t unsupported = 0x1026d;
+    const Context context(kovra_err_ctx_new());
+    const Stream stream(kovra_stream_new_romem("\xFF\xFF", 2, 0, nullptr));
+    Value value(type);
+    int32_t code = 0;
+    kovra_asn1_decode(stream.get(), type, value.place(), nullptr, context.get());
+    kovra_err_ctx_getentry(context.get(), 0, nullptr, nullptr, &code, nullptr);
+    return code != unsupported;
+}
+
+} // namespace
+
+Detected detect(const Item &item, const Options &options) {
+    Detected result;
+    if (options.type != KOVRA_ASN1_TYPE_COUNT) {
+        decode(item, options.type, result);
+        return result;
+    }
+    uint32_t promised = KOVRA_ASN1_TYPE_COUNT;
+    const auto *label =
+        std::find_if(std::begin(labels), std::end(labels), [&](const Label &row) { return row.label == item.label; });
+    if (label != std::end(labels) && is_known(label->type)) {
+        if (decode(item, label->type, result))
+            return result;
+        promised = label->type;
+    }
+    const bool is_whole = element_end(item.octets, item.begin, item.end, Tags::all) == item.end;
+    for (const Shape &shape : shapes) {
+        constexpr size_t enough = 3;
+        if (!Matcher(item, shape.pattern).matches(item.begin, is_whole ? 0 : enough))
+            continue;
+        if (is_whole && shape.type != promised && decode(item, shape.type, result))
+            return result;
+        if (shape.is_certain && promised == KOVRA_ASN1_TYPE_COUNT)
+            promised = shape.type;
+    }
+    if (promised == KOVRA_ASN1_TYPE_COUNT)
+        decode(item, KOVRA_ASN1_TYPE_ANY, result);
+    else
+        result = {promised, false, nullptr};
+    return result;
+}
+
+Trouble explain(const Item &item, uint32_t type) {
+    return explain({item.octets, item.begin, item.end, true}, {type});
+}
+
+} // namespace kovra::tool

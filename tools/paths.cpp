@@ -1,0 +1,66 @@
+#include "paths.hpp"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+namespace kovra::tool {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class Walk {
+public:
+    explicit Walk(const std::function<void(const std::string &)> &fail) : fail_(fail) {}
+
+    void named(const std::string &path) {
+        std::error_code error;
+        if (path != "-" && fs::is_directory(path, error))
+            directory(path);
+        else
+            file(path, true);
+    }
+
+    std::vector<FoundFile> files;
+
+private:
+    void file(const fs::path &path, bool is_named) {
+        std::error_code error;
+        const auto size = fs::file_size(path, error);
+        files.push_back({path.string(), error ? 0 : size, is_named});
+    }
+
+    // As deep as directories nest, which the length of a path limits.
+    void directory(const fs::path &path) {
+        std::error_code error;
+        std::vector<fs::directory_entry> entries;
+        for (fs::directory_iterator entry(path, error), end; !error && entry != end; entry.increment(error))
+            entries.push_back(*entry);
+        if (error)
+            fail_(path.string() + ": " + error.message());
+        std::sort(entries.begin(), entries.end());
+        for (const fs::directory_entry &entry : entries) {
+            const bool is_link = entry.is_symlink(error);
+            const fs::file_status status = entry.status(error);
+            if (fs::is_directory(status) && !is_link)
+                directory(entry.path());
+            else if (fs::is_regular_file(status) || !fs::exists(status))
+                file(entry.path(), false); // a link to nothing is told when it is read
+        }
+    }
+
+    const std::function<void(const std::string &)> &fail_;
+};
+
+} // namespace
+
+std::vector<FoundFile> find_files(const std::vector<std::string> &paths,
+                                  const std::function<void(const std::string &)> &fail) {
+    Walk walk(fail);
+    for (const std::string &path : paths)
+        walk.named(path);
+    return std::move(walk.files);
+}
+
+} // namespace kovra::tool

@@ -1,0 +1,175 @@
+// What `show` prints with: lines of a label and a value, and tables from type identifiers and object identifiers to the
+// functions that print a structure. A further structure is a function and a row.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "command.hpp"
+#include "kovra/asn1.h"
+
+namespace kovra::tool {
+
+// Prints lines: indentation, a label with a colon, and the value in a column of its own.
+class Printer {
+public:
+    Printer(Session &session, std::string place) : out(session.out), session_(session), place_(std::move(place)) {}
+
+    Output &out;
+
+    // Begins a line; the caller prints the value, and ends the line.
+    void begin(std::string_view label) { begin(label, value_column); }
+    void end() { out.put('\n'); }
+    void field(std::string_view label, std::string_view value);
+    // A line without a value, for what follows in the lines below it.
+    void heading(std::string_view label);
+    void blanks() { out.fill(' ', indent_); }
+
+    // Octets in hexadecimal, long ones cut.
+    void hex(std::string_view octets);
+    // A line of such.
+    void hex(std::string_view label, std::string_view octets);
+    // The octets of one element: on one line when it is primitive, else as a tree below the label.
+    void element(std::string_view label, std::string_view octets);
+    // An element as a tree, indented like a line.
+    void tree(std::string_view octets);
+
+    // A line with octets that are not of the type, which standard error explains. `what` says in words what they are.
+    void malformed(std::string_view what, uint32_t type, std::string_view octets);
+
+    // Lines are indented further while one of these lives.
+    class Deeper {
+    public:
+        explicit Deeper(Printer &printer) : printer_(printer) { printer_.indent_ += step; }
+        Deeper(const Deeper &) = delete;
+        Deeper &operator=(const Deeper &) = delete;
+        ~Deeper() { printer_.indent_ -= step; }
+
+    private:
+        Printer &printer_;
+    };
+    // Structures inside structures without end are not followed from here on.
+    [[nodiscard]] bool is_deep() const { return indent_ >= 32 * step; }
+
+private:
+    static constexpr size_t step = 2;
+    static constexpr size_t value_column = 28;
+
+    void begin(std::string_view label, size_t column);
+
+    Session &session_;
+    std::string place_;
+    size_t indent_ = 0;
+};
+
+// Prints a value as lines.
+using Show = void (*)(Printer &, kovra_asn1_value *);
+
+// Prints a value of any type: as the table has it, else as a tree.
+void show_value(Printer &printer, uint32_t type, kovra_asn1_value *value);
+
+// What the octets or the element that stands with an object identifier are.
+struct OidRow {
+    std::string_view oid;
+    uint32_t type;
+    Show show = nullptr; // null: as the type is shown
+};
+const OidRow *find_extension(std::string_view oid);
+const OidRow *find_attribute(std::string_view oid);
+
+// Reading values. Octets of strings and integers; the whole encoding; the name of an object identifier, or its text.
+std::string octets_of(kovra_asn1_value *string);
+std::string bits_of(kovra_asn1_value *bit_string);
+std::string integer_octets(const kovra_asn1_value *integer);
+std::string encoding_of(uint32_t type, const kovra_asn1_value *value);
+std::string_view text_of_oid(const kovra_asn1_value *oid);
+std::string_view name_of_oid(const kovra_asn1_value *oid);
+
+template <class Function> void for_each(kovra_asn1_value *list, Function function) {
+    kovra_asn1_value *element = nullptr;
+    const int32_t size = kovra_asn1_list_getsize(list);
+    for (int32_t i = 0; i < size && kovra_asn1_list_get(list, i, &element) == 1; ++i)
+        function(element);
+}
+
+// Values within a line.
+void put_integer(Printer &printer, const kovra_asn1_value *integer); // decimal, hexadecimal beyond 64 bits
+void put_serial(Printer &printer, const kovra_asn1_value *integer);  // hexadecimal, 0x7f
+void put_time(Printer &printer, const kovra_asn1_value *time);
+void put_unquoted(Printer &printer, std::string_view text);
+void put_quoted(Printer &printer, uint32_t tag, std::string_view octets);
+void put_bits(Printer &printer, kovra_asn1_value *bit_string, std::span<const std::string_view> names);
+// The name of a number, and the number itself where it has none.
+void put_named(Printer &printer, const kovra_asn1_value *integer, std::span<const std::string_view> names);
+void put_name(Printer &printer, const kovra_asn1_value *name);
+void put_relative_name(Printer &printer, kovra_asn1_value *rdn);
+void put_address(Printer &printer, std::string_view octets);
+void put_general_name(Printer &printer, const kovra_asn1_value *name);
+std::string_view kind_of_general_name(const kovra_asn1_value *name);
+
+// Lines with a label, nothing for null.
+void show_integer(Printer &printer, std::string_view label, const kovra_asn1_value *integer);
+void show_serial(Printer &printer, std::string_view label, const kovra_asn1_value *integer);
+void show_time(Printer &printer, std::string_view label, const kovra_asn1_value *time);
+void show_name(Printer &printer, std::string_view label, const kovra_asn1_value *name);
+void show_any(Printer &printer, std::string_view label, kovra_asn1_value *any);
+void show_bits(Printer &printer, std::string_view label, kovra_asn1_value *bit_string,
+               std::span<const std::string_view> names);
+void show_text(Printer &printer, std::string_view label, uint32_t tag, kovra_asn1_value *string);
+void show_algorithm(Printer &printer, std::string_view label, kovra_asn1_value *algorithm);
+void show_general_names(Printer &printer, std::string_view label, kovra_asn1_value *names);
+
+// Names of the bits of ReasonFlags and of the numbers of CRLReason.
+std::span<const std::string_view> reason_flags();
+std::span<const std::string_view> crl_reasons();
+
+// Structures, as rows of the tables have them.
+void show_certificate(Printer &printer, kovra_asn1_value *certificate);
+void show_certificate_pair(Printer &printer, kovra_asn1_value *pair);
+void show_crl(Printer &printer, kovra_asn1_value *crl);
+void show_revoked(Printer &printer, kovra_asn1_value *entry);
+void show_request(Printer &printer, kovra_asn1_value *request);
+void show_public_key(Printer &printer, kovra_asn1_value *key);
+void show_algorithm(Printer &printer, kovra_asn1_value *algorithm);
+void show_extension(Printer &printer, kovra_asn1_value *extension);
+void show_extensions(Printer &printer, kovra_asn1_value *extensions);
+void show_attribute(Printer &printer, kovra_asn1_value *attribute);
+void show_attributes(Printer &printer, kovra_asn1_value *attributes);
+void show_name(Printer &printer, kovra_asn1_value *name);
+void show_general_name(Printer &printer, kovra_asn1_value *name);
+void show_general_names(Printer &printer, kovra_asn1_value *names);
+void show_directory_string(Printer &printer, kovra_asn1_value *string);
+void show_postal_address(Printer &printer, kovra_asn1_value *lines);
+void show_telex_number(Printer &printer, kovra_asn1_value *number);
+
+// Extensions. show_extension.cpp: single values and short lists.
+void show_key_usage(Printer &printer, kovra_asn1_value *bits);
+void show_private_key_period(Printer &printer, kovra_asn1_value *period);
+void show_basic_constraints(Printer &printer, kovra_asn1_value *constraints);
+void show_purposes(Printer &printer, kovra_asn1_value *purposes);
+void show_authority_key(Printer &printer, kovra_asn1_value *identifier);
+void show_number(Printer &printer, kovra_asn1_value *integer);
+void show_key_identifier(Printer &printer, kovra_asn1_value *string);
+void show_octets(Printer &printer, kovra_asn1_value *string);
+void show_oid(Printer &printer, kovra_asn1_value *oid);
+void show_moment(Printer &printer, kovra_asn1_value *time);
+void show_string(Printer &printer, kovra_asn1_value *string);
+void show_reason(Printer &printer, kovra_asn1_value *reason);
+void show_features(Printer &printer, kovra_asn1_value *features);
+void show_certificate_type(Printer &printer, kovra_asn1_value *bits);
+void show_statements(Printer &printer, kovra_asn1_value *statements);
+void show_timestamps(Printer &printer, kovra_asn1_value *string);
+// show_policy.cpp
+void show_policies(Printer &printer, kovra_asn1_value *policies);
+void show_policy_mappings(Printer &printer, kovra_asn1_value *mappings);
+void show_policy_constraints(Printer &printer, kovra_asn1_value *constraints);
+void show_name_constraints(Printer &printer, kovra_asn1_value *constraints);
+// show_point.cpp
+void show_distribution_points(Printer &printer, kovra_asn1_value *points);
+void show_issuing_point(Printer &printer, kovra_asn1_value *point);
+void show_attribute_issuing_point(Printer &printer, kovra_asn1_value *point);
+void show_access(Printer &printer, kovra_asn1_value *descriptions);
+
+} // namespace kovra::tool
