@@ -715,6 +715,32 @@ TEST(PkixBuild, ExtensionsOfTypedValues) {
     EXPECT_EQ(as_type(37, twice), noted_hex("30({ext} {ext})"));
 }
 
+// Memory that ends while a component is written is reported with the codes of what holds it, from the inside out.
+TEST(PkixBuild, CodesOfWhatThereIsNoRoomFor) {
+    for (const auto &row : table("unwritten.txt")) {
+        if (!is_memory_watched())
+            break;
+        SCOPED_TRACE(row[0] + ": " + row[1]);
+        const auto type = static_cast<uint32_t>(std::stoul(row[0]));
+        const Value value = noted_value(type, row[1]);
+        ASSERT_TRUE(value);
+        const int32_t length = kovra_asn1_content_length(type, value.get());
+        const Stream stream = memory_stream();
+        const Errors ctx(kovra_err_ctx_new());
+        {
+            const ScarceMemory scarce(0);
+            EXPECT_EQ(kovra_asn1_encode_content(stream.get(), type, value.get(), length, nullptr, ctx.get()), 0);
+        }
+        std::string codes;
+        for (int32_t code : Codes(ctx.get())) {
+            std::ostringstream text;
+            text << std::hex << code;
+            codes += (codes.empty() ? "" : " ") + text.str();
+        }
+        EXPECT_EQ(codes, row[2]);
+    }
+}
+
 // Components that cannot be written are reported with the code of their type, from the inside out.
 TEST(PkixBuild, CodesOfWhatCannotBeWritten) {
     Value foreign = list_of({noted_value(1, "01 01 FF").release()});

@@ -199,6 +199,9 @@ TEST(PkixReal, LoadedFromOctetsAndFromText) {
         for (const std::string &label : kind.labels)
             EXPECT_TRUE(loaded("-----\n" + armoured(label.c_str(), data) + "behind")) << label;
         EXPECT_TRUE(loaded(armoured("OTHER", "x") + armoured(kind.labels.back().c_str(), data)));
+        EXPECT_TRUE(loaded((kind.labels.size() == 2 ? armoured(kind.labels[1].c_str(), "x") : "") +
+                           armoured(kind.labels[0].c_str(), data)))
+            << "the first label goes before the other";
 
         auto refused = [&](const std::string &input) {
             EXPECT_FALSE(load(kind, input, &codes));
