@@ -1,0 +1,110 @@
+#include "fuzz/fuzzing.hpp"
+
+#include <cstdio>
+
+namespace kovra::fuzz {
+
+std::string entries(const kovra_err_ctx *ctx) {
+    std::string text;
+    const char *source = nullptr;
+    const char *message = nullptr;
+    int32_t entry_line = 0;
+    int32_t code = 0;
+    for (int32_t i = 0; kovra_err_ctx_getentry(ctx, i, &source, &entry_line, &code, &message) == 1; ++i) {
+        char number[32];
+        std::snprintf(number, sizeof number, ":%d 0x%x ", entry_line, static_cast<unsigned>(code));
+        text += source;
+        text += number;
+        text += message;
+        text += '\n';
+    }
+    return text;
+}
+
+Trickle::Trickle(std::string_view octets) : octets_(octets) {
+    kovra_stream_callbacks callbacks = {};
+    callbacks.read = read;
+    stream_.reset(kovra_stream_new_callbacks(&callbacks, this, nullptr));
+}
+
+int32_t Trickle::read(void *user, void *buffer, int32_t size, int32_t *out_count) {
+    auto &self = *static_cast<Trickle *>(user);
+    *out_count = 0;
+    if (self.position_ < self.octets_.size() && size > 0) {
+        *static_cast<char *>(buffer) = self.octets_[self.position_++];
+        *out_count = 1;
+    }
+    return 1;
+}
+
+Decoded decode(kovra_stream *stream, uint32_t type) {
+    Decoded decoded;
+    const Errors ctx(kovra_err_ctx_new());
+    constexpr int32_t unwritten = -7;
+    int32_t read = unwritten;
+    kovra_asn1_value *value = nullptr;
+    decoded.result = kovra_asn1_decode(stream, type, &value, &read, ctx.get());
+    decoded.value = Value(type, value);
+    decoded.entries = entries(ctx.get());
+    if (decoded.result == 1) {
+        check((value != nullptr) == has_record(type), "a success gives a value");
+        check(read >= 0, "a success says how many octets it took");
+        decoded.taken = static_cast<size_t>(read);
+    } else {
+        check(value == nullptr && read == unwritten, "nothing comes out of a failure");
+    }
+    return decoded;
+}
+
+Decoded decode_from_memory(const Exact &octets, uint32_t type) {
+    const Stream stream(kovra_stream_new_romem(octets.data(), octets.length(), 0, nullptr));
+    Decoded decoded = decode(stream.get(), type);
+    const uint8_t *unread = nullptr;
+    int64_t left = 0;
+    check(kovra_stream_peek(stream.get(), &unread, &left) == 1, "memory can be looked at");
+    const size_t taken = octets.size() - static_cast<size_t>(left);
+    check(decoded.result != 1 || taken == decoded.taken, "what was read was taken from the stream");
+    decoded.taken = taken;
+    return decoded;
+}
+
+Decoded decode_from_trickle(const Exact &octets, uint32_t type) {
+    const Trickle trickle(octets.view());
+    Decoded decoded = decode(trickle.stream(), type);
+    check(decoded.result != 1 || trickle.taken() == decoded.taken, "what was read was taken from the stream");
+    decoded.taken = trickle.taken();
+    return decoded;
+}
+
+std::string drain(kovra_stream *stream) {
+    int64_t length = 0;
+    const Memory<void> data(kovra_memstreamdeatch(stream, &length));
+    return {static_cast<const char *>(data.get()), static_cast<size_t>(length)};
+}
+
+std::string encode(uint32_t type, const kovra_asn1_value *value) {
+    const Stream stream(kovra_stream_new_mem(0, nullptr));
+    const Errors ctx(kovra_err_ctx_new());
+    int32_t written = -1;
+    const int32_t result = kovra_asn1_encode(stream.get(), type, value, &written, ctx.get());
+    check(result == 1, entries(ctx.get()).c_str());
+    std::string octets = drain(stream.get());
+    check(static_cast<size_t>(written) == octets.size(), "what was written is as long as encoding says");
+    const int32_t length = kovra_asn1_length(type, value);
+    check(length == -1 || length == written, "what was written is as long as announced");
+    const int32_t content_length = kovra_asn1_content_length(type, value);
+    check(content_length >= -1 && (content_length == -1) == (length == -1), "content and whole agree on being definite");
+    int32_t content_written = -1;
+    if (kovra_asn1_encode_content(stream.get(), type, value, content_length, &content_written, nullptr) == 1) {
+        const std::string content = drain(stream.get());
+        check(static_cast<size_t>(content_written) == content.size(), "content is as long as encoding says");
+        check(content_length == -1 || content_written == content_length, "content is as long as announced");
+        check(octets.size() >= content.size() && octets.substr(octets.size() - content.size()) == content,
+              "the content is the end of the whole");
+    }
+    const Blob blob(kovra_asn1_mem_encode(type, value));
+    check(blob != nullptr && text_of(blob.get()) == octets, "encoding to memory gives the same");
+    return octets;
+}
+
+} // namespace kovra::fuzz
