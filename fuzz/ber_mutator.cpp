@@ -1,5 +1,5 @@
-// The mutator of targets over elements. It changes a tree and writes it again, so that mostly the lengths around a change
-// are right and what is behind it is reached.
+// The mutator of targets over elements. It changes a tree and writes it again, so that mostly the lengths around a
+// change are right and what is behind it is reached.
 #include <algorithm>
 #include <cstring>
 #include <iterator>
@@ -89,18 +89,33 @@ private:
 
     std::string content_for(char identifier) {
         using std::string_literals::operator""s;
-        static const std::string integers[] = {"\0"s, "\x7F"s,     "\x80"s,          "\xFF"s,
-                                               "\1"s, "\0\x80"s,   "\xFF\x7F"s,      "\0\0"s,
-                                               ""s,   "\x80\0\0\0"s, "\x7F\xFF\xFF\xFF"s, "\0\xFF\xFF\xFF\xFF"s};
-        static const std::string bits[] = {"\0"s, "\7\x80"s, "\0\xFF"s, "\7"s, "\x08\0"s, ""s, "\1\xFF"s, "\4\xF7\x70"s};
-        static const std::string oids[] = {"\x2A\x03"s,         "\x55\x1D\x0F"s, "\x55\x04\x03"s,
-                                           "\x80\1"s,           "\x2A\x86"s,     ""s,
-                                           "\x88\x37"s,         "\x2A\x81\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x7F"s,
+        static const std::string integers[] = {"\0"s,
+                                               "\x7F"s,
+                                               "\x80"s,
+                                               "\xFF"s,
+                                               "\1"s,
+                                               "\0\x80"s,
+                                               "\xFF\x7F"s,
+                                               "\0\0"s,
+                                               ""s,
+                                               "\x80\0\0\0"s,
+                                               "\x7F\xFF\xFF\xFF"s,
+                                               "\0\xFF\xFF\xFF\xFF"s};
+        static const std::string bits[] = {"\0"s,     "\7\x80"s, "\0\xFF"s, "\7"s,
+                                           "\x08\0"s, ""s,       "\1\xFF"s, "\4\xF7\x70"s};
+        static const std::string oids[] = {"\x2A\x03"s,
+                                           "\x55\x1D\x0F"s,
+                                           "\x55\x04\x03"s,
+                                           "\x80\1"s,
+                                           "\x2A\x86"s,
+                                           ""s,
+                                           "\x88\x37"s,
+                                           "\x2A\x81\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x7F"s,
                                            "\x2A\x86\x48\x86\xF7\x0D\1\1\1"s};
-        static const std::string times[] = {"500101000000Z"s,      "491231235959Z"s,    "20240229120000Z"s,
-                                            "20240101000000.5Z"s,  "2401010000Z"s,      "240101000000+0100"s,
+        static const std::string times[] = {"500101000000Z"s,       "491231235959Z"s,   "20240229120000Z"s,
+                                            "20240101000000.5Z"s,   "2401010000Z"s,     "240101000000+0100"s,
                                             "20240101000000-1200"s, "15820101000000Z"s, "99991231235959Z"s,
-                                            "20161231235960Z"s,    "2024010124Z"s,      "20240101.05"s};
+                                            "20161231235960Z"s,     "2024010124Z"s,     "20240101.05"s};
         static const std::string booleans[] = {"\xFF"s, "\0"s, "\1"s, "\xFF\xFF"s, ""s};
         switch (identifier & 0x1F) {
         case 1:
@@ -165,8 +180,9 @@ private:
         Node &node = place.node();
         node.form = Node::Length::given;
         if (node.length.empty() || one_in(2))
-            node.length = one_in(2) ? lengths[below(std::size(lengths))]
-                                    : length_octets(write_nodes(node.inside).size() + node.content.size() + below(5) - 2);
+            node.length = one_in(2)
+                              ? lengths[below(std::size(lengths))]
+                              : length_octets(write_nodes(node.inside).size() + node.content.size() + below(5) - 2);
     }
 
     void wrap(Nodes &, Place place) {
@@ -247,8 +263,8 @@ private:
             Node part;
             part.identifier = is_bits ? "\x03" : "\x04";
             const size_t size = std::min(content.size(), below(content.size() + 2));
-            part.content = (is_bits ? (size == content.size() ? unused : std::string(1, '\0')) : "") +
-                           content.substr(0, size);
+            part.content =
+                (is_bits ? (size == content.size() ? unused : std::string(1, '\0')) : "") + content.substr(0, size);
             content.erase(0, size);
             node.inside.push_back(std::move(part));
         } while (!content.empty() && node.inside.size() < 20);
@@ -280,7 +296,7 @@ size_t put(const std::string &octets, uint8_t *data, size_t begin, size_t max_si
 }
 
 std::string_view view(const uint8_t *data, size_t begin, size_t size) {
-    return {reinterpret_cast<const char *>(data) + begin, size - begin};
+    return begin < size ? std::string_view(reinterpret_cast<const char *>(data) + begin, size - begin) : "";
 }
 
 } // namespace
@@ -306,7 +322,7 @@ extern "C" size_t LLVMFuzzerCustomCrossOver(const uint8_t *data, size_t size, co
     Mutator mutator(seed, max_size);
     const size_t begin = elements_begin(data, size);
     const size_t other_begin = elements_begin(other, other_size);
-    if (begin > max_size)
+    if (begin > std::min(size, max_size))
         return 0;
     std::copy_n(data, begin, out);
     Nodes nodes = read_nodes(view(data, begin, size));

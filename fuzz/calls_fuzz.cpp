@@ -1,6 +1,8 @@
 // Sequences of calls of all exported functions: two octets choose a function, those behind them its arguments. Handles
 // are what earlier calls gave, also of a wrong kind; the first octet chooses an allocation that fails.
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <random>
 
 #include "fuzz/calls_table.hpp"
@@ -14,16 +16,23 @@ namespace {
 // Values that are put into each other grow without end otherwise.
 constexpr int64_t most_memory = 1 << 18;
 
+// With KOVRA_FUZZ_TRACE in the environment each function is named before it is called.
+const bool is_traced = std::getenv("KOVRA_FUZZ_TRACE") != nullptr;
+
 void run(Draw input) {
     const uint8_t scarce = input.octet();
     if (scarce >= 0x80)
         fail_allocation((scarce & 0x3F) * 3, scarce < 0xC0);
     Machine machine;
-    while (!input.is_over() && !machine.is_full())
-        function_of(static_cast<uint16_t>(input.number(2))).call(machine, input);
+    while (!input.is_over() && !machine.is_full()) {
+        const Function &function = function_of(static_cast<uint16_t>(input.number(2)));
+        if (is_traced)
+            std::fprintf(stderr, "%.*s\n", static_cast<int>(function.name.size()), function.name.data());
+        function.call(machine, input);
+    }
 }
 
-// The calls of an input, as octets.
+// The calls of an input, as octets: the selector and what its arguments take.
 std::vector<std::string> split(const uint8_t *data, size_t size) {
     std::vector<std::string> calls;
     Draw input(data, size);
@@ -31,7 +40,8 @@ std::vector<std::string> split(const uint8_t *data, size_t size) {
     while (!input.is_over()) {
         function_of(static_cast<uint16_t>(input.number(2))).skip(input);
         const size_t end = size - input.left();
-        calls.emplace_back(reinterpret_cast<const char *>(data) + begin, end - begin);
+        if (end - begin >= 2)
+            calls.emplace_back(reinterpret_cast<const char *>(data) + begin, end - begin);
         begin = end;
     }
     return calls;
@@ -110,8 +120,7 @@ extern "C" size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t max
             std::string arguments = chosen->substr(2);
             const size_t length = arguments.size();
             arguments.resize(length + 8);
-            arguments.resize(
-                LLVMFuzzerMutate(reinterpret_cast<uint8_t *>(arguments.data()), length, arguments.size()));
+            arguments.resize(LLVMFuzzerMutate(reinterpret_cast<uint8_t *>(arguments.data()), length, arguments.size()));
             chosen->replace(2, std::string::npos, arguments);
         }
         }

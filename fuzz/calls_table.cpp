@@ -32,7 +32,7 @@ template <> struct HandleOf<kovra_asn1_decode_any_ctx> : IsHandle<HandleKind::an
 template <> struct HandleOf<kovra_asn1_decode_octetstring_ctx> : IsHandle<HandleKind::string_context> {};
 
 template <class T> using Pointee = std::remove_const_t<std::remove_pointer_t<T>>;
-template <class T> constexpr bool is_handle = std::is_pointer_v<T> && HandleOf<Pointee<T>>::exists;
+template <class T> constexpr bool is_handle = std::is_pointer_v<T> &&HandleOf<Pointee<T>>::exists;
 
 // A parameter by its type and those of its neighbours.
 template <class Type, class Next> constexpr bool names_length() {
@@ -45,8 +45,7 @@ template <class Type, class Next> constexpr bool names_length() {
 
 template <size_t i, class... P> struct At { using Type = void; };
 template <size_t i, class... P>
-    requires(i < sizeof...(P))
-struct At<i, P...> {
+requires(i < sizeof...(P)) struct At<i, P...> {
     using Type = std::tuple_element_t<i, std::tuple<P...>>;
 };
 
@@ -67,7 +66,7 @@ struct Octets {
 template <class Type, class Previous, class Next> struct Argument;
 
 template <class Type, class Previous, class Next>
-    requires is_handle<Type>
+requires is_handle<Type>
 struct Argument<Type, Previous, Next> {
     static constexpr HandleKind kind = HandleOf<Pointee<Type>>::kind;
     uint8_t choice;
@@ -81,7 +80,7 @@ struct Argument<Type, Previous, Next> {
 };
 
 template <class Type, class Previous, class Next>
-    requires std::is_arithmetic_v<Type>
+requires std::is_arithmetic_v<Type>
 struct Argument<Type, Previous, Next> {
     static constexpr bool is_length = names_length<Previous, Type>();
     uint64_t number = 0;
@@ -169,9 +168,9 @@ template <class Previous, class Next> struct Argument<void *, Previous, Next> {
 };
 
 template <class Type, class Previous, class Next>
-    requires(std::is_pointer_v<Type> && !std::is_const_v<std::remove_pointer_t<Type>> &&
-             (std::is_arithmetic_v<Pointee<Type>> || std::is_pointer_v<Pointee<Type>>))
-struct Argument<Type, Previous, Next> {
+requires(std::is_pointer_v<Type> && !std::is_const_v<std::remove_pointer_t<Type>> &&
+         (std::is_arithmetic_v<Pointee<Type>> ||
+          std::is_pointer_v<Pointee<Type>>)) struct Argument<Type, Previous, Next> {
     using Place = Pointee<Type>;
     bool exists;
     Place *place = nullptr;
@@ -226,7 +225,8 @@ void hand_over(Machine &machine, std::string_view name, const Arguments &argumen
     if constexpr (sizeof...(P) == 2) {
         if (name == "kovra_asn1_list_put" || name == "kovra_json_addarrayitem")
             given = index_at<1>(arguments);
-    } else if constexpr (std::is_same_v<std::tuple<P...>, std::tuple<kovra_asn1_value *, kovra_asn1_value *, int32_t>>) {
+    } else if constexpr (std::is_same_v<std::tuple<P...>,
+                                        std::tuple<kovra_asn1_value *, kovra_asn1_value *, int32_t>>) {
         if (name == "kovra_x500name_addrdn" && std::get<2>(values) == 0)
             given = index_at<1>(arguments);
     } else if constexpr (sizeof...(P) == 3) {
@@ -249,7 +249,8 @@ template <class T> void use_text(const T *text) {
 
 template <class R, class... P> struct Caller {
     using Indices = std::index_sequence_for<P...>;
-    template <size_t i> using ArgumentAt =
+    template <size_t i>
+    using ArgumentAt =
         Argument<typename At<i, P...>::Type, typename At<i - 1, P...>::Type, typename At<i + 1, P...>::Type>;
 
     template <size_t... i> static auto draw(Draw &input, std::index_sequence<i...>) {
@@ -267,8 +268,7 @@ template <class R, class... P> struct Caller {
             return;
         }
         // Only what lists and JSON containers store is borrowed by a place.
-        const size_t owner =
-            name == "kovra_asn1_list_get" ? first_handle(arguments, HandleKind::value) : Machine::none;
+        const size_t owner = name == "kovra_asn1_list_get" ? first_handle(arguments, HandleKind::value) : Machine::none;
         bool has_succeeded = true;
         if constexpr (std::is_void_v<R>) {
             std::apply(function, values);

@@ -120,7 +120,8 @@ void check_pem(const Exact &input) {
                                              &label_length, &data, &length);
         const Memory<void> owner(data);
         check((data != nullptr) == (result == 1), "there are octets where there is a block");
-        check(position >= before && position <= static_cast<int64_t>(input.size()), "the position moves on in the text");
+        check(position >= before && position <= static_cast<int64_t>(input.size()),
+              "the position moves on in the text");
         if (result == 0)
             break;
         check(position > before, "a block is not met twice");

@@ -8,11 +8,10 @@ std::string entries(const kovra_err_ctx *ctx) {
     std::string text;
     const char *source = nullptr;
     const char *message = nullptr;
-    int32_t entry_line = 0;
     int32_t code = 0;
-    for (int32_t i = 0; kovra_err_ctx_getentry(ctx, i, &source, &entry_line, &code, &message) == 1; ++i) {
-        char number[32];
-        std::snprintf(number, sizeof number, ":%d 0x%x ", entry_line, static_cast<unsigned>(code));
+    for (int32_t i = 0; kovra_err_ctx_getentry(ctx, i, &source, nullptr, &code, &message) == 1; ++i) {
+        char number[16];
+        std::snprintf(number, sizeof number, " 0x%x ", static_cast<unsigned>(code));
         text += source;
         text += number;
         text += message;
@@ -82,6 +81,37 @@ std::string drain(kovra_stream *stream) {
     return {static_cast<const char *>(data.get()), static_cast<size_t>(length)};
 }
 
+namespace {
+
+std::string encode_content(uint32_t type, const kovra_asn1_value *value, int32_t length) {
+    const Stream stream(kovra_stream_new_mem(0, nullptr));
+    int32_t written = -1;
+    if (kovra_asn1_encode_content(stream.get(), type, value, length, &written, nullptr) != 1)
+        return "";
+    std::string content = drain(stream.get());
+    check(static_cast<size_t>(written) == content.size(), "content is as long as encoding says");
+    check(length == -1 || length == written, "content is as long as announced");
+    return content;
+}
+
+// The content alone, where the type allows that, comes back. It need not be that of octets that were kept.
+void check_content(uint32_t type, const kovra_asn1_value *value, int32_t length, const std::string &whole) {
+    const std::string content = encode_content(type, value, length);
+    const int32_t form = (whole[0] & 0x20) == 0 ? KOVRA_ASN1_PRIMITIVE : KOVRA_ASN1_CONSTRUCTED;
+    const Exact exact(content);
+    const Stream stream(kovra_stream_new_romem(exact.data(), exact.length(), 0, nullptr));
+    Value again(type, nullptr);
+    int32_t read = -1;
+    if (kovra_asn1_decode_content(stream.get(), type, again.place(), form, length, &read, nullptr) != 1 ||
+        !has_record(type))
+        return;
+    check(read == exact.length(), "content is decoded, all of it");
+    check(encode_content(type, again.get(), kovra_asn1_content_length(type, again.get())) == content,
+          "and encoded so again");
+}
+
+} // namespace
+
 std::string encode(uint32_t type, const kovra_asn1_value *value) {
     const Stream stream(kovra_stream_new_mem(0, nullptr));
     const Errors ctx(kovra_err_ctx_new());
@@ -93,15 +123,9 @@ std::string encode(uint32_t type, const kovra_asn1_value *value) {
     const int32_t length = kovra_asn1_length(type, value);
     check(length == -1 || length == written, "what was written is as long as announced");
     const int32_t content_length = kovra_asn1_content_length(type, value);
-    check(content_length >= -1 && (content_length == -1) == (length == -1), "content and whole agree on being definite");
-    int32_t content_written = -1;
-    if (kovra_asn1_encode_content(stream.get(), type, value, content_length, &content_written, nullptr) == 1) {
-        const std::string content = drain(stream.get());
-        check(static_cast<size_t>(content_written) == content.size(), "content is as long as encoding says");
-        check(content_length == -1 || content_written == content_length, "content is as long as announced");
-        check(octets.size() >= content.size() && octets.substr(octets.size() - content.size()) == content,
-              "the content is the end of the whole");
-    }
+    // Of octets that were kept the whole is known even when their content is indefinite.
+    check(content_length >= -1 && (length != -1 || content_length == -1), "content and whole agree on being definite");
+    check_content(type, value, content_length, octets);
     const Blob blob(kovra_asn1_mem_encode(type, value));
     check(blob != nullptr && text_of(blob.get()) == octets, "encoding to memory gives the same");
     return octets;

@@ -51,7 +51,8 @@ private:
     kovra_asn1_value *handle_ = nullptr;
 };
 
-// The entries of a context as text, a line each.
+// The entries of a context as text, a line each: source, code and message. Whose line of the source found it is not
+// part of what is promised.
 std::string entries(const kovra_err_ctx *ctx);
 
 // Octets as a stream that gives one at a time, knows no size and cannot be rewound.

@@ -1,5 +1,5 @@
-// Elements in pieces: the first octet says where the others are cut. However that is, the outcome is the same, and it is
-// that of decoding the whole, but for what kovra/asn1_decode.h states.
+// Elements in pieces: the first octet says where the others are cut. However that is, the outcome is the same, and it
+// is that of decoding the whole, but for what kovra/asn1_decode.h states.
 #include <algorithm>
 
 #include "fuzz/fuzzing.hpp"
@@ -213,7 +213,8 @@ void check_string(std::string_view octets, uint8_t how) {
         check(content.result != 1, "decoding refuses what no context can be in");
         return;
     }
-    check_same(content, push_string(std::move(ctx), octets.substr(static_cast<size_t>(header + length_read)), how, true));
+    check_same(content,
+               push_string(std::move(ctx), octets.substr(static_cast<size_t>(header + length_read)), how, true));
 }
 
 void run(Draw input) {

@@ -149,8 +149,9 @@ void make(const fs::path &all) {
         decode.add(octet(KOVRA_ASN1_TYPE_ANY) + row);
     for (const auto &row : test::table("times.txt"))
         text.add(row[1]);
-    for (const char *sample : {"1.2.840.113549.1.1.11", "2.999.18446744073709551614", "0.39", "8571.3.2", "-12345678901234567890",
-                               "00ffFF7f", "K\xC3\xA4se \xE6\x9D\xB1 \xF0\x9F\x94\x91", "\xD8\x3D\xDD\x11"})
+    for (const char *sample :
+         {"1.2.840.113549.1.1.11", "2.999.18446744073709551614", "0.39", "8571.3.2", "-12345678901234567890",
+          "00ffFF7f", "K\xC3\xA4se \xE6\x9D\xB1 \xF0\x9F\x94\x91", "\xD8\x3D\xDD\x11"})
         text.add(sample);
     text.add(std::string("\0\0\0a\0\1\xF5\x11", 8));
 }

