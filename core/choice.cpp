@@ -281,6 +281,16 @@ Value *alternative(const ChoiceShape &shape, const kovra_asn1_value *handle, uin
     return choice != nullptr && choice->alternative == number ? choice->value : nullptr;
 }
 
+Value *chosen_value(const ChoiceShape &shape, const kovra_asn1_value *handle) {
+    const Choice *choice = as_choice(shape, handle);
+    return choice != nullptr ? choice->value : nullptr;
+}
+
+int32_t alternative_number(const ChoiceShape &shape, const kovra_asn1_value *handle) {
+    const Choice *choice = as_choice(shape, handle);
+    return choice != nullptr ? static_cast<int32_t>(choice->alternative) : 0;
+}
+
 TaggedString *construct_string_choice(const StringChoice &shape, int32_t tag, const kovra_asn1_value *string) {
     if (!allows(shape, tag) || as<String>(string) == nullptr)
         return nullptr;

@@ -46,6 +46,10 @@ struct Component {
     // Types that stand in for the component's own in one direction; 0: none does.
     uint8_t encode_type = 0;
     uint8_t decode_type = 0;
+    // The type that a constructor's argument is copied as; 0: the component's own.
+    uint8_t copy_type = 0;
+    // Written under an implicit tag, but read as if the tag were explicit.
+    bool reads_explicit = false;
 
     constexpr Component codes(int32_t encode, int32_t decode) const {
         Component changed = *this;
@@ -61,6 +65,16 @@ struct Component {
     constexpr Component decode_as(uint8_t other) const {
         Component changed = *this;
         changed.decode_type = other;
+        return changed;
+    }
+    constexpr Component copied_as(uint8_t other) const {
+        Component changed = *this;
+        changed.copy_type = other;
+        return changed;
+    }
+    constexpr Component read_as_explicit() const {
+        Component changed = *this;
+        changed.reads_explicit = true;
         return changed;
     }
 };
@@ -94,6 +108,9 @@ inline const Type &encode_row(const Component &component) {
 }
 inline const Type &decode_row(const Component &component) {
     return row(component.decode_type != 0 ? component.decode_type : component.type);
+}
+inline Tagging decode_tagging(const Component &component) {
+    return component.reads_explicit ? Tagging::explicit_ : component.tag.tagging;
 }
 inline int32_t encode_code(const Component &component) {
     return component.encode_code != 0 ? component.encode_code : encode_row(component).base;

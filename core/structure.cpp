@@ -199,7 +199,7 @@ private:
     // Does the component begin with the identifier that was read?
     [[nodiscard]] bool matches(const Component &component) const {
         const Type &type = decode_row(component);
-        switch (component.tag.tagging) {
+        switch (decode_tagging(component)) {
         case Tagging::none:
             return begins(type, identifier_);
         case Tagging::implicit:
@@ -238,7 +238,7 @@ private:
         int32_t length = 0;
         if (const Result result = decode_length(decoder_, at(shape_, component), length); result != success)
             return result;
-        return component.tag.tagging == Tagging::explicit_
+        return decode_tagging(component) == Tagging::explicit_
                    ? decode_explicit(decoder_, at(shape_, component), component, length, place)
                    : read_content(component, length, place);
     }
@@ -409,7 +409,8 @@ bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value) {
         record.slots[slot] = component.fallback->make(*record.arena);
         return record.slots[slot] != nullptr;
     }
-    Value *copy = duplicate(row(component.type), static_cast<const Value *>(value), nullptr);
+    const Type &type = row(component.copy_type != 0 ? component.copy_type : component.type);
+    Value *copy = duplicate(type, static_cast<const Value *>(value), nullptr);
     if (copy == nullptr)
         return false;
     return store(record, slot, copy);
