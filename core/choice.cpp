@@ -146,7 +146,7 @@ Result decode_choice(Decoder &decoder, const Type &type, Value *&out) {
         return decoder.fail(in(shape), code::incorrect_item);
     if (const Result result = decode_length(decoder, in(shape), length); result != success)
         return result;
-    if (!decoder.has_place())
+    if (!decoder.has_both_ends())
         return decoder.fail(in(shape), code::null_argument);
     return decode_begun_choice(decoder, type, identifier, {identifier.form, length, start}, out);
 }

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "core/registry.hpp"
+#include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {
 
@@ -43,13 +44,16 @@ struct Component {
     // Codes that stand in for those of the component's type; 0: none does.
     int32_t encode_code = 0;
     int32_t decode_code = 0;
-    // Types that stand in for the component's own in one direction; 0: none does.
-    uint8_t encode_type = 0;
-    uint8_t decode_type = 0;
-    // The type that a constructor's argument is copied as; 0: the component's own.
-    uint8_t copy_type = 0;
-    // Written under an implicit tag, but read as if the tag were explicit.
-    bool reads_explicit = false;
+    // The row as which each direction takes the component, and as which a constructor copies its argument: that of its
+    // type, unless another stands in for it.
+    const Type *written_as = &registry[type];
+    const Type *read_as = &registry[type];
+    const Type *duplicated_as = &registry[type];
+    // How the tag is read, which may be another way than it is written.
+    Tagging read_tagging = tag.tagging;
+    // Is it decoded whole, without a look at its identifier first?
+    bool is_read_whole =
+        tag.tagging == Tagging::none && (presence == Presence::required || type == KOVRA_ASN1_TYPE_ANY);
 
     constexpr Component codes(int32_t encode, int32_t decode) const {
         Component changed = *this;
@@ -59,22 +63,22 @@ struct Component {
     }
     constexpr Component encode_as(uint8_t other) const {
         Component changed = *this;
-        changed.encode_type = other;
+        changed.written_as = &registry[other];
         return changed;
     }
     constexpr Component decode_as(uint8_t other) const {
         Component changed = *this;
-        changed.decode_type = other;
+        changed.read_as = &registry[other];
         return changed;
     }
     constexpr Component copied_as(uint8_t other) const {
         Component changed = *this;
-        changed.copy_type = other;
+        changed.duplicated_as = &registry[other];
         return changed;
     }
     constexpr Component read_as_explicit() const {
         Component changed = *this;
-        changed.reads_explicit = true;
+        changed.read_tagging = Tagging::explicit_;
         return changed;
     }
 };
@@ -104,13 +108,10 @@ template <size_t count> consteval bool is_sound(const Component (&components)[co
 
 // The types and codes that apply in each direction.
 inline const Type &encode_row(const Component &component) {
-    return row(component.encode_type != 0 ? component.encode_type : component.type);
+    return *component.written_as;
 }
 inline const Type &decode_row(const Component &component) {
-    return row(component.decode_type != 0 ? component.decode_type : component.type);
-}
-inline Tagging decode_tagging(const Component &component) {
-    return component.reads_explicit ? Tagging::explicit_ : component.tag.tagging;
+    return *component.read_as;
 }
 inline int32_t encode_code(const Component &component) {
     return component.encode_code != 0 ? component.encode_code : encode_row(component).base;

@@ -1,5 +1,6 @@
 #include "core/structure.hpp"
 
+#include <algorithm>
 #include <cstring>
 
 #include "core/any.hpp"
@@ -32,16 +33,23 @@ bool is_written(const Component &component, const Value *value) {
     return component.presence != Presence::defaulted || !component.fallback->is(*value);
 }
 
-Record *new_record_of(Arena &arena, const Structure &shape) {
-    const size_t size = sizeof(Record) - sizeof(Record::slots) + shape.count * sizeof(Value *) + 2 * sizeof(Octets);
-    auto *record = new_record<Record>(arena, size);
-    if (record != nullptr)
-        record->shape = &shape;
-    return record;
-}
-
 Octets *kept_of(Record &record) {
     return reinterpret_cast<Octets *>(record.slots + record.shape->count);
+}
+
+// The slots are the caller's to fill.
+Record *new_record_of(Arena &arena, const Structure &shape) {
+    const size_t size = sizeof(Record) - sizeof(Record::slots) + shape.count * sizeof(Value *) + 2 * sizeof(Octets);
+    auto *record = static_cast<Record *>(arena.allocate(size));
+    if (record == nullptr)
+        return nullptr;
+    record->kind = Kind::record;
+    record->measured = 0;
+    record->arena = &arena;
+    record->shape = &shape;
+    Octets *kept = kept_of(*record);
+    kept[0] = kept[1] = {};
+    return record;
 }
 
 // Copies what was just encoded for keeping.
@@ -175,31 +183,61 @@ Result encode_kept(Encoder &encoder, const Type &type, Value *value) {
 class Reader {
 public:
     Reader(Decoder &decoder, const Structure &shape, const Element &element, Record &record)
-        : decoder_(decoder), shape_(shape), record_(record), begin_(decoder.position()), length_(element.length) {}
+        : decoder_(decoder), shape_(shape), record_(record),
+          end_(element.length == indefinite ? no_end : decoder.position() + static_cast<uint32_t>(element.length)) {}
 
     Result read() {
-        for (uint8_t i = 0; i < shape_.count && !ended_; ++i) {
-            const Component &component = shape_.components[i];
-            if (const Result result = read_component(component, i); result != success)
+        Decoder &decoder = decoder_;
+        const uint32_t end = end_;
+        const Component *component = shape_.components;
+        const Component *const last = component + shape_.count;
+        Value **slot = record_.slots;
+        if (shape_.signed_slot == 0) {
+            *slot = nullptr;
+            if (const Result result = read_signed(*component++, *slot++); result != success)
                 return result;
-            if (!is_indefinite() && consumed() > static_cast<uint32_t>(length_))
-                return decoder_.fail(at(shape_, component), code::incorrect_length);
         }
-        for (uint8_t i = 0; shape_.has_defaults && i < shape_.count; ++i)
-            if (record_.slots[i] == nullptr && shape_.components[i].presence == Presence::defaulted)
-                if ((record_.slots[i] = shape_.components[i].fallback->make(decoder_.arena())) == nullptr)
-                    return decoder_.fail(at(shape_, shape_.components[i]), code::no_memory);
-        return ended_ ? success : finish();
+        const Component *const may_end = shape_.components + shape_.required_end;
+        for (; component != last; ++component, ++slot) {
+            Result result = success;
+            *slot = nullptr;
+            if (state_ != State::between)
+                result = state_ == State::ended ? leave_absent(*component, *slot) : read_tested(*component, *slot);
+            else if (decoder.position() == end && component >= may_end)
+                result = leave_absent(*component, *slot);
+            else if (component->is_read_whole && !follows_optional(*component))
+                result = read_whole(*component, *slot);
+            else
+                result = read_tested(*component, *slot);
+            if (result != success)
+                return result;
+            if (decoder.position() > end)
+                return decoder.fail(at(shape_, *component), code::incorrect_length);
+        }
+        return decoder.position() == end && state_ == State::between ? success : finish();
     }
 
 private:
-    [[nodiscard]] bool is_indefinite() const { return length_ == indefinite; }
-    [[nodiscard]] uint32_t consumed() const { return decoder_.position() - begin_; }
+    static constexpr uint32_t no_end = UINT32_MAX;
+
+    enum class State : uint8_t {
+        between, // two components
+        pending, // an identifier was read that no component has taken yet
+        ended,   // the end-of-contents octets were read in place of a component
+    };
+
+    [[nodiscard]] bool is_indefinite() const { return end_ == no_end; }
+
+    // What stands behind a component that may be absent is known by its identifier, whether that was there or not.
+    [[nodiscard]] bool follows_optional(const Component &component) const {
+        return &component != shape_.components && (&component)[-1].presence != Presence::required &&
+               component.presence == Presence::required;
+    }
 
     // Does the component begin with the identifier that was read?
     [[nodiscard]] bool matches(const Component &component) const {
         const Type &type = decode_row(component);
-        switch (decode_tagging(component)) {
+        switch (component.read_tagging) {
         case Tagging::none:
             return begins(type, identifier_);
         case Tagging::implicit:
@@ -211,51 +249,52 @@ private:
         return false;
     }
 
-    Result read_component(const Component &component, uint8_t slot) {
-        const bool is_required = component.presence == Presence::required;
-        const bool is_plain = component.tag.tagging == Tagging::none;
-        Value *&place = record_.slots[slot];
-        if (!identifier_read_) {
-            if (!is_required && !is_indefinite() && consumed() == static_cast<uint32_t>(length_))
-                return success;
-            if (slot == shape_.signed_slot)
-                return read_signed(component, place);
-            if (is_plain && (is_required || component.type == KOVRA_ASN1_TYPE_ANY))
-                return read_whole(component, place);
+    Result leave_absent(const Component &component, Value *&slot) {
+        if (component.presence != Presence::defaulted)
+            return success;
+        slot = component.fallback->make(decoder_.arena());
+        return slot != nullptr ? success : decoder_.fail(at(shape_, component), code::no_memory);
+    }
+
+    Result read_whole(const Component &component, Value *&slot) {
+        const Type &type = decode_row(component);
+        if (const Result result = decode(decoder_, type, slot); result != success)
+            return decoder_.fail(at(shape_, component), decode_code(component), result);
+        return type.number == KOVRA_ASN1_TYPE_ANY && is_end_of_contents(slot) ? end_of_contents(component, slot)
+                                                                              : success;
+    }
+
+    // An end-of-contents marker was read in place of a component.
+    Result end_of_contents(const Component &component, Value *&slot) {
+        slot = nullptr;
+        if (component.presence == Presence::required || !is_indefinite())
+            return decoder_.fail(at(shape_, component), code::incorrect_item);
+        state_ = State::ended;
+        return leave_absent(component, slot);
+    }
+
+    Result read_tested(const Component &component, Value *&slot) {
+        if (state_ == State::between) {
             identifier_start_ = decoder_.position();
             if (const Result result = decode_identifier(decoder_, at(shape_, component), identifier_);
                 result != success)
                 return result;
-            identifier_read_ = true;
-        } else if (is_plain && component.type == KOVRA_ASN1_TYPE_ANY) {
-            identifier_read_ = false;
+            state_ = State::pending;
+        } else if (component.tag.tagging == Tagging::none && component.type == KOVRA_ASN1_TYPE_ANY) {
+            state_ = State::between;
             decoder_.rewind(identifier_start_);
-            return read_whole(component, place);
+            return read_whole(component, slot);
         }
         if (!matches(component))
-            return is_required ? decoder_.fail(at(shape_, component), code::incorrect_item) : success;
-        identifier_read_ = false;
+            return component.presence == Presence::required ? decoder_.fail(at(shape_, component), code::incorrect_item)
+                                                            : leave_absent(component, slot);
+        state_ = State::between;
         int32_t length = 0;
         if (const Result result = decode_length(decoder_, at(shape_, component), length); result != success)
             return result;
-        return decode_tagging(component) == Tagging::explicit_
-                   ? decode_explicit(decoder_, at(shape_, component), component, length, place)
-                   : read_content(component, length, place);
-    }
-
-    Result read_whole(const Component &component, Value *&place) {
-        Value *value = nullptr;
-        const Site site = at(shape_, component);
-        if (const Result result = decode_component(decoder_, site, component, value); result != success)
-            return result;
-        if (is_end_of_contents(value)) {
-            if (component.presence == Presence::required || !is_indefinite())
-                return decoder_.fail(site, code::incorrect_item);
-            ended_ = true;
-            return success;
-        }
-        place = value;
-        return success;
+        return component.read_tagging == Tagging::explicit_
+                   ? decode_explicit(decoder_, at(shape_, component), component, length, slot)
+                   : read_content(component, length, slot);
     }
 
     // Behind an identifier that the component begins with, tagged or not.
@@ -269,29 +308,32 @@ private:
     }
 
     // The component is decoded from its exact octets, which stay with the record.
-    Result read_signed(const Component &component, Value *&place) {
+    Result read_signed(const Component &component, Value *&slot) {
         const Site site = at(shape_, component);
         Extent extent;
         if (const Result result = walk_element(decoder_, extent); result != success)
             return decoder_.fail(site, code::decode_any, result);
-        if (!is_indefinite() && consumed() > static_cast<uint32_t>(length_))
+        if (decoder_.position() > end_)
             return decoder_.fail(site, code::incorrect_length);
         kept_of(record_)[1] = decoder_.octets_from(extent.start);
         const Decoder::Window window(decoder_, decoder_.position());
         decoder_.rewind(extent.start);
-        return read_whole(component, place);
+        return read_whole(component, slot);
     }
 
+    // What is left when the components were read.
     Result finish() {
         const Site site = in(shape_);
-        if (identifier_read_) {
+        if (state_ == State::ended)
+            return success;
+        if (state_ == State::pending) {
             if (!is_indefinite() || !identifier_.is_end_of_contents())
                 return decoder_.fail(site, code::incorrect_item);
             const Result result = read_end_of_contents_length(decoder_, site);
             return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
         }
         if (!is_indefinite())
-            return consumed() == static_cast<uint32_t>(length_) ? success : decoder_.fail(site, code::incorrect_length);
+            return decoder_.fail(site, code::incorrect_length);
         Value *none = nullptr;
         const Result result = decode(decoder_, row(KOVRA_ASN1_TYPE_END_OF_CONTENTS), none);
         return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
@@ -300,12 +342,10 @@ private:
     Decoder &decoder_;
     const Structure &shape_;
     Record &record_;
-    uint32_t begin_;
-    int32_t length_;
+    const uint32_t end_; // position behind the last component; no_end: end-of-contents octets stand there
     Identifier identifier_;
     uint32_t identifier_start_ = 0;
-    bool identifier_read_ = false; // an identifier was read that no component has taken yet
-    bool ended_ = false;           // the end-of-contents octets were read in place of a component
+    State state_ = State::between;
 };
 
 Result decode_structure_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
@@ -319,6 +359,7 @@ Result decode_structure_content(Decoder &decoder, const Type &type, const Elemen
     Record *record = new_record_of(decoder.arena(), *shape.shape());
     if (record == nullptr)
         return decoder.fail(in(shape), code::no_memory);
+    record->slots[0] = nullptr;
     const Result result =
         shape.content != nullptr
             ? shape.content->operations->decode_content(decoder, *shape.content, element, record->slots[0])
@@ -338,6 +379,12 @@ Result decode_kept_content(Decoder &decoder, const Type &type, const Element &el
     if (element.start != Element::no_start)
         *kept_of(*static_cast<Record *>(out)) = decoder.octets_from(element.start);
     return success;
+}
+
+// One of definite length ends where it says: its components do not reach beyond.
+Result decode_kept_entered(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
+    const Decoder::Window window(decoder, decoder.position() + static_cast<uint32_t>(element.length));
+    return decode_kept_content(decoder, type, element, out);
 }
 
 Result decode_kept(Decoder &decoder, const Type &type, Value *&out) {
@@ -367,6 +414,7 @@ constexpr Operations structure_operations = {
     .content_length = structure_content_length,
     .encode_content = encode_structure_content,
     .decode_content = decode_structure_content,
+    .decode_entered = decode_structure_content,
     .records_reserve = structure_reserve,
 };
 
@@ -378,6 +426,7 @@ constexpr Operations kept_structure_operations = {
     .encode = encode_kept,
     .decode_content = decode_kept_content,
     .decode = decode_kept,
+    .decode_entered = decode_kept_entered,
     .records_reserve = structure_reserve,
 };
 
@@ -387,10 +436,12 @@ Record *new_structure(const Structure &shape) {
     if (arena == nullptr)
         return nullptr;
     Record *record = new_record_of(*arena, own);
-    if (record == nullptr)
+    if (record == nullptr) {
         Arena::destroy(arena);
-    else
-        arena->root = record;
+        return nullptr;
+    }
+    std::fill_n(record->slots, own.count, nullptr);
+    arena->root = record;
     return record;
 }
 
@@ -409,8 +460,7 @@ bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value) {
         record.slots[slot] = component.fallback->make(*record.arena);
         return record.slots[slot] != nullptr;
     }
-    const Type &type = row(component.copy_type != 0 ? component.copy_type : component.type);
-    Value *copy = duplicate(type, static_cast<const Value *>(value), nullptr);
+    Value *copy = duplicate(*component.duplicated_as, static_cast<const Value *>(value), nullptr);
     if (copy == nullptr)
         return false;
     return store(record, slot, copy);

@@ -21,7 +21,7 @@ struct Structure {
     uint8_t count;
     // The first component, when its exact octets are kept because they are what is signed; else no_slot.
     uint8_t signed_slot = no_slot;
-    bool has_defaults = false;
+    uint8_t required_end = 0; // behind the last required component
     // The structure whose records these are, when this one only restricts it; null: its own.
     const Structure *record = nullptr;
     // A record that is not allowed is refused in both directions with `refusal`; null: all are allowed.
@@ -37,8 +37,9 @@ struct Structure {
 template <size_t count> constexpr Structure structure(const char *source, const Component (&components)[count]) {
     static_assert(count < no_slot);
     Structure made{source, components, count};
-    for (const Component &component : components)
-        made.has_defaults = made.has_defaults || component.presence == Presence::defaulted;
+    for (uint8_t i = 0; i < count; ++i)
+        if (components[i].presence == Presence::required)
+            made.required_end = i + 1;
     return made;
 }
 // A list that keeps its encoding, which lists by themselves do not.

@@ -80,6 +80,7 @@ constexpr Operations integer_operations = {
     .content_length = integer_content_length,
     .encode_content = encode_integer_content,
     .decode_content = decode_integer_content,
+    .decode_entered = decode_integer_content,
     .records_reserve = leaf_reserve<2 * sizeof(Integer)>,
 };
 

@@ -178,6 +178,7 @@ constexpr Operations octet_string_operations = {
     .encode = encode_octet_string,
     .decode_content = decode_string_content,
     .decode = decode_octet_string,
+    .decode_entered = decode_string_content,
     .records_reserve = leaf_reserve<2 * sizeof(String)>,
 };
 

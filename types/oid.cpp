@@ -2,6 +2,7 @@
 
 #include "kovra/asn1_oid.h"
 
+#include <bit>
 #include <charconv>
 #include <cstring>
 
@@ -54,11 +55,23 @@ template <class Visit> bool for_each_subidentifier(const uint8_t *octets, uint32
     return true;
 }
 
+// Is one of the first octets, of which eight can be read, 80? (The classic test for a zero octet, on the octets with
+// their highest bit turned.)
+bool has_80(const uint8_t *octets, uint32_t length) {
+    constexpr uint64_t every = 0x0101010101010101;
+    uint64_t word = 0;
+    std::memcpy(&word, octets, sizeof word);
+    if (length < sizeof word)
+        word |= ~uint64_t{0} << (8 * length);
+    word ^= every * 0x80;
+    return ((word - every) & ~word & every * 0x80) != 0;
+}
+
 // Can a text be made? Where no octet is 80 and none has room for ten, no subidentifier begins with 80 or is too large.
-bool has_text(const uint8_t *octets, uint32_t length) {
-    constexpr uint32_t surely_fits = 9;
-    if (length <= surely_fits && std::memchr(octets, 0x80, length) == nullptr)
-        return true;
+bool has_text(const uint8_t *octets, uint32_t length, uint32_t reach) {
+    if constexpr (std::endian::native == std::endian::little)
+        if (length <= 9 && reach >= 9 && !has_80(octets, length) && octets[8] != 0x80)
+            return true;
     return for_each_subidentifier(octets, length, [](uint64_t) {});
 }
 
@@ -75,7 +88,7 @@ Result decode_oid_content(Decoder &decoder, const Type &type, const Element &ele
         return result;
     oid->octets = decoder.octets_from(begin);
     oid->relative = type.number == KOVRA_ASN1_TYPE_RELATIVE_OID;
-    if (!has_text(decoder.at(begin), oid->octets.length))
+    if (!has_text(decoder.at(begin), oid->octets.length, decoder.reach_of(begin)))
         return decoder.fail(here(), code::bad_oid_content);
     out = oid;
     return success;
@@ -194,6 +207,7 @@ constexpr Operations object_identifier_operations = {
     .content_length = oid_content_length,
     .encode_content = encode_oid_content,
     .decode_content = decode_oid_content,
+    .decode_entered = decode_oid_content,
     .records_reserve = leaf_reserve<2 * sizeof(ObjectIdentifier)>,
 };
 
