@@ -62,6 +62,9 @@ inline Result walk_element(Decoder &decoder, Extent &out) {
     return walk_element_with_care(decoder, out);
 }
 
+// Gives an element whose content is noted to be in a stream that stream; false when memory is short.
+bool attach_stream(Any &any);
+
 // The open-type record of an element that was just walked over; null when memory is short.
 inline Any *new_any(Decoder &decoder, const Extent &extent) {
     Arena &arena = decoder.arena();
@@ -76,7 +79,10 @@ inline Any *new_any(Decoder &decoder, const Extent &extent) {
             extent.length,
             extent.identifier.tag_class,
             extent.identifier.form,
-            is_marker};
+            is_marker,
+            nullptr};
+    if (arena.stream_contents != nullptr && !attach_stream(*any))
+        return nullptr;
     return any;
 }
 

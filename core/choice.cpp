@@ -255,7 +255,7 @@ constexpr Operations string_choice_operations = {
 Choice *construct_choice(const ChoiceShape &shape, uint32_t alternative, const kovra_asn1_value *value,
                          uint8_t copied_as) {
     const uint8_t type = copied_as != 0 ? copied_as : shape.alternatives[alternative].type;
-    Value *copy = value != nullptr ? duplicate(row(type), static_cast<const Value *>(value), nullptr) : nullptr;
+    Value *copy = copy_part(row(type), static_cast<const Value *>(value));
     if (copy == nullptr)
         return nullptr;
     auto *choice = new_root<Choice>();
@@ -294,7 +294,7 @@ int32_t alternative_number(const ChoiceShape &shape, const kovra_asn1_value *han
 TaggedString *construct_string_choice(const StringChoice &shape, int32_t tag, const kovra_asn1_value *string) {
     if (!allows(shape, tag) || as<String>(string) == nullptr)
         return nullptr;
-    Value *copy = duplicate(row(KOVRA_ASN1_TYPE_OCTET_STRING), static_cast<const Value *>(string), nullptr);
+    Value *copy = copy_part(row(KOVRA_ASN1_TYPE_OCTET_STRING), static_cast<const Value *>(string));
     if (copy == nullptr)
         return nullptr;
     auto *tagged = new_root<TaggedString>();

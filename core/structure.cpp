@@ -460,7 +460,7 @@ bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value) {
         record.slots[slot] = component.fallback->make(*record.arena);
         return record.slots[slot] != nullptr;
     }
-    Value *copy = duplicate(*component.duplicated_as, static_cast<const Value *>(value), nullptr);
+    Value *copy = copy_part(*component.duplicated_as, static_cast<const Value *>(value));
     if (copy == nullptr)
         return false;
     return store(record, slot, copy);
