@@ -37,7 +37,8 @@ static_assert(is_sound(components));
 // In CMS the content is an OCTET STRING, in either form, or detached; in PKCS #7 it is anything.
 constexpr int32_t not_an_octet_string = 0x10355;
 bool is_octet_string_or_absent(const Record &record) {
-    const auto *content = as<Any>(kovra_pkcs7contentinfo_getcontent(record.slots[signed_message::content]));
+    const auto *content =
+        as<Any>(kovra_pkcs7contentinfo_getcontent(component(pkcs7_signed_data, &record, signed_message::content)));
     return content == nullptr || (content->tag_class == Class::universal && content->tag == tag::octet_string);
 }
 
@@ -57,9 +58,9 @@ kovra_asn1_value *kovra_pkcs7signeddata_new(const kovra_asn1_value *version,
                                             const kovra_asn1_value *digest_algorithms_list,
                                             const kovra_asn1_value *content_info_value,
                                             const kovra_asn1_value *certificates, const kovra_asn1_value *crls,
-                                            const kovra_asn1_value *signer_infos) noexcept {
+                                            const kovra_asn1_value *signers) noexcept {
     return construct(pkcs7_signed_data, version, digest_algorithms_list, content_info_value, certificates, crls,
-                     signer_infos);
+                     signers);
 }
 
 kovra_asn1_value *kovra_pkcs7signeddata_getversion(const kovra_asn1_value *obj) noexcept {

@@ -120,8 +120,9 @@ TEST(Messages, EveryNestedValueComesBack) {
         }
     }
     EXPECT_EQ(Walk::countersignatures, 2);
-    for (uint32_t type : {4,   39,  41,  44,  111, 121, 122, 123, 124, 125, 126, 129, 130, 131, 132,
-                          134, 148, 149, 151, 152, 154, 155, 156, 157, 158, 159, 162, 163, 164}) {
+    constexpr uint32_t types[] = {4,   39,  41,  44,  111, 121, 122, 123, 124, 125, 126, 129, 130, 131, 132,
+                                  134, 148, 149, 151, 152, 154, 155, 156, 157, 158, 159, 162, 163, 164};
+    for (uint32_t type : types) {
         EXPECT_EQ(Walk::seen.count(type), 1u) << type;
     }
 }

@@ -211,6 +211,14 @@ TEST(CmsStructures, IrregularOnes) {
     EXPECT_EQ(encode_content(134, any_content.get(), 16).codes, Codes({0x10355}));
     EXPECT_EQ(encode(133, any_content.get()).result, 1);
 
+    // An element that lies about its length is found out when it is written; each alternative has its code.
+    for (int n : {0, 1, 2}) {
+        Value choice = decode(129, std::string(1, static_cast<char>(0xA0 + n)) + octets("02 05 00")).value;
+        kovra_asn1_value *lie = kovra_asn1_any_new(0, 1, 4, 5, "abc", 3);
+        EXPECT_EQ(kovra_asn1_list_put(kovra_cmscertchoice_getx509pubkeycert(choice.get()), lie), 1);
+        EXPECT_EQ(encode(129, choice.get()).codes, Codes({0x10235, 0x10235, 0x10343 + 2 * n}));
+    }
+
     // A set of many is built when it is asked for; what is wrong with the last is told as of the only one.
     std::string set, certificate = octets(sample(39));
     for (int i = 0; i < 100; ++i)

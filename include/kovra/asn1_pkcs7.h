@@ -39,7 +39,7 @@ KOVRA_ASN1_API int32_t kovra_pkcs7contentinfo_hascontent(const kovra_asn1_value 
 KOVRA_ASN1_API kovra_asn1_value *
 kovra_pkcs7signeddata_new(const kovra_asn1_value *version, const kovra_asn1_value *digest_algorithms_list,
                           const kovra_asn1_value *content_info_value, const kovra_asn1_value *certificates,
-                          const kovra_asn1_value *crls, const kovra_asn1_value *signer_infos) KOVRA_NOTHROW;
+                          const kovra_asn1_value *crls, const kovra_asn1_value *signers) KOVRA_NOTHROW;
 
 /* kovra_pkcs7signeddata_getversion returns version, an INTEGER. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_pkcs7signeddata_getversion(const kovra_asn1_value *obj) KOVRA_NOTHROW;
