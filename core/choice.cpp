@@ -263,7 +263,7 @@ constexpr Operations string_choice_operations = {
 Choice *construct_choice(const ChoiceShape &shape, uint32_t alternative, const kovra_asn1_value *value,
                          uint8_t copied_as) {
     const uint8_t type = copied_as != 0 ? copied_as : shape.alternatives[alternative].type;
-    Value *copy = value != nullptr ? duplicate(row(type), static_cast<const Value *>(value), nullptr) : nullptr;
+    Value *copy = copy_part(row(type), static_cast<const Value *>(value));
     if (copy == nullptr)
         return nullptr;
     auto *choice = new_root<Choice>();
@@ -298,10 +298,20 @@ Value *alternative(const ChoiceShape &shape, const kovra_asn1_value *handle, uin
     return choice != nullptr && choice->alternative == number ? choice->value : nullptr;
 }
 
+Value *chosen_value(const ChoiceShape &shape, const kovra_asn1_value *handle) {
+    const Choice *choice = as_choice(shape, handle);
+    return choice != nullptr ? choice->value : nullptr;
+}
+
+int32_t alternative_number(const ChoiceShape &shape, const kovra_asn1_value *handle) {
+    const Choice *choice = as_choice(shape, handle);
+    return choice != nullptr ? static_cast<int32_t>(choice->alternative) : 0;
+}
+
 TaggedString *construct_string_choice(const StringChoice &shape, int32_t tag, const kovra_asn1_value *string) {
     if (!allows(shape, tag) || as<String>(string) == nullptr)
         return nullptr;
-    Value *copy = duplicate(row(KOVRA_ASN1_TYPE_OCTET_STRING), static_cast<const Value *>(string), nullptr);
+    Value *copy = copy_part(row(KOVRA_ASN1_TYPE_OCTET_STRING), static_cast<const Value *>(string));
     if (copy == nullptr)
         return nullptr;
     auto *tagged = new_root<TaggedString>();

@@ -65,9 +65,13 @@ struct Component {
     // Codes that stand in for those of the component's type; 0: none does.
     int32_t encode_code = 0;
     int32_t decode_code = 0;
-    // The row as which each direction takes the component: that of its type, unless another stands in for it.
+    // The row as which each direction takes the component, and as which a constructor copies its argument: that of its
+    // type, unless another stands in for it.
     const Type *written_as = &registry[type];
     const Type *read_as = &registry[type];
+    const Type *duplicated_as = &registry[type];
+    // How the tag is read, which may be another way than it is written.
+    Tagging read_tagging = tag.tagging;
     // Is it decoded whole, without a look at its identifier first?
     bool is_read_whole =
         tag.tagging == Tagging::none && (presence == Presence::required || type == KOVRA_ASN1_TYPE_ANY);
@@ -91,6 +95,16 @@ struct Component {
     constexpr Component decode_as(uint8_t other) const {
         Component changed = *this;
         changed.read_as = &registry[other];
+        return changed;
+    }
+    constexpr Component copied_as(uint8_t other) const {
+        Component changed = *this;
+        changed.duplicated_as = &registry[other];
+        return changed;
+    }
+    constexpr Component read_as_explicit() const {
+        Component changed = *this;
+        changed.read_tagging = Tagging::explicit_;
         return changed;
     }
 };

@@ -142,4 +142,42 @@ extern const StringChoice directory_string;
 extern const StringChoice display_text;
 extern const StringChoice pkcs9_string;
 
+// cms/
+extern const Structure authenticated_data;
+extern const Structure cms_signed_data;
+extern const Structure content_info;
+extern const Structure dh_other_info;
+extern const Structure digested_data;
+extern const Structure encapsulated_content_info;
+extern const Structure encrypted_content_info;
+extern const Structure encrypted_data;
+extern const Structure enveloped_data;
+extern const Structure issuer_and_serial_number;
+extern const Structure kek_recipient_info;
+extern const Structure key_agree_recipient_info;
+extern const Structure key_specific_info;
+extern const Structure key_trans_recipient_info;
+extern const Structure originator_info;
+extern const Structure other_certificate_format;
+extern const Structure other_key_attribute;
+extern const Structure other_recipient_info;
+extern const Structure other_revocation_info_format;
+extern const Structure password_recipient_info;
+extern const Structure pkcs7_signed_data;
+extern const Structure recipient_encrypted_key;
+extern const Structure recipient_key_identifier;
+extern const Structure signer_info;
+extern const ListShape certificate_set;
+extern const ListShape digest_algorithms;
+extern const ListShape recipient_encrypted_keys;
+extern const ListShape recipient_infos;
+extern const ListShape revocation_info_choices;
+extern const ListShape signer_infos;
+extern const ChoiceShape certificate_choices;
+extern const ChoiceShape key_agree_recipient_identifier;
+extern const ChoiceShape originator_identifier_or_key;
+extern const ChoiceShape recipient_info;
+extern const ChoiceShape revocation_info_choice;
+extern const ChoiceShape signer_identifier;
+
 } // namespace kovra::asn1

@@ -303,7 +303,9 @@ Next read_element(Decoder &decoder, const Type &element, ListReading reading, bo
     if (const Result read = decode_length(decoder, here(), length); read != success)
         return fault(read);
     const Result decoded = decode_begun(decoder, element, identifier, {identifier.form, length, start}, out);
-    return decoded == success ? Next::element : fault(fail_decode(decoder, here(), element, decoded));
+    if (decoded == success)
+        return Next::element;
+    return fault(reading == ListReading::inlined ? decoded : fail_decode(decoder, here(), element, decoded));
 }
 
 Result decode_list(Decoder &decoder, const Type &type, const Element &element, Value *&out) {

@@ -112,7 +112,10 @@ inline Result decode_begun(Decoder &decoder, const Type &type, const Identifier 
 
 // A copy that is independent of the value, by encoding and decoding it. Null, with entries, when that fails.
 Value *duplicate(const Type &type, const Value *value, kovra_err_ctx *ctx);
-// The same between two types, without entries (an INTEGER to an ANY, say); a type that needs no value may have none.
+// A copy for a value that is being built, without entries. Contents in streams that are so long that they are written
+// in segments are not copied: the copy refers to the same streams.
+Value *copy_part(const Type &type, const Value *value);
+// The same between two types (an INTEGER to an ANY, say); a type that needs no value may have none.
 Value *convert(const Type &from, const Value *value, const Type &to);
 
 // The type's own codes.

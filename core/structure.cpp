@@ -234,7 +234,7 @@ private:
     // Does the component begin with the identifier that was read?
     [[nodiscard]] bool matches(const Component &component) const {
         const Type &type = decode_row(component);
-        switch (component.tag.tagging) {
+        switch (component.read_tagging) {
         case Tagging::none:
             return begins(type, identifier_);
         case Tagging::implicit:
@@ -297,7 +297,7 @@ private:
         int32_t length = 0;
         if (const Result result = decode_length(decoder_, at(shape_, component), length); result != success)
             return result;
-        return component.tag.tagging == Tagging::explicit_
+        return component.read_tagging == Tagging::explicit_
                    ? decode_explicit(decoder_, at(shape_, component), component, length, slot)
                    : read_content(component, length, slot);
     }
@@ -467,7 +467,7 @@ bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value) {
         record.slots[slot] = component.fallback->make(*record.arena);
         return record.slots[slot] != nullptr;
     }
-    Value *copy = duplicate(row(component.type), static_cast<const Value *>(value), nullptr);
+    Value *copy = copy_part(*component.duplicated_as, static_cast<const Value *>(value));
     if (copy == nullptr)
         return false;
     return store(record, slot, copy);

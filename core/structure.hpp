@@ -37,10 +37,9 @@ struct Structure {
 template <size_t count> constexpr Structure structure(const char *source, const Component (&components)[count]) {
     static_assert(count < no_slot);
     Structure made{source, components, count};
-    for (uint8_t i = 0; i < count; ++i) {
+    for (uint8_t i = 0; i < count; ++i)
         if (components[i].presence == Presence::required)
             made.required_end = i + 1;
-    }
     return made;
 }
 // A list that keeps its encoding, which lists by themselves do not.

@@ -174,6 +174,9 @@
 #define KOVRA_ASN1_TYPE_SECRET_BAG 119
 #define KOVRA_ASN1_TYPE_PKCS12_PBE_PARAMS 120
 
+/* DigestedData ::= SEQUENCE { version, digestAlgorithm, contentInfo, digest } (PKCS #7, RFC 2315 section 12). */
+#define KOVRA_ASN1_TYPE_DIGESTED_DATA 121
+
 /* Signed messages (PKCS #7, RFC 2315; CMS, RFC 5652 section 5).
  * SignedData ::= SEQUENCE { version, digestAlgorithms, encapContentInfo, certificates [0] OPTIONAL,
  *                           crls [1] OPTIONAL, signerInfos } */
@@ -209,6 +212,32 @@
 
 /* EncapsulatedContentInfo ::= SEQUENCE { eContentType, eContent [0] EXPLICIT OPTIONAL } (RFC 5652 section 5.2). */
 #define KOVRA_ASN1_TYPE_ENCAPSULATED_CONTENT_INFO 147
+
+/* Encrypted messages and their recipients (RFC 5652 sections 6 and 8).
+ * EnvelopedData ::= SEQUENCE { version, originatorInfo [0] OPTIONAL, recipientInfos, encryptedContentInfo,
+ *                              unprotectedAttrs [1] OPTIONAL } */
+#define KOVRA_ASN1_TYPE_ENCRYPTED_CONTENT_INFO 148
+#define KOVRA_ASN1_TYPE_ENCRYPTED_DATA 149
+#define KOVRA_ASN1_TYPE_ORIGINATOR_INFO 150
+#define KOVRA_ASN1_TYPE_KEY_TRANS_RECIPIENT_INFO 151
+#define KOVRA_ASN1_TYPE_ORIGINATOR_IDENTIFIER_OR_KEY 152
+#define KOVRA_ASN1_TYPE_OTHER_KEY_ATTRIBUTE 153
+#define KOVRA_ASN1_TYPE_RECIPIENT_KEY_IDENTIFIER 154
+#define KOVRA_ASN1_TYPE_KEY_AGREE_RECIPIENT_IDENTIFIER 155
+#define KOVRA_ASN1_TYPE_RECIPIENT_ENCRYPTED_KEY 156
+#define KOVRA_ASN1_TYPE_RECIPIENT_ENCRYPTED_KEYS 157
+#define KOVRA_ASN1_TYPE_KEY_AGREE_RECIPIENT_INFO 158
+#define KOVRA_ASN1_TYPE_KEK_RECIPIENT_INFO 159
+#define KOVRA_ASN1_TYPE_PASSWORD_RECIPIENT_INFO 160
+#define KOVRA_ASN1_TYPE_OTHER_RECIPIENT_INFO 161
+#define KOVRA_ASN1_TYPE_RECIPIENT_INFO 162
+#define KOVRA_ASN1_TYPE_RECIPIENT_INFOS 163
+#define KOVRA_ASN1_TYPE_ENVELOPED_DATA 164
+
+/* AuthenticatedData (RFC 5652 section 9), and what Diffie-Hellman key agreement derives keys from (RFC 2631). */
+#define KOVRA_ASN1_TYPE_AUTHENTICATED_DATA 165
+#define KOVRA_ASN1_TYPE_KEY_SPECIFIC_INFO 166
+#define KOVRA_ASN1_TYPE_DH_OTHER_INFO 167
 
 /* SEQUENCE OF PolicyInformation, as signing-certificate attributes hold it (RFC 5035). */
 #define KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES_1 198

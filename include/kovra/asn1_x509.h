@@ -3,7 +3,7 @@
  * What holds for every structure, here and in asn1_x500name.h, asn1_attribute.h, asn1_extension.h and asn1_pkcs10.h:
  *
  * A constructor takes one argument for each component, in the order of the ASN.1 definition, each a value of the
- * component's type, and copies it. It returns null for a null argument of a required component, for an argument of
+ * component's type, and copies it, but for long contents in streams (kovra_asn1_octetstring_newstream). It returns null for a null argument of a required component, for an argument of
  * another kind, and when memory is short. Null leaves an OPTIONAL component out and stands for the default of a DEFAULT
  * one.
  *
