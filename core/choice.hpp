@@ -25,6 +25,9 @@ constexpr ChoiceShape choice(const char *source, const Component (&alternatives)
 Choice *construct_choice(const ChoiceShape &shape, uint32_t alternative, const kovra_asn1_value *value,
                          uint8_t copied_as = 0);
 
+// A new choice of an alternative that is NULL and has no value.
+Choice *construct_null_choice(const ChoiceShape &shape, uint32_t alternative);
+
 // The choice behind a handle, if it is one of this table.
 const Choice *as_choice(const ChoiceShape &shape, const kovra_asn1_value *handle);
 // Its value, borrowed, when it holds this alternative; else null.

@@ -8,7 +8,12 @@
 
 namespace kovra::asn1 {
 
-enum class Tagging : uint8_t { none, implicit, explicit_ };
+enum class Tagging : uint8_t {
+    none,
+    implicit,
+    explicit_,
+    bare, // written only: marked and counted like an explicit tag, with nothing but the value's content behind it
+};
 enum class Presence : uint8_t { required, optional, defaulted };
 
 // What an absent component stands for.
@@ -32,12 +37,19 @@ constexpr Tag implicit_tag(uint8_t number) {
 constexpr Tag explicit_tag(uint8_t number) {
     return {Tagging::explicit_, number};
 }
+constexpr Tag bare_tag(uint8_t number) {
+    return {Tagging::bare, number};
+}
+
+// Of a component that adds no entry of its own to those that its value left.
+inline constexpr int32_t no_code = -1;
 
 struct Component {
     const char *name;
     uint8_t type;
     Presence presence;
     Tag tag;
+    Tag encode_tag;          // the same, unless the component is written under another tag than it is read under
     const Default *fallback; // of a defaulted component
     int32_t line;
     // Codes that stand in for those of the component's type; 0: none does.
@@ -46,6 +58,12 @@ struct Component {
     // Types that stand in for the component's own in one direction; 0: none does.
     uint8_t encode_type = 0;
     uint8_t decode_type = 0;
+    // The type that writes the content octets although the lengths are those of the component's own; 0: none does.
+    uint8_t content_type = 0;
+    // The type that a constructor's argument is copied as; 0: the component's own.
+    uint8_t copy_type = 0;
+    // A type that has no number of its own and takes the place of `type`; null: none does.
+    const Type *unnumbered = nullptr;
 
     constexpr Component codes(int32_t encode, int32_t decode) const {
         Component changed = *this;
@@ -63,17 +81,37 @@ struct Component {
         changed.decode_type = other;
         return changed;
     }
+    constexpr Component encode_content_as(uint8_t other) const {
+        Component changed = *this;
+        changed.content_type = other;
+        return changed;
+    }
+    constexpr Component encode_under(Tag other) const {
+        Component changed = *this;
+        changed.encode_tag = other;
+        return changed;
+    }
+    constexpr Component copy_as(uint8_t other) const {
+        Component changed = *this;
+        changed.copy_type = other;
+        return changed;
+    }
+    constexpr Component of(const Type &own) const {
+        Component changed = *this;
+        changed.unnumbered = &own;
+        return changed;
+    }
 };
 
 constexpr Component required(const char *name, uint8_t type, Tag tag = untagged, int32_t line = __builtin_LINE()) {
-    return {name, type, Presence::required, tag, nullptr, line};
+    return {name, type, Presence::required, tag, tag, nullptr, line};
 }
 constexpr Component optional(const char *name, uint8_t type, Tag tag = untagged, int32_t line = __builtin_LINE()) {
-    return {name, type, Presence::optional, tag, nullptr, line};
+    return {name, type, Presence::optional, tag, tag, nullptr, line};
 }
 constexpr Component defaulted(const char *name, uint8_t type, const Default &fallback, Tag tag = untagged,
                               int32_t line = __builtin_LINE()) {
-    return {name, type, Presence::defaulted, tag, &fallback, line};
+    return {name, type, Presence::defaulted, tag, tag, &fallback, line};
 }
 
 // Free of contradictions, for a static_assert beside a table: no two components have the same tag.
@@ -89,11 +127,19 @@ template <size_t count> consteval bool is_sound(const Component (&components)[co
 }
 
 // The types and codes that apply in each direction.
+inline const Type &row_of(const Component &component, uint8_t stand_in) {
+    if (component.unnumbered != nullptr)
+        return *component.unnumbered;
+    return row(stand_in != 0 ? stand_in : component.type);
+}
 inline const Type &encode_row(const Component &component) {
-    return row(component.encode_type != 0 ? component.encode_type : component.type);
+    return row_of(component, component.encode_type);
 }
 inline const Type &decode_row(const Component &component) {
-    return row(component.decode_type != 0 ? component.decode_type : component.type);
+    return row_of(component, component.decode_type);
+}
+inline const Type &copy_row(const Component &component) {
+    return row_of(component, component.copy_type);
 }
 inline int32_t encode_code(const Component &component) {
     return component.encode_code != 0 ? component.encode_code : encode_row(component).base;
@@ -102,16 +148,28 @@ inline int32_t decode_code(const Component &component) {
     return component.decode_code != 0 ? component.decode_code : decode_row(component).base + 1;
 }
 
+// Records the code of a component whose value could not be written or read.
+inline Result fail_encode(Encoder &encoder, Site site, const Component &component, Result result) {
+    const int32_t code = encode_code(component);
+    return code == no_code ? result : encoder.fail(site, code, result);
+}
+inline Result fail_decode(Decoder &decoder, Site site, const Component &component, Result result) {
+    const int32_t code = decode_code(component);
+    return code == no_code ? result : decoder.fail(site, code, result);
+}
+
 // Octets that a value takes, the component's tag included.
 int32_t component_length(const Component &component, Value *value, Measure measure = Measure::fresh);
 // Writes a value under the component's tag.
 Result encode_component(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure);
+// Writes the content octets of a value, `length` being what measuring gave.
+Result encode_component_content(Encoder &encoder, Site site, const Component &component, Value *value, int32_t length);
 // Reads what an explicit tag whose length was read holds.
 Result decode_explicit(Decoder &decoder, Site site, const Component &component, int32_t length, Value *&out);
 // Reads a value whole, as the component's type.
 inline Result decode_component(Decoder &decoder, Site site, const Component &component, Value *&out) {
     const Result result = decode(decoder, decode_row(component), out);
-    return result == success ? success : decoder.fail(site, decode_code(component), result);
+    return result == success ? success : fail_decode(decoder, site, component, result);
 }
 
 } // namespace kovra::asn1

@@ -206,6 +206,7 @@ private:
             return identifier_.is(Class::context, component.tag.number) &&
                    (type.form != Form::constructed || identifier_.form == Form::constructed);
         case Tagging::explicit_:
+        case Tagging::bare:
             return identifier_.is(Class::context, component.tag.number) && identifier_.form == Form::constructed;
         }
         return false;
@@ -265,7 +266,7 @@ private:
         const Element element{identifier_.form, length, is_own ? identifier_start_ : Element::no_start};
         const Result result = is_own ? decode_begun(decoder_, type, identifier_, element, place)
                                      : type.operations->decode_content(decoder_, type, element, place);
-        return result == success ? success : decoder_.fail(at(shape_, component), decode_code(component), result);
+        return result == success ? success : fail_decode(decoder_, at(shape_, component), component, result);
     }
 
     // The component is decoded from its exact octets, which stay with the record.
@@ -381,6 +382,10 @@ constexpr Operations kept_structure_operations = {
     .records_reserve = structure_reserve,
 };
 
+Record *new_structure(Arena &arena, const Structure &shape) {
+    return new_record_of(arena, *shape.shape());
+}
+
 Record *new_structure(const Structure &shape) {
     const Structure &own = *shape.shape();
     Arena *arena = Arena::create(sizeof(Record) + own.count * sizeof(Value *) + 2 * sizeof(Octets));
@@ -409,7 +414,7 @@ bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value) {
         record.slots[slot] = component.fallback->make(*record.arena);
         return record.slots[slot] != nullptr;
     }
-    Value *copy = duplicate(row(component.type), static_cast<const Value *>(value), nullptr);
+    Value *copy = duplicate(copy_row(component), static_cast<const Value *>(value), nullptr);
     if (copy == nullptr)
         return false;
     return store(record, slot, copy);
