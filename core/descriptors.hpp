@@ -97,4 +97,11 @@ extern const StringChoice directory_string;
 extern const StringChoice display_text;
 extern const StringChoice pkcs9_string;
 
+// keys/
+extern const Structure digest_info;
+
+// cms/
+extern const Structure content_info;
+extern const ListShape digest_algorithm_identifiers;
+
 } // namespace kovra::asn1
