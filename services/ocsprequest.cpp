@@ -80,9 +80,8 @@ constexpr Structure ocsp_request = structure(source, request::components);
 
 using namespace kovra::asn1;
 
-kovra_asn1_value *kovra_ocsp_request_new(const kovra_asn1_value *req_cert,
-                                         const kovra_asn1_value *extensions) noexcept {
-    return construct(ocsp_single_request, req_cert, extensions);
+kovra_asn1_value *kovra_ocsp_request_new(const kovra_asn1_value *req_cert, const kovra_asn1_value *exts) noexcept {
+    return construct(ocsp_single_request, req_cert, exts);
 }
 
 kovra_asn1_value *kovra_ocsp_request_getcertid(const kovra_asn1_value *obj) noexcept {
@@ -95,8 +94,8 @@ kovra_asn1_value *kovra_ocsp_request_getexts(const kovra_asn1_value *obj) noexce
 
 kovra_asn1_value *kovra_ocsp_tbsrequest_new(const kovra_asn1_value *version, const kovra_asn1_value *requestor_name,
                                             const kovra_asn1_value *request_list,
-                                            const kovra_asn1_value *extensions) noexcept {
-    return construct(ocsp_tbs_request, version, requestor_name, request_list, extensions);
+                                            const kovra_asn1_value *exts) noexcept {
+    return construct(ocsp_tbs_request, version, requestor_name, request_list, exts);
 }
 
 kovra_asn1_value *kovra_ocsp_tbsrequest_getversion(const kovra_asn1_value *obj) noexcept {

@@ -63,8 +63,8 @@ using namespace kovra::asn1;
 kovra_asn1_value *kovra_ocsp_singleresponse_new(const kovra_asn1_value *cert_id, const kovra_asn1_value *cert_status,
                                                 const kovra_asn1_value *this_update,
                                                 const kovra_asn1_value *next_update,
-                                                const kovra_asn1_value *extensions) noexcept {
-    return construct(ocsp_single_response, cert_id, cert_status, this_update, next_update, extensions);
+                                                const kovra_asn1_value *exts) noexcept {
+    return construct(ocsp_single_response, cert_id, cert_status, this_update, next_update, exts);
 }
 
 kovra_asn1_value *kovra_ocsp_singleresponse_getcertid(const kovra_asn1_value *obj) noexcept {
@@ -89,8 +89,8 @@ kovra_asn1_value *kovra_ocsp_singleresponse_getexts(const kovra_asn1_value *obj)
 
 kovra_asn1_value *kovra_ocsp_responsedata_new(const kovra_asn1_value *version, const kovra_asn1_value *responder_id,
                                               const kovra_asn1_value *produced_at, const kovra_asn1_value *responses,
-                                              const kovra_asn1_value *extensions) noexcept {
-    return construct(ocsp_response_data, version, responder_id, produced_at, responses, extensions);
+                                              const kovra_asn1_value *exts) noexcept {
+    return construct(ocsp_response_data, version, responder_id, produced_at, responses, exts);
 }
 
 kovra_asn1_value *kovra_ocsp_responsedata_getversion(const kovra_asn1_value *obj) noexcept {

@@ -96,9 +96,8 @@ kovra_asn1_value *kovra_tsp_tstinfo_new(const kovra_asn1_value *version, const k
                                         const kovra_asn1_value *imprint, const kovra_asn1_value *serial_number,
                                         const kovra_asn1_value *gen_time, const kovra_asn1_value *accuracy,
                                         const kovra_asn1_value *ordering, const kovra_asn1_value *nonce,
-                                        const kovra_asn1_value *tsa, const kovra_asn1_value *extensions) noexcept {
-    return construct(tst_info, version, policy, imprint, serial_number, gen_time, accuracy, ordering, nonce, tsa,
-                     extensions);
+                                        const kovra_asn1_value *tsa, const kovra_asn1_value *exts) noexcept {
+    return construct(tst_info, version, policy, imprint, serial_number, gen_time, accuracy, ordering, nonce, tsa, exts);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_getversion(const kovra_asn1_value *obj) noexcept {
