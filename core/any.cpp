@@ -3,7 +3,6 @@
 #include "core/any.hpp"
 
 #include <cstring>
-#include <initializer_list>
 
 #include "core/content.hpp"
 #include "core/descriptors.hpp"
@@ -16,25 +15,6 @@ namespace {
 
 Site here(int32_t line = __builtin_LINE()) {
     return {"ASN1_Any", line};
-}
-
-constexpr uint32_t bits(std::initializer_list<int> tags) {
-    uint32_t mask = 0;
-    for (const int tag : tags)
-        mask |= uint32_t{1} << tag;
-    return mask;
-}
-
-// Universal tag numbers that may stand in either form, in primitive form only, in constructed form only.
-constexpr uint32_t either_form = bits({3, 4, 7, 12, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 30});
-constexpr uint32_t primitive_tags = either_form | bits({0, 1, 2, 5, 6, 9, 10, 13});
-constexpr uint32_t constructed_tags = either_form | bits({8, 11, 16, 17});
-
-bool is_possible(const Identifier &identifier) {
-    if (identifier.tag_class != Class::universal)
-        return true;
-    const uint32_t mask = identifier.form == Form::primitive ? primitive_tags : constructed_tags;
-    return identifier.tag < 32 && (mask >> identifier.tag & 1) != 0;
 }
 
 // Identifier and length octets; an end-of-contents marker counts as a header without content.
@@ -52,7 +32,7 @@ Result walk_header(Decoder &decoder, Identifier &identifier, int32_t &length) {
 
 } // namespace
 
-Result walk_element(Decoder &decoder, Extent &out) {
+Result walk_element_with_care(Decoder &decoder, Extent &out) {
     out.start = decoder.position();
     if (const Result result = walk_header(decoder, out.identifier, out.length); result != success)
         return result;
@@ -73,20 +53,6 @@ Result walk_element(Decoder &decoder, Extent &out) {
             return result;
     }
     return success;
-}
-
-Any *new_any(Decoder &decoder, const Extent &extent) {
-    auto *any = new_record<Any>(decoder.arena());
-    if (any == nullptr)
-        return nullptr;
-    any->tag_class = extent.identifier.tag_class;
-    any->form = extent.identifier.form;
-    any->tag = extent.identifier.tag;
-    any->length = extent.length;
-    any->end_of_contents = extent.identifier.is_end_of_contents();
-    any->header = {nullptr, extent.start, any->end_of_contents ? 0 : extent.content - extent.start};
-    any->content.octets = {nullptr, extent.content, decoder.position() - extent.content};
-    return any;
 }
 
 namespace {
@@ -136,7 +102,7 @@ Result encode_any_content(Encoder &encoder, const Type &, Value *value, int32_t 
     return length == indefinite || copied == length ? success : encoder.fail(here(), code::short_copy);
 }
 
-Result decode_any(Decoder &decoder, const Type &, Value *&out) {
+[[gnu::noinline]] Result decode_any_with_care(Decoder &decoder, Value *&out) {
     if (const Result result = enter(decoder, here()); result != success)
         return result;
     Extent extent;
@@ -144,6 +110,25 @@ Result decode_any(Decoder &decoder, const Type &, Value *&out) {
         return result;
     out = new_any(decoder, extent);
     return out != nullptr ? success : decoder.fail(here(), code::no_memory);
+}
+
+Result decode_any(Decoder &decoder, const Type &, Value *&out) {
+    const uint32_t start = decoder.position();
+    uint8_t octet = 0;
+    uint32_t length = 0;
+    if (decoder.has_both_ends() && decoder.header(octet, length)) {
+        auto *any =
+            begins_element[octet] ? static_cast<Any *>(decoder.arena().allocate_in_place(sizeof(Any))) : nullptr;
+        if (any != nullptr) {
+            fill_any(*any, decoder.arena(),
+                     {start, decoder.position(), identifier_of(octet), static_cast<int32_t>(length)}, length);
+            decoder.step_over(length);
+            out = any;
+            return success;
+        }
+        decoder.rewind(start);
+    }
+    return decode_any_with_care(decoder, out);
 }
 
 // An element, or the end-of-contents that stands where one may stand.

@@ -33,6 +33,16 @@ public:
         return memory;
     }
 
+    // The same from the room that is left; null when there is too little, although more may be had.
+    void *allocate_in_place(size_t size) {
+        size = (size + alignment - 1) & ~(alignment - 1);
+        if (size > static_cast<size_t>(end_ - next_))
+            return nullptr;
+        void *memory = next_;
+        next_ += size;
+        return memory;
+    }
+
     // A block that is not yet the arena's: resize it, then link it, or drop it. Null when memory is short.
     static Block *new_block(size_t size);
     static Block *resize_block(Block *block, size_t size);

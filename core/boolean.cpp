@@ -129,6 +129,7 @@ constexpr Operations boolean_operations = {
     .content_length = boolean_content_length,
     .encode_content = encode_boolean_content,
     .decode_content = decode_boolean_content,
+    .decode_entered = decode_boolean_content,
     .records_reserve = leaf_reserve<2 * sizeof(Boolean)>,
 };
 

@@ -88,10 +88,13 @@ uint8_t find(const ChoiceShape &shape, const Identifier &identifier) {
         const Component &component = shape.alternatives[i];
         const Type &type = decode_row(component);
         if (component.tag.tagging == Tagging::none) {
-            if (begins(type, identifier))
+            if (component.begins == Begins::in_any_form ? identifier.is(Class::universal, type.tag)
+                                                        : begins(type, identifier))
                 break;
             continue;
         }
+        if (component.begins == Begins::with_any_number && identifier.tag_class == Class::context)
+            break;
         const bool is_constructed = component.tag.tagging == Tagging::explicit_ || type.form == Form::constructed;
         if (identifier.is(Class::context, component.tag.number) &&
             (shape.any_form || !is_constructed || identifier.form == Form::constructed))
@@ -146,11 +149,16 @@ Result decode_choice(Decoder &decoder, const Type &type, Value *&out) {
     const uint32_t start = decoder.position();
     if (const Result result = decode_identifier(decoder, in(shape), identifier); result != success)
         return result;
-    if (find(shape, identifier) == shape.count)
+    const bool is_known = find(shape, identifier) != shape.count;
+    // Where only the tag number tells the alternative, a broken length comes to light before an unknown number.
+    const bool may_be_known = is_known || (shape.any_form && identifier.tag_class == Class::context);
+    if (!may_be_known)
         return decoder.fail(in(shape), code::incorrect_item);
     if (const Result result = decode_length(decoder, in(shape), length); result != success)
         return result;
-    if (!decoder.has_place())
+    if (!is_known)
+        return decoder.fail(in(shape), code::incorrect_item);
+    if (!decoder.has_both_ends())
         return decoder.fail(in(shape), code::null_argument);
     return decode_begun_choice(decoder, type, identifier, {identifier.form, length, start}, out);
 }

@@ -80,9 +80,7 @@ Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure)
     return encode_generic(encoder, type, value, type.operations->content_length(type, value, Measure::known));
 }
 
-Result decode(Decoder &decoder, const Type &type, Value *&out) {
-    if (type.operations->decode != nullptr)
-        return type.operations->decode(decoder, type, out);
+Result decode_generic(Decoder &decoder, const Type &type, Value *&out) {
     Identifier identifier;
     int32_t length = 0;
     const uint32_t start = decoder.position();

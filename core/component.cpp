@@ -1,5 +1,7 @@
 #include "core/component.hpp"
 
+#include <cstring>
+
 #include "kovra/asn1_boolean.h"
 #include "kovra/asn1_integer.h"
 #include "kovra/asn1_types.h"
@@ -58,11 +60,11 @@ Result encode_component(Encoder &encoder, Site site, const Component &component,
 }
 
 Result encode_component_content(Encoder &encoder, Site site, const Component &component, Value *value, int32_t length) {
-    if (component.content_type == 0) {
+    if (component.content_written_as == nullptr) {
         const Type &type = encode_row(component);
         return type.operations->encode_content(encoder, type, value, length);
     }
-    const Type &type = row(component.content_type);
+    const Type &type = *component.content_written_as;
     return holds(type, value) ? type.operations->encode_content(encoder, type, value, length)
                               : encoder.fail(site, code::incorrect_item);
 }
@@ -115,6 +117,26 @@ bool is_true(const Value &value) {
 }
 
 } // namespace
+
+Value *make_encoded(Arena &arena, uint8_t type, const uint8_t *octets, size_t count) {
+    Decoder decoder(octets, static_cast<uint32_t>(count), nullptr);
+    Value *value = nullptr;
+    if (decoder.decode_root(row(type), value) != success)
+        return nullptr;
+    if (arena.adopt(value))
+        return value;
+    Arena::destroy(value->arena);
+    return nullptr;
+}
+
+bool is_encoded(const Value &value, uint8_t type, const uint8_t *octets, size_t count) {
+    // As short as this, it is encoded without allocating: length and encoding cannot come to different answers.
+    Encoder encoder(static_cast<kovra_err_ctx *>(nullptr));
+    auto *own = const_cast<Value *>(&value);
+    return whole_length(row(type), own) == static_cast<int32_t>(count) &&
+           encode(encoder, row(type), own, Measure::known) == success && encoder.size() == count &&
+           std::memcmp(encoder.data(), octets, count) == 0;
+}
 
 constexpr Default default_zero = {make_zero, is_zero};
 constexpr Default default_false = {make_false, is_false};

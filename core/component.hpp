@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "core/registry.hpp"
+#include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {
 
@@ -26,6 +27,17 @@ extern const Default default_zero;  // INTEGER 0, as far as it reads as a 32-bit
 extern const Default default_false; // BOOLEAN FALSE
 extern const Default default_true;  // BOOLEAN TRUE
 
+// What a constant encoding decodes to: a new value, and the test whether one is encoded just so.
+Value *make_encoded(Arena &arena, uint8_t type, const uint8_t *octets, size_t count);
+bool is_encoded(const Value &value, uint8_t type, const uint8_t *octets, size_t count);
+
+// A default given by its type and its encoding.
+template <uint8_t type, const auto &octets>
+inline constexpr Default default_encoding = {
+    [](Arena &arena) { return make_encoded(arena, type, octets, sizeof octets); },
+    [](const Value &value) { return is_encoded(value, type, octets, sizeof octets); },
+};
+
 struct Tag {
     Tagging tagging;
     uint8_t number;
@@ -44,6 +56,15 @@ constexpr Tag bare_tag(uint8_t number) {
 // Of a component that adds no entry of its own to those that its value left.
 inline constexpr int32_t no_code = -1;
 
+// Which identifiers begin a component. The form is usually that of the tag's content, except that the content of an
+// implicit tag, where its type is primitive, finds a constructed form by itself.
+enum class Begins : uint8_t {
+    usually,
+    in_any_form,    // an alternative's class and tag alone tell; a wrong form is found when the content is read
+    in_own_form,    // under an implicit tag too
+    with_any_number // and any context tag, in either form
+};
+
 struct Component {
     const char *name;
     uint8_t type;
@@ -52,19 +73,26 @@ struct Component {
     Tag encode_tag;          // the same, unless the component is written under another tag than it is read under
     const Default *fallback; // of a defaulted component
     int32_t line;
+    Begins begins = Begins::usually;
     // Codes that stand in for those of the component's type; 0: none does.
     int32_t encode_code = 0;
     int32_t decode_code = 0;
-    // Types that stand in for the component's own in one direction; 0: none does.
-    uint8_t encode_type = 0;
-    uint8_t decode_type = 0;
-    // The type that writes the content octets although the lengths are those of the component's own; 0: none does.
-    uint8_t content_type = 0;
-    // The type that a constructor's argument is copied as; 0: the component's own.
-    uint8_t copy_type = 0;
-    // A type that has no number of its own and takes the place of `type`; null: none does.
-    const Type *unnumbered = nullptr;
+    // The row as which each direction takes the component: that of its type, unless another stands in for it.
+    const Type *written_as = &registry[type];
+    const Type *read_as = &registry[type];
+    // The row that a constructor's argument is copied as.
+    const Type *copied_as = &registry[type];
+    // The row that writes the content octets although the lengths are those of the component's own; null: none does.
+    const Type *content_written_as = nullptr;
+    // Is it decoded whole, without a look at its identifier first?
+    bool is_read_whole =
+        tag.tagging == Tagging::none && (presence == Presence::required || type == KOVRA_ASN1_TYPE_ANY);
 
+    constexpr Component begun(Begins how) const {
+        Component changed = *this;
+        changed.begins = how;
+        return changed;
+    }
     constexpr Component codes(int32_t encode, int32_t decode) const {
         Component changed = *this;
         changed.encode_code = encode;
@@ -73,17 +101,17 @@ struct Component {
     }
     constexpr Component encode_as(uint8_t other) const {
         Component changed = *this;
-        changed.encode_type = other;
+        changed.written_as = &registry[other];
         return changed;
     }
     constexpr Component decode_as(uint8_t other) const {
         Component changed = *this;
-        changed.decode_type = other;
+        changed.read_as = &registry[other];
         return changed;
     }
     constexpr Component encode_content_as(uint8_t other) const {
         Component changed = *this;
-        changed.content_type = other;
+        changed.content_written_as = &registry[other];
         return changed;
     }
     constexpr Component encode_under(Tag other) const {
@@ -93,12 +121,13 @@ struct Component {
     }
     constexpr Component copy_as(uint8_t other) const {
         Component changed = *this;
-        changed.copy_type = other;
+        changed.copied_as = &registry[other];
         return changed;
     }
+    // Of a type that has no number.
     constexpr Component of(const Type &own) const {
         Component changed = *this;
-        changed.unnumbered = &own;
+        changed.written_as = changed.read_as = changed.copied_as = &own;
         return changed;
     }
 };
@@ -127,19 +156,11 @@ template <size_t count> consteval bool is_sound(const Component (&components)[co
 }
 
 // The types and codes that apply in each direction.
-inline const Type &row_of(const Component &component, uint8_t stand_in) {
-    if (component.unnumbered != nullptr)
-        return *component.unnumbered;
-    return row(stand_in != 0 ? stand_in : component.type);
-}
 inline const Type &encode_row(const Component &component) {
-    return row_of(component, component.encode_type);
+    return *component.written_as;
 }
 inline const Type &decode_row(const Component &component) {
-    return row_of(component, component.decode_type);
-}
-inline const Type &copy_row(const Component &component) {
-    return row_of(component, component.copy_type);
+    return *component.read_as;
 }
 inline int32_t encode_code(const Component &component) {
     return component.encode_code != 0 ? component.encode_code : encode_row(component).base;

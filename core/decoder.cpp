@@ -18,7 +18,8 @@ constexpr size_t one_allocation = 16384;
 
 } // namespace
 
-Decoder::Decoder(kovra_stream *stream, kovra_err_ctx *ctx) : ctx_(ctx), no_stream_(stream == nullptr) {
+Decoder::Decoder(kovra_stream *stream, kovra_err_ctx *ctx)
+    : ctx_(ctx), no_stream_(stream == nullptr), has_both_ends_(stream != nullptr) {
     int64_t length = 0;
     if (stream == nullptr)
         return;
@@ -169,9 +170,7 @@ bool Decoder::Scratch::begin(bool only_checking) {
     return true;
 }
 
-Decoder::Scratch::~Scratch() {
-    if (!begun_)
-        return;
+void Decoder::Scratch::end() {
     clear();
     decoder_.arena_ = outer_;
     decoder_.arena_->octets = decoder_.base_;

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 
 #include "core/arena.hpp"
 #include "core/failure.hpp"
@@ -50,6 +51,9 @@ public:
     [[nodiscard]] uint32_t position() const { return position_; }
     void rewind(uint32_t position) { position_ = position; }
     [[nodiscard]] const uint8_t *at(uint32_t offset) const { return base_ + offset; }
+    // The octets from the position on, and how many there are.
+    [[nodiscard]] const uint8_t *next() const { return base_ + position_; }
+    [[nodiscard]] uint32_t reach() const { return size_ - position_; }
     [[nodiscard]] Arena &arena() const { return *arena_; }
     [[nodiscard]] kovra_err_ctx *ctx() const { return ctx_; }
     [[nodiscard]] bool has_stream() const { return !no_stream_; }
@@ -68,6 +72,39 @@ public:
         return true;
     }
     void step() { ++position_; }
+    // Steps over octets that are there.
+    void step_over(uint32_t count) { position_ += count; }
+    // Steps over a header that has one identifier octet and a definite length, if it and all of the content are there;
+    // false, and nothing done, otherwise. Nearly every element is like that: whoever tries this first and then reads
+    // with care, naming what is wrong, does the same as by reading with care at once.
+    bool header(uint8_t &identifier, uint32_t &length) {
+        constexpr uint32_t long_form = 0x80;
+        const uint32_t left = size_ - position_;
+        const uint8_t *octets = base_ + position_;
+        if (left < 2 || (octets[0] & 0x1F) == 0x1F)
+            return false;
+        uint32_t header_octets = 2;
+        uint32_t announced = octets[1];
+        if (announced >= long_form) {
+            const uint32_t count = announced - long_form;
+            if (count - 1 > 2 || left < header_octets + count)
+                return false;
+            announced = 0;
+            for (uint32_t i = 0; i < count; ++i)
+                announced = announced << 8 | octets[header_octets++];
+        }
+        if (announced > left - header_octets)
+            return false;
+        identifier = octets[0];
+        length = announced;
+        position_ += header_octets;
+        return true;
+    }
+    // The same for one identifier.
+    bool enter(uint8_t identifier, uint32_t &length) {
+        uint8_t found = 0;
+        return position_ != size_ && base_[position_] == identifier && header(found, length);
+    }
     // Steps over `count` octets of content.
     Result skip(Site site, uint32_t count) {
         if (count > size_ - position_ && !pull(count))
@@ -84,9 +121,27 @@ public:
     // Adds an entry that succeeds: the decode goes on.
     void warn(Site site, int32_t code) const { record(ctx_, site, code); }
 
-    // A content decoder's first look: is there a place for the value?
-    [[nodiscard]] bool has_place() const { return !place_missing_; }
-    void lack_place() { place_missing_ = true; }
+    // Primitive content of at least one octet that is all there goes into a new record, made in the room that the
+    // arena has left; null, and nothing done, when it is anything else. A content decoder that tries this first does
+    // the usual in a few instructions, and everything else, and all that can go wrong, behind it.
+    template <class T> T *take(const Element &element, Octets &octets) {
+        const auto length = static_cast<uint32_t>(element.length);
+        if (element.form != Form::primitive || length - 1 >= size_ - position_ || !has_both_ends_)
+            return nullptr;
+        auto *record = static_cast<T *>(arena_->allocate_in_place(sizeof(T)));
+        if (record == nullptr)
+            return nullptr;
+        std::memset(static_cast<void *>(record), 0, sizeof(T));
+        record->kind = T::own_kind;
+        record->arena = arena_;
+        octets = {nullptr, position_, length};
+        position_ += length;
+        return record;
+    }
+
+    // A content decoder's first look: are there a stream and a place for the value?
+    [[nodiscard]] bool has_both_ends() const { return has_both_ends_; }
+    void lack_place() { has_both_ends_ = false; }
 
     // Values are only being checked: nobody will see them.
     [[nodiscard]] bool checking() const { return checking_; }
@@ -115,7 +170,10 @@ public:
     class Scratch {
     public:
         explicit Scratch(Decoder &decoder) : decoder_(decoder), outer_(decoder.arena_), checking_(decoder.checking_) {}
-        ~Scratch();
+        ~Scratch() {
+            if (begun_)
+                end();
+        }
         Scratch(const Scratch &) = delete;
         Scratch &operator=(const Scratch &) = delete;
         // Begins; false when memory is short. Values that are only checked need not be complete.
@@ -123,6 +181,8 @@ public:
         void clear() { decoder_.arena_->reset(mark_); }
 
     private:
+        void end();
+
         Decoder &decoder_;
         Arena *outer_;
         bool checking_;
@@ -148,7 +208,7 @@ private:
     Arena *scratch_ = nullptr;
     Result stream_result_ = success; // of the stream's last failed read
     bool no_stream_ = false;
-    bool place_missing_ = false;
+    bool has_both_ends_ = true;
     bool checking_ = false;
 };
 
@@ -158,9 +218,7 @@ template <class Source> Result read_identifier(Source &source, Site site, Identi
     uint8_t octet = 0;
     if (const Result result = source.octet(site, octet); result != success)
         return result;
-    out.tag_class = static_cast<Class>(octet & 0xC0);
-    out.form = (octet & 0x20) != 0 ? Form::constructed : Form::primitive;
-    out.tag = octet & 0x1F;
+    out = identifier_of(octet);
     if (out.tag != 0x1F)
         return success;
     uint32_t value = 0;
@@ -225,9 +283,7 @@ inline Result decode_identifier(Decoder &decoder, Site site, Identifier &out) {
     if (!decoder.look(octet) || (octet & 0x1F) == 0x1F)
         return decode_long_identifier(decoder, site, out);
     decoder.step();
-    out.tag_class = static_cast<Class>(octet & 0xC0);
-    out.form = (octet & 0x20) != 0 ? Form::constructed : Form::primitive;
-    out.tag = octet & 0x1F;
+    out = identifier_of(octet);
     return success;
 }
 

@@ -30,6 +30,51 @@ extern const Operations choice_operations;
 extern const Operations string_choice_operations;
 extern const Operations unbuilt_operations;
 
+// keys/
+extern const Structure cert_bag;
+extern const Structure cert_with_attributes;
+extern const Structure crl_bag;
+extern const Structure dh_parameter;
+extern const Structure digest_info;
+extern const Structure dss_parms;
+extern const Structure dss_sig_value;
+extern const Structure ec_private_key;
+extern const Structure ecdsa_sig_value;
+extern const Structure encrypted_private_key_info;
+extern const Structure enveloped_key_pair;
+extern const Structure mac_data;
+extern const Structure other_prime_info;
+extern const Structure pbe_parameter;
+extern const Structure pbes2_params;
+extern const Structure pbkdf2_params;
+extern const Structure pbmac1_params;
+extern const Structure pfx;
+extern const Structure pkcs12_pbe_params;
+extern const Structure private_key_attribute;
+extern const Structure private_key_info;
+extern const Structure rc2_cbc_parameter;
+extern const Structure rc5_cbc_parameters;
+extern const Structure rsa_enveloped_key_pair;
+extern const Structure rsa_private_key;
+extern const Structure rsa_public_key;
+extern const Structure rsaes_oaep_params;
+extern const Structure rsassa_pss_params;
+extern const Structure safe_bag;
+extern const Structure secret_bag;
+extern const Structure sm2_cipher;
+extern const Structure sm2_enveloped_key;
+extern const Structure store_attribute;
+extern const ListShape authenticated_safe;
+extern const ListShape cert_store;
+extern const ListShape old_cert_thumbprints;
+extern const ListShape other_prime_infos;
+extern const ListShape safe_contents;
+extern const ListShape store_attribute_list;
+extern const ChoiceShape ecpk_parameters;
+extern const ChoiceShape inner_enveloped_key_pair;
+extern const ChoiceShape pbkdf2_salt;
+extern const ChoiceShape store_key_id;
+
 // pkix/
 extern const Structure aa_issuing_distribution_point;
 extern const Structure access_description;
@@ -96,9 +141,6 @@ extern const ChoiceShape general_name;
 extern const StringChoice directory_string;
 extern const StringChoice display_text;
 extern const StringChoice pkcs9_string;
-
-// keys/
-extern const Structure digest_info;
 
 // cms/
 extern const Structure content_info;

@@ -20,6 +20,9 @@ Site here(int32_t line = __builtin_LINE()) {
 
 constexpr uint32_t first_capacity = 32;
 
+// Position behind the last element of a list of indefinite length: none.
+constexpr uint32_t no_end = UINT32_MAX;
+
 // A decoded list of more elements keeps their places and builds them when they are asked for.
 constexpr uint32_t most_built_at_once = 32;
 
@@ -115,53 +118,79 @@ Result encode_elements(Encoder &encoder, const Type &element, List *list, int32_
     return success;
 }
 
-// Collects the elements of a list that is being decoded.
+// The elements of a list that is being decoded: built, and together with the list, as long as they are few.
 class Collector {
 public:
     explicit Collector(Decoder &decoder)
-        : decoder_(decoder), scratch_(decoder), list_(new_record<List>(decoder.arena())),
-          mark_(decoder.arena().mark()) {}
-    ~Collector() { Arena::drop_block(places_); }
-    Collector(const Collector &) = delete;
-    Collector &operator=(const Collector &) = delete;
+        : decoder_(decoder), list_(new_record<List>(decoder.arena())), mark_(decoder.arena().mark()) {}
 
     [[nodiscard]] bool has_list() const { return list_ != nullptr; }
     [[nodiscard]] uint32_t count() const { return count_; }
+    [[nodiscard]] bool is_full() const { return count_ == most_built_at_once; }
 
-    // An element that begins at `place` was decoded; false when memory is short.
-    bool add(Value *element, uint32_t place) {
-        if (count_ < most_built_at_once) {
-            built_[count_] = element;
-            first_places_[count_++] = place;
-            return true;
-        }
-        if (count_ == most_built_at_once && !begin_long())
-            return false;
-        scratch_.clear();
-        if (!decoder_.checking() || keeps_places_) {
-            if (!keep(place))
-                return false;
-        }
-        ++count_;
-        return true;
+    // An element that begins at `place` was decoded; there is room while the collector is not full.
+    void add(Value *element, uint32_t place) {
+        built_[count_] = element;
+        places_[count_++] = place;
     }
 
     // The list with what was added; null when memory is short.
     List *finish(const Type &element) {
-        list_->count = count_;
-        list_->capacity = count_ > first_capacity ? count_ : first_capacity;
+        auto *items = static_cast<Value **>(list_->arena->allocate(size_t{count_} * sizeof(Value *)));
+        if (items == nullptr)
+            return nullptr;
+        for (uint32_t i = 0; i < count_; ++i)
+            items[i] = built_[i];
+        list_->items = items;
         list_->element = &element;
-        if (count_ == 0 || count_ <= most_built_at_once) {
-            auto *items = static_cast<Value **>(list_->arena->allocate(size_t{count_} * sizeof(Value *)));
-            if (items == nullptr)
-                return nullptr;
-            if (count_ != 0)
-                std::memcpy(items, built_, count_ * sizeof(Value *));
-            list_->items = items;
-            list_->capacity = count_;
-            return list_;
-        }
-        list_->placed = count_;
+        list_->count = list_->capacity = count_;
+        return list_;
+    }
+
+private:
+    friend class LongCollector;
+
+    Decoder &decoder_;
+    List *list_;
+    Arena::Mark mark_;
+    uint32_t count_ = 0;
+    Value *built_[most_built_at_once];
+    uint32_t places_[most_built_at_once];
+};
+
+// The elements of a list that has become long: what was built makes room for places, and those that follow are built
+// in a scratch area, to be checked.
+class LongCollector {
+public:
+    explicit LongCollector(const Collector &first)
+        : decoder_(first.decoder_), scratch_(decoder_), list_(first.list_), keeps_places_(!decoder_.checking()) {}
+    ~LongCollector() { Arena::drop_block(places_); }
+    LongCollector(const LongCollector &) = delete;
+    LongCollector &operator=(const LongCollector &) = delete;
+
+    // Goes on where the other is full; false when memory is short.
+    bool begin(const Collector &first) {
+        decoder_.arena().reset(first.mark_);
+        if (!scratch_.begin(true))
+            return false;
+        for (const uint32_t place : first.places_)
+            if (!add(place))
+                return false;
+        return true;
+    }
+
+    // An element that begins at `place` was decoded; false when memory is short.
+    bool add(uint32_t place) {
+        scratch_.clear();
+        if (keeps_places_ && !keep(place))
+            return false;
+        ++count_;
+        return true;
+    }
+
+    List *finish(const Type &element) {
+        list_->element = &element;
+        list_->count = list_->capacity = list_->placed = count_;
         if (places_ != nullptr) {
             list_->arena->link(places_);
             list_->places = reinterpret_cast<const uint32_t *>(places_->memory());
@@ -171,47 +200,78 @@ public:
     }
 
 private:
-    // The elements that were built make room for places; those that follow go to the scratch area.
-    bool begin_long() {
-        keeps_places_ = !decoder_.checking();
-        decoder_.arena().reset(mark_);
-        if (!scratch_.begin(true))
-            return false;
-        for (uint32_t i = 0; keeps_places_ && i < count_; ++i)
-            if (!keep(first_places_[i], i))
-                return false;
-        return true;
-    }
-
-    bool keep(uint32_t place) { return keep(place, count_); }
-    bool keep(uint32_t place, uint32_t index) {
-        if (index == places_capacity_) {
-            const uint32_t capacity = places_capacity_ == 0 ? 4 * most_built_at_once : places_capacity_ * 2;
+    bool keep(uint32_t place) {
+        if (count_ == capacity_) {
+            const uint32_t capacity = capacity_ == 0 ? 4 * most_built_at_once : capacity_ * 2;
             const size_t size = size_t{capacity} * sizeof(uint32_t);
             Arena::Block *block = places_ == nullptr ? Arena::new_block(size) : Arena::resize_block(places_, size);
             if (block == nullptr)
                 return false;
             places_ = block;
-            places_capacity_ = capacity;
+            capacity_ = capacity;
         }
-        reinterpret_cast<uint32_t *>(places_->memory())[index] = place;
+        reinterpret_cast<uint32_t *>(places_->memory())[count_] = place;
         return true;
     }
 
     Decoder &decoder_;
     Decoder::Scratch scratch_;
     List *list_;
-    Arena::Mark mark_;
+    bool keeps_places_;
     uint32_t count_ = 0;
-    bool keeps_places_ = false;
+    uint32_t capacity_ = 0;
     Arena::Block *places_ = nullptr;
-    uint32_t places_capacity_ = 0;
-    Value *built_[most_built_at_once];
-    uint32_t first_places_[most_built_at_once];
 };
 
 // What is left of a list whose elements are being read.
 enum class Next : uint8_t { element, end, fault };
+
+// Goes on where a collector is full, and its next element, at `place`, was read.
+template <class Read>
+Result collect_many(Decoder &decoder, const Type &element, const Collector &first, uint32_t place, Read read,
+                    Value *&out) {
+    LongCollector collector(first);
+    if (!collector.begin(first) || !collector.add(place))
+        return decoder.fail(here(), code::no_memory);
+    for (;;) {
+        Value *value = nullptr;
+        Result result = success;
+        place = decoder.position();
+        const Next next = read(value, result);
+        if (next == Next::fault)
+            return result;
+        if (next == Next::end)
+            break;
+        if (!collector.add(place))
+            return decoder.fail(here(), code::no_memory);
+    }
+    out = collector.finish(element);
+    return success;
+}
+
+// Reads the elements of a list, each by read(value, result), which tells what it met; `result` is that of a fault.
+template <class Read> Result collect(Decoder &decoder, const Type &element, bool nonempty, Read read, Value *&out) {
+    Collector collector(decoder);
+    if (!collector.has_list())
+        return decoder.fail(here(), code::no_memory);
+    for (;;) {
+        Value *value = nullptr;
+        Result result = success;
+        const uint32_t place = decoder.position();
+        const Next next = read(value, result);
+        if (next == Next::fault)
+            return result;
+        if (next == Next::end)
+            break;
+        if (collector.is_full())
+            return collect_many(decoder, element, collector, place, read, out);
+        collector.add(value, place);
+    }
+    if (nonempty && collector.count() == 0)
+        return decoder.fail(here(), code::incorrect_size);
+    out = collector.finish(element);
+    return out != nullptr ? success : decoder.fail(here(), code::no_memory);
+}
 
 // Reads one element of a list, unless the end-of-contents of an indefinite one stands in its place.
 Next read_element(Decoder &decoder, const Type &element, ListReading reading, bool is_indefinite, Result &result,
@@ -253,32 +313,35 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
         return result;
     if (element.form == Form::primitive)
         return decoder.fail(here(), code::form_error);
-    Collector collector(decoder);
-    if (!collector.has_list())
-        return decoder.fail(here(), code::no_memory);
     if (element.length < indefinite)
         return decoder.fail(here(), code::bad_argument);
     const bool is_indefinite = element.length == indefinite;
-    const uint32_t begin = decoder.position();
-    const auto length = static_cast<uint32_t>(element.length);
-    while (is_indefinite || decoder.position() - begin != length) {
-        Value *value = nullptr;
-        Result result = success;
+    const uint32_t end = is_indefinite ? no_end : decoder.position() + static_cast<uint32_t>(element.length);
+    // Elements that begin with nothing but their own identifier are entered at once.
+    const Operations &operations = *member.operations;
+    const bool is_plain =
+        shape.reading != ListReading::whole && operations.begins == nullptr && operations.decode_begun == nullptr;
+    const auto read = [&](Value *&value, Result &result) {
         const uint32_t start = decoder.position();
-        const Next next = read_element(decoder, member, shape.reading, is_indefinite, result, value);
-        if (next == Next::fault)
-            return result;
-        if (next == Next::end)
-            break;
-        if (!collector.add(value, start))
-            return decoder.fail(here(), code::no_memory);
-        if (!is_indefinite && decoder.position() - begin > length)
-            return decoder.fail(here(), code::incorrect_length);
-    }
-    if (shape.nonempty && collector.count() == 0)
-        return decoder.fail(here(), code::incorrect_size);
-    out = collector.finish(member);
-    return out != nullptr ? success : decoder.fail(here(), code::no_memory);
+        uint32_t length = 0;
+        if (start == end)
+            return Next::end;
+        if (is_plain && decoder.enter(member.usual_identifier, length)) {
+            result = operations.decode_content(decoder, member, member.usual_element(length, start), value);
+            if (result != success) {
+                fail_decode(decoder, here(), member);
+                return Next::fault;
+            }
+        } else if (const Next next = read_element(decoder, member, shape.reading, is_indefinite, result, value);
+                   next != Next::element) {
+            return next;
+        }
+        if (decoder.position() <= end)
+            return Next::element;
+        result = decoder.fail(here(), code::incorrect_length);
+        return Next::fault;
+    };
+    return collect(decoder, member, shape.nonempty, read, out);
 }
 
 // Lists of open-type values have codes of their own for what goes wrong.
@@ -290,31 +353,24 @@ Result decode_any_list(Decoder &decoder, const Type &type, const Element &elemen
         return decoder.fail(here(), code::form_error);
     if (element.length < indefinite)
         return decoder.fail(here(), code::bad_length);
-    Collector collector(decoder);
-    if (!collector.has_list())
-        return decoder.fail(here(), code::no_memory);
     const bool is_indefinite = element.length == indefinite;
-    const uint32_t begin = decoder.position();
-    const auto length = static_cast<uint32_t>(element.length);
-    while (is_indefinite || decoder.position() - begin < length) {
+    const uint32_t end = is_indefinite ? no_end : decoder.position() + static_cast<uint32_t>(element.length);
+    const auto read = [&](Value *&value, Result &result) {
+        const auto fault = [&](int32_t code, Result given = failure) {
+            result = decoder.fail(here(), code, given);
+            return Next::fault;
+        };
+        if (decoder.position() >= end)
+            return decoder.position() == end ? Next::end : fault(code::incorrect_length);
         Extent extent;
-        if (const Result result = walk_element(decoder, extent); result != success)
-            return decoder.fail(here(), code::decode_any, result);
-        if (extent.identifier.is_end_of_contents()) {
-            if (is_indefinite)
-                break;
-            return decoder.fail(here(), code::misplaced_end_of_contents);
-        }
-        Any *value = new_any(decoder, extent);
-        if (value == nullptr || !collector.add(value, extent.start))
-            return decoder.fail(here(), code::no_memory);
-    }
-    if (!is_indefinite && decoder.position() - begin != length)
-        return decoder.fail(here(), code::incorrect_length);
-    if (shape_of(type).nonempty && collector.count() == 0)
-        return decoder.fail(here(), code::incorrect_size);
-    out = collector.finish(any);
-    return out != nullptr ? success : decoder.fail(here(), code::no_memory);
+        if (const Result walked = walk_element(decoder, extent); walked != success)
+            return fault(code::decode_any, walked);
+        if (extent.identifier.is_end_of_contents())
+            return is_indefinite ? Next::end : fault(code::misplaced_end_of_contents);
+        value = new_any(decoder, extent);
+        return value != nullptr ? Next::element : fault(code::no_memory);
+    };
+    return collect(decoder, any, shape_of(type).nonempty, read, out);
 }
 
 int32_t list_content_length(const Type &type, Value *value, Measure measure) {
@@ -342,6 +398,7 @@ constexpr Operations list_operations = {
     .content_length = list_content_length,
     .encode_content = encode_list_content,
     .decode_content = decode_list,
+    .decode_entered = decode_list,
     .records_reserve = list_reserve,
 };
 
@@ -350,6 +407,7 @@ constexpr Operations any_list_operations = {
     .content_length = list_content_length,
     .encode_content = encode_any_list_content,
     .decode_content = decode_any_list,
+    .decode_entered = decode_any_list,
     .records_reserve = list_reserve,
 };
 

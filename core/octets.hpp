@@ -28,6 +28,11 @@ struct Identifier {
     }
 };
 
+// The identifier of one octet.
+constexpr Identifier identifier_of(uint8_t octet) {
+    return {static_cast<Class>(octet & 0xC0), (octet & 0x20) != 0 ? Form::constructed : Form::primitive, octet & 0x1F};
+}
+
 // Universal tag numbers that the code names.
 namespace tag {
 inline constexpr uint8_t boolean = 1;

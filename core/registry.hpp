@@ -31,6 +31,9 @@ struct Operations {
     Result (*decode_content)(Decoder &, const Type &, const Element &, Value *&out) = nullptr;
     // Reads a whole value. Null: the identifier must be the row's.
     Result (*decode)(Decoder &, const Type &, Value *&out) = nullptr;
+    // Reads the content behind the row's own identifier and a definite length whose octets are all there, with what
+    // `decode` does besides. Null: there is no such shorter way.
+    Result (*decode_entered)(Decoder &, const Type &, const Element &, Value *&out) = nullptr;
     // Can a value begin with this identifier? Null: it must be the row's.
     bool (*begins)(const Type &, const Identifier &) = nullptr;
     // Reads the content behind an identifier that the value can begin with. Null: `decode_content`.
@@ -43,12 +46,24 @@ struct Operations {
 
 // A row of the registry.
 struct Type {
+    constexpr Type(uint8_t number_, Form form_, uint8_t tag_, int32_t base_, const Operations *operations_,
+                   const void *shape_)
+        : number(number_), form(form_), tag(tag_),
+          usual_identifier(static_cast<uint8_t>(form_ == Form::constructed ? tag_ | 0x20 : tag_)), base(base_),
+          operations(operations_), shape(shape_) {}
+
     uint8_t number;
     Form form;
-    uint8_t tag;  // universal
-    int32_t base; // code of a failed encode; that of a failed decode is one above
+    uint8_t tag;              // universal
+    uint8_t usual_identifier; // octet of the tag in the form, which is primitive where either will do
+    int32_t base;             // code of a failed encode; that of a failed decode is one above
     const Operations *operations;
     const void *shape; // the declaration that shared operations work from; null for the leaves
+
+    // An element under the usual identifier.
+    [[nodiscard]] Element usual_element(uint32_t length, uint32_t start) const {
+        return {form == Form::constructed ? Form::constructed : Form::primitive, static_cast<int32_t>(length), start};
+    }
 };
 
 inline constexpr uint32_t type_count = 208;
@@ -74,7 +89,15 @@ int32_t whole_length_of(int32_t tag, int32_t content);
 Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure = Measure::fresh);
 
 // Reads a whole value, and the content behind an identifier that `begins` accepted.
-Result decode(Decoder &decoder, const Type &type, Value *&out);
+Result decode_generic(Decoder &decoder, const Type &type, Value *&out);
+inline Result decode(Decoder &decoder, const Type &type, Value *&out) {
+    uint32_t length = 0;
+    const uint32_t start = decoder.position();
+    const Operations &operations = *type.operations;
+    if (operations.decode_entered != nullptr && decoder.enter(type.usual_identifier, length))
+        return operations.decode_entered(decoder, type, type.usual_element(length, start), out);
+    return operations.decode != nullptr ? operations.decode(decoder, type, out) : decode_generic(decoder, type, out);
+}
 inline bool begins(const Type &type, const Identifier &identifier) {
     if (type.operations->begins != nullptr)
         return type.operations->begins(type, identifier);
@@ -102,7 +125,7 @@ inline Result fail_decode(Decoder &decoder, Site site, const Type &type, Result 
 
 // The first checks of every content decoder.
 inline Result enter(Decoder &decoder, Site site) {
-    if (!decoder.has_stream() || !decoder.has_place())
+    if (!decoder.has_both_ends())
         return decoder.fail(site, code::null_argument);
     return success;
 }

@@ -1,5 +1,6 @@
 #include "core/structure.hpp"
 
+#include <algorithm>
 #include <cstring>
 
 #include "core/any.hpp"
@@ -32,16 +33,23 @@ bool is_written(const Component &component, const Value *value) {
     return component.presence != Presence::defaulted || !component.fallback->is(*value);
 }
 
-Record *new_record_of(Arena &arena, const Structure &shape) {
-    const size_t size = sizeof(Record) - sizeof(Record::slots) + shape.count * sizeof(Value *) + 2 * sizeof(Octets);
-    auto *record = new_record<Record>(arena, size);
-    if (record != nullptr)
-        record->shape = &shape;
-    return record;
-}
-
 Octets *kept_of(Record &record) {
     return reinterpret_cast<Octets *>(record.slots + record.shape->count);
+}
+
+// The slots are the caller's to fill.
+Record *new_record_of(Arena &arena, const Structure &shape) {
+    const size_t size = sizeof(Record) - sizeof(Record::slots) + shape.count * sizeof(Value *) + 2 * sizeof(Octets);
+    auto *record = static_cast<Record *>(arena.allocate(size));
+    if (record == nullptr)
+        return nullptr;
+    record->kind = Kind::record;
+    record->measured = 0;
+    record->arena = &arena;
+    record->shape = &shape;
+    Octets *kept = kept_of(*record);
+    kept[0] = kept[1] = {};
+    return record;
 }
 
 // Copies what was just encoded for keeping.
@@ -175,26 +183,53 @@ Result encode_kept(Encoder &encoder, const Type &type, Value *value) {
 class Reader {
 public:
     Reader(Decoder &decoder, const Structure &shape, const Element &element, Record &record)
-        : decoder_(decoder), shape_(shape), record_(record), begin_(decoder.position()), length_(element.length) {}
+        : decoder_(decoder), shape_(shape), record_(record),
+          end_(element.length == indefinite ? no_end : decoder.position() + static_cast<uint32_t>(element.length)) {}
 
     Result read() {
-        for (uint8_t i = 0; i < shape_.count && !ended_; ++i) {
-            const Component &component = shape_.components[i];
-            if (const Result result = read_component(component, i); result != success)
+        Decoder &decoder = decoder_;
+        const uint32_t end = end_;
+        const Component *component = shape_.components;
+        const Component *const last = component + shape_.count;
+        const Component *const required_end = component + shape_.required_end;
+        Value **slot = record_.slots;
+        // What stands behind a component that may be absent is known by its identifier, whether that was there or not.
+        bool follows_optional = false;
+        if (shape_.signed_slot == 0) {
+            *slot = nullptr;
+            if (const Result result = read_signed(*component++, *slot++); result != success)
                 return result;
-            if (!is_indefinite() && consumed() > static_cast<uint32_t>(length_))
-                return decoder_.fail(at(shape_, component), code::incorrect_length);
         }
-        for (uint8_t i = 0; shape_.has_defaults && i < shape_.count; ++i)
-            if (record_.slots[i] == nullptr && shape_.components[i].presence == Presence::defaulted)
-                if ((record_.slots[i] = shape_.components[i].fallback->make(decoder_.arena())) == nullptr)
-                    return decoder_.fail(at(shape_, shape_.components[i]), code::no_memory);
-        return ended_ ? success : finish();
+        for (; component != last; ++component, ++slot) {
+            Result result = success;
+            *slot = nullptr;
+            if (state_ != State::between)
+                result = state_ == State::ended ? leave_absent(*component, *slot) : read_tested(*component, *slot);
+            else if (decoder.position() == end && component >= required_end)
+                result = leave_absent(*component, *slot);
+            else if (component->is_read_whole && !(follows_optional && component->type != KOVRA_ASN1_TYPE_ANY))
+                result = read_whole(*component, *slot);
+            else
+                result = read_tested(*component, *slot);
+            if (result != success)
+                return result;
+            follows_optional = component->presence != Presence::required;
+            if (decoder.position() > end)
+                return decoder.fail(at(shape_, *component), code::incorrect_length);
+        }
+        return decoder.position() == end && state_ == State::between ? success : finish();
     }
 
 private:
-    [[nodiscard]] bool is_indefinite() const { return length_ == indefinite; }
-    [[nodiscard]] uint32_t consumed() const { return decoder_.position() - begin_; }
+    static constexpr uint32_t no_end = UINT32_MAX;
+
+    enum class State : uint8_t {
+        between, // two components
+        pending, // an identifier was read that no component has taken yet
+        ended,   // the end-of-contents octets were read in place of a component
+    };
+
+    [[nodiscard]] bool is_indefinite() const { return end_ == no_end; }
 
     // Does the component begin with the identifier that was read?
     [[nodiscard]] bool matches(const Component &component) const {
@@ -204,7 +239,8 @@ private:
             return begins(type, identifier_);
         case Tagging::implicit:
             return identifier_.is(Class::context, component.tag.number) &&
-                   (type.form != Form::constructed || identifier_.form == Form::constructed);
+                   (identifier_.form == type.form ||
+                    (type.form != Form::constructed && component.begins != Begins::in_own_form));
         case Tagging::explicit_:
         case Tagging::bare:
             return identifier_.is(Class::context, component.tag.number) && identifier_.form == Form::constructed;
@@ -212,51 +248,59 @@ private:
         return false;
     }
 
-    Result read_component(const Component &component, uint8_t slot) {
-        const bool is_required = component.presence == Presence::required;
-        const bool is_plain = component.tag.tagging == Tagging::none;
-        Value *&place = record_.slots[slot];
-        if (!identifier_read_) {
-            if (!is_required && !is_indefinite() && consumed() == static_cast<uint32_t>(length_))
-                return success;
-            if (slot == shape_.signed_slot)
-                return read_signed(component, place);
-            if (is_plain && (is_required || component.type == KOVRA_ASN1_TYPE_ANY))
-                return read_whole(component, place);
+    Result leave_absent(const Component &component, Value *&slot) {
+        if (component.presence != Presence::defaulted)
+            return success;
+        slot = component.fallback->make(decoder_.arena());
+        return slot != nullptr ? success : decoder_.fail(at(shape_, component), code::no_memory);
+    }
+
+    Result read_whole(const Component &component, Value *&slot) {
+        const Type &type = decode_row(component);
+        if (const Result result = decode(decoder_, type, slot); result != success)
+            return fail_decode(decoder_, at(shape_, component), component, result);
+        return type.number == KOVRA_ASN1_TYPE_ANY && is_end_of_contents(slot) ? end_of_contents(component, slot)
+                                                                              : success;
+    }
+
+    // An end-of-contents marker was read in place of a component.
+    Result end_of_contents(const Component &component, Value *&slot) {
+        slot = nullptr;
+        if (component.presence == Presence::required || !is_indefinite())
+            return decoder_.fail(at(shape_, component), code::incorrect_item);
+        state_ = State::ended;
+        return leave_absent(component, slot);
+    }
+
+    Result read_tested(const Component &component, Value *&slot) {
+        if (state_ == State::between) {
+            const Type &type = decode_row(component);
+            uint32_t length = 0;
             identifier_start_ = decoder_.position();
+            if (component.tag.tagging == Tagging::none && type.operations->begins == nullptr &&
+                decoder_.enter(type.usual_identifier, length)) {
+                identifier_ = identifier_of(type.usual_identifier);
+                return read_content(component, static_cast<int32_t>(length), slot);
+            }
             if (const Result result = decode_identifier(decoder_, at(shape_, component), identifier_);
                 result != success)
                 return result;
-            identifier_read_ = true;
-        } else if (is_plain && component.type == KOVRA_ASN1_TYPE_ANY) {
-            identifier_read_ = false;
+            state_ = State::pending;
+        } else if (component.tag.tagging == Tagging::none && component.type == KOVRA_ASN1_TYPE_ANY) {
+            state_ = State::between;
             decoder_.rewind(identifier_start_);
-            return read_whole(component, place);
+            return read_whole(component, slot);
         }
         if (!matches(component))
-            return is_required ? decoder_.fail(at(shape_, component), code::incorrect_item) : success;
-        identifier_read_ = false;
+            return component.presence == Presence::required ? decoder_.fail(at(shape_, component), code::incorrect_item)
+                                                            : leave_absent(component, slot);
+        state_ = State::between;
         int32_t length = 0;
         if (const Result result = decode_length(decoder_, at(shape_, component), length); result != success)
             return result;
         return component.tag.tagging == Tagging::explicit_
-                   ? decode_explicit(decoder_, at(shape_, component), component, length, place)
-                   : read_content(component, length, place);
-    }
-
-    Result read_whole(const Component &component, Value *&place) {
-        Value *value = nullptr;
-        const Site site = at(shape_, component);
-        if (const Result result = decode_component(decoder_, site, component, value); result != success)
-            return result;
-        if (is_end_of_contents(value)) {
-            if (component.presence == Presence::required || !is_indefinite())
-                return decoder_.fail(site, code::incorrect_item);
-            ended_ = true;
-            return success;
-        }
-        place = value;
-        return success;
+                   ? decode_explicit(decoder_, at(shape_, component), component, length, slot)
+                   : read_content(component, length, slot);
     }
 
     // Behind an identifier that the component begins with, tagged or not.
@@ -270,29 +314,32 @@ private:
     }
 
     // The component is decoded from its exact octets, which stay with the record.
-    Result read_signed(const Component &component, Value *&place) {
+    Result read_signed(const Component &component, Value *&slot) {
         const Site site = at(shape_, component);
         Extent extent;
         if (const Result result = walk_element(decoder_, extent); result != success)
             return decoder_.fail(site, code::decode_any, result);
-        if (!is_indefinite() && consumed() > static_cast<uint32_t>(length_))
+        if (decoder_.position() > end_)
             return decoder_.fail(site, code::incorrect_length);
         kept_of(record_)[1] = decoder_.octets_from(extent.start);
         const Decoder::Window window(decoder_, decoder_.position());
         decoder_.rewind(extent.start);
-        return read_whole(component, place);
+        return read_whole(component, slot);
     }
 
+    // What is left when the components were read.
     Result finish() {
         const Site site = in(shape_);
-        if (identifier_read_) {
+        if (state_ == State::ended)
+            return success;
+        if (state_ == State::pending) {
             if (!is_indefinite() || !identifier_.is_end_of_contents())
                 return decoder_.fail(site, code::incorrect_item);
             const Result result = read_end_of_contents_length(decoder_, site);
             return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
         }
         if (!is_indefinite())
-            return consumed() == static_cast<uint32_t>(length_) ? success : decoder_.fail(site, code::incorrect_length);
+            return decoder_.fail(site, code::incorrect_length);
         Value *none = nullptr;
         const Result result = decode(decoder_, row(KOVRA_ASN1_TYPE_END_OF_CONTENTS), none);
         return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
@@ -301,15 +348,19 @@ private:
     Decoder &decoder_;
     const Structure &shape_;
     Record &record_;
-    uint32_t begin_;
-    int32_t length_;
+    const uint32_t end_; // position behind the last component; no_end: end-of-contents octets stand there
     Identifier identifier_;
     uint32_t identifier_start_ = 0;
-    bool identifier_read_ = false; // an identifier was read that no component has taken yet
-    bool ended_ = false;           // the end-of-contents octets were read in place of a component
+    State state_ = State::between;
 };
 
-Result decode_structure_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
+// What decoding keeps of a structure besides its components.
+enum class Keep : uint8_t {
+    nothing,
+    encoding, // the octets from its identifier on
+};
+
+template <Keep keep> Result decode_content_of(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     const Structure &shape = shape_of(type);
     if (const Result result = enter(decoder, in(shape)); result != success)
         return result;
@@ -320,6 +371,7 @@ Result decode_structure_content(Decoder &decoder, const Type &type, const Elemen
     Record *record = new_record_of(decoder.arena(), *shape.shape());
     if (record == nullptr)
         return decoder.fail(in(shape), code::no_memory);
+    record->slots[0] = nullptr;
     const Result result =
         shape.content != nullptr
             ? shape.content->operations->decode_content(decoder, *shape.content, element, record->slots[0])
@@ -328,17 +380,19 @@ Result decode_structure_content(Decoder &decoder, const Type &type, const Elemen
         return result;
     if (shape.allows != nullptr && !shape.allows(*record))
         return decoder.fail(in(shape), shape.refusal);
+    if (keep == Keep::encoding && element.start != Element::no_start)
+        kept_of(*record)[0] = decoder.octets_from(element.start);
     out = record;
     return success;
 }
 
-// A structure that keeps its encoding: the octets from its identifier on.
-Result decode_kept_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
-    if (const Result result = decode_structure_content(decoder, type, element, out); result != success)
-        return result;
-    if (element.start != Element::no_start)
-        *kept_of(*static_cast<Record *>(out)) = decoder.octets_from(element.start);
-    return success;
+constexpr auto decode_structure_content = decode_content_of<Keep::nothing>;
+constexpr auto decode_kept_content = decode_content_of<Keep::encoding>;
+
+// One of definite length ends where it says: its components do not reach beyond.
+Result decode_kept_entered(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
+    const Decoder::Window window(decoder, decoder.position() + static_cast<uint32_t>(element.length));
+    return decode_kept_content(decoder, type, element, out);
 }
 
 Result decode_kept(Decoder &decoder, const Type &type, Value *&out) {
@@ -368,6 +422,7 @@ constexpr Operations structure_operations = {
     .content_length = structure_content_length,
     .encode_content = encode_structure_content,
     .decode_content = decode_structure_content,
+    .decode_entered = decode_structure_content,
     .records_reserve = structure_reserve,
 };
 
@@ -379,11 +434,15 @@ constexpr Operations kept_structure_operations = {
     .encode = encode_kept,
     .decode_content = decode_kept_content,
     .decode = decode_kept,
+    .decode_entered = decode_kept_entered,
     .records_reserve = structure_reserve,
 };
 
 Record *new_structure(Arena &arena, const Structure &shape) {
-    return new_record_of(arena, *shape.shape());
+    Record *record = new_record_of(arena, *shape.shape());
+    if (record != nullptr)
+        std::fill_n(record->slots, record->shape->count, nullptr);
+    return record;
 }
 
 Record *new_structure(const Structure &shape) {
@@ -391,7 +450,7 @@ Record *new_structure(const Structure &shape) {
     Arena *arena = Arena::create(sizeof(Record) + own.count * sizeof(Value *) + 2 * sizeof(Octets));
     if (arena == nullptr)
         return nullptr;
-    Record *record = new_record_of(*arena, own);
+    Record *record = new_structure(*arena, own);
     if (record == nullptr)
         Arena::destroy(arena);
     else
@@ -414,7 +473,7 @@ bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value) {
         record.slots[slot] = component.fallback->make(*record.arena);
         return record.slots[slot] != nullptr;
     }
-    Value *copy = duplicate(copy_row(component), static_cast<const Value *>(value), nullptr);
+    Value *copy = duplicate(*component.copied_as, static_cast<const Value *>(value), nullptr);
     if (copy == nullptr)
         return false;
     return store(record, slot, copy);

@@ -21,7 +21,7 @@ struct Structure {
     uint8_t count;
     // The first component, when its exact octets are kept because they are what is signed; else no_slot.
     uint8_t signed_slot = no_slot;
-    bool has_defaults = false;
+    uint8_t required_end = 0; // behind the last required component
     // The structure whose records these are, when this one only restricts it; null: its own.
     const Structure *record = nullptr;
     // A record that is not allowed is refused in both directions with `refusal`; null: all are allowed.
@@ -37,8 +37,10 @@ struct Structure {
 template <size_t count> constexpr Structure structure(const char *source, const Component (&components)[count]) {
     static_assert(count < no_slot);
     Structure made{source, components, count};
-    for (const Component &component : components)
-        made.has_defaults = made.has_defaults || component.presence == Presence::defaulted;
+    for (uint8_t i = 0; i < count; ++i) {
+        if (components[i].presence == Presence::required)
+            made.required_end = i + 1;
+    }
     return made;
 }
 // A list that keeps its encoding, which lists by themselves do not.
@@ -59,6 +61,13 @@ constexpr Structure restricted(const Structure &base, bool (*allows)(const Recor
     made.refuses_length = refuses_length;
     return made;
 }
+// A structure of which only some records are allowed.
+constexpr Structure checked(const Structure &base, bool (*allows)(const Record &), int32_t refusal) {
+    Structure made = base;
+    made.allows = allows;
+    made.refusal = refusal;
+    return made;
+}
 // A structure that is signed: its first component is what the signature covers.
 template <size_t count> constexpr Structure signed_structure(const char *source, const Component (&components)[count]) {
     Structure made = structure(source, components);
@@ -77,13 +86,15 @@ bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value);
 // Stores a value that is the root of its own arena, and takes it over. False when that cannot be; null is refused.
 bool store(Record &record, uint8_t slot, Value *value);
 
-// A new record with copies of one argument for each component, in order; null when one cannot be had.
+// A new record with copies of one argument for each component, in order; null when one cannot be had, or the record is
+// not allowed.
 template <class... Arguments> Record *construct(const Structure &shape, Arguments... arguments) {
     Record *record = new_structure(shape);
     if (record == nullptr)
         return nullptr;
     uint8_t slot = 0;
-    if ((store_copy(*record, slot++, arguments) && ...) && slot == shape.count)
+    if ((store_copy(*record, slot++, arguments) && ...) && slot == shape.count &&
+        (shape.allows == nullptr || shape.allows(*record)))
         return record;
     Arena::destroy(record->arena);
     return nullptr;
@@ -93,6 +104,11 @@ template <class... Arguments> Record *construct(const Structure &shape, Argument
 Record *as_record(const Structure &shape, const kovra_asn1_value *handle);
 // The value in a slot, borrowed; null when it is absent, or the handle is not of this structure.
 Value *component(const Structure &shape, const kovra_asn1_value *handle, uint8_t slot);
+
+// The same of a record whose structure is known.
+inline const Value *in_slot(const Record &record, uint8_t slot) {
+    return record.slots[slot];
+}
 
 // Exact octets that a record keeps.
 Octets &kept_encoding(Record &record);

@@ -136,7 +136,9 @@ struct Choice : Value {
 struct Record : Value {
     static constexpr Kind own_kind = Kind::record;
     const Structure *shape;
-    Value *slots[1];
+    Value *slots[1]; // as many as the structure has components
+
+    [[nodiscard]] Value *slot(uint8_t index) const { return slots[index]; }
 };
 
 // The record behind a handle, or null when the handle is null or of another kind.

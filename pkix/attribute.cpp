@@ -42,7 +42,7 @@ constexpr Component components[] = {
 
 // The attributes of PKCS #10 and CMS have plain values only.
 bool is_plain(const Record &record) {
-    return record.slots[values_with_context] == nullptr;
+    return record.slot(values_with_context) == nullptr;
 }
 } // namespace attribute_slots
 
@@ -57,8 +57,8 @@ constexpr Component components[] = {
     required("subjectUUID", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
 bool have_size(const Record &record) {
-    return kovra_asn1_octetstring_getlength(record.slots[issuer]) == octets &&
-           kovra_asn1_octetstring_getlength(record.slots[subject]) == octets;
+    return kovra_asn1_octetstring_getlength(record.slot(issuer)) == octets &&
+           kovra_asn1_octetstring_getlength(record.slot(subject)) == octets;
 }
 constexpr Structure sized() {
     Structure made = structure(source, components);

@@ -104,9 +104,9 @@ kovra_asn1_value *kovra_x509TBSCertificate_new(const kovra_asn1_value *version, 
                                                const kovra_asn1_value *subject_public_key,
                                                const kovra_asn1_value *issuer_unique_id,
                                                const kovra_asn1_value *subject_unique_id,
-                                               const kovra_asn1_value *extensions) noexcept {
+                                               const kovra_asn1_value *extension_list) noexcept {
     return construct(tbs_certificate, version, serial_number, signature, issuer, validity_period, subject,
-                     subject_public_key, issuer_unique_id, subject_unique_id, extensions);
+                     subject_public_key, issuer_unique_id, subject_unique_id, extension_list);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_create(const kovra_asn1_value *tbs_value,

@@ -93,7 +93,7 @@ static_assert(is_sound(components));
 
 // The form of RFC 5280 has no requiredNameForms.
 bool is_pkix(const Record &record) {
-    return record.slots[required_name_forms] == nullptr;
+    return record.slot(required_name_forms) == nullptr;
 }
 } // namespace names
 

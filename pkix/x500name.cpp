@@ -58,8 +58,8 @@ static_assert(is_sound(components));
 
 // AttributeTypeAndValue ::= SEQUENCE { type, value }, the same record without what X.501 adds.
 bool is_plain(const Record &record) {
-    return record.slots[values_with_context] == nullptr &&
-           kovra_asn1_boolean_istrue(record.slots[primary_distinguished]) == 1;
+    return record.slot(values_with_context) == nullptr &&
+           kovra_asn1_boolean_istrue(record.slot(primary_distinguished)) == 1;
 }
 } // namespace type_and_value
 

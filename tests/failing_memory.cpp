@@ -10,11 +10,12 @@ namespace {
 std::atomic<int64_t> live = 0;
 thread_local int64_t room = INT64_MAX;
 thread_local bool failed = false;
+thread_local bool once = false;
 
 bool is_refused() {
     if (room == INT64_MAX || room-- > 0)
         return false;
-    room = 0;
+    room = once ? INT64_MAX : 0;
     return failed = true;
 }
 
@@ -57,8 +58,9 @@ bool is_memory_watched() {
 #endif
 }
 
-ScarceMemory::ScarceMemory(int64_t good) {
+ScarceMemory::ScarceMemory(int64_t good, bool fails_once) {
     room = good;
+    once = fails_once;
     failed = false;
 }
 

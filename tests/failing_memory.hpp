@@ -13,10 +13,10 @@ int64_t live_blocks();
 // False where the libraries cannot be given another allocator, which is so for a DLL.
 bool is_memory_watched();
 
-// While it lives, allocations of this thread fail from the one behind the first `good` on.
+// While it lives, allocations of this thread fail from the one behind the first `good` on, or only that one.
 class ScarceMemory {
 public:
-    explicit ScarceMemory(int64_t good);
+    explicit ScarceMemory(int64_t good, bool fails_once = false);
     ~ScarceMemory();
     ScarceMemory(const ScarceMemory &) = delete;
     ScarceMemory &operator=(const ScarceMemory &) = delete;
@@ -25,7 +25,7 @@ public:
 
 // Runs `action` with room for no allocation, one, two ... until it needs no more; each run must leave nothing behind.
 // `action` returns whether it succeeded, which it must as soon as nothing fails.
-template <class Action> void fail_each_allocation(Action action) {
+template <class Action> void fail_each_allocation(Action action, bool fails_once = false) {
     if (!is_memory_watched())
         return;
     for (int64_t good = 0;; ++good) {
@@ -33,7 +33,7 @@ template <class Action> void fail_each_allocation(Action action) {
         bool is_done = false;
         bool has_failed = false;
         {
-            const ScarceMemory scarce(good);
+            const ScarceMemory scarce(good, fails_once);
             is_done = action();
             has_failed = ScarceMemory::has_failed();
         }

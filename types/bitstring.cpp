@@ -149,6 +149,7 @@ constexpr Operations bit_string_operations = {
     .encode = encode_bit_string,
     .decode_content = decode_bit_string_content,
     .decode = decode_bit_string,
+    .decode_entered = decode_bit_string_content,
     .records_reserve = leaf_reserve<2 * sizeof(BitString)>,
 };
 

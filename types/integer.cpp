@@ -38,7 +38,7 @@ Result encode_integer_content(Encoder &encoder, const Type &, Value *value, int3
     return encoder.put(here(), octets_of(*integer), integer->octets.length);
 }
 
-Result decode_integer_content(Decoder &decoder, const Type &, const Element &element, Value *&out) {
+[[gnu::noinline]] Result decode_other_integer_content(Decoder &decoder, const Element &element, Value *&out) {
     if (const Result result = enter_primitive(decoder, here(), element); result != success)
         return result;
     if (element.length < 1)
@@ -53,6 +53,18 @@ Result decode_integer_content(Decoder &decoder, const Type &, const Element &ele
     // Accepted and kept as it is: the entry is a warning.
     if (element.length > 1 && is_redundant(*decoder.at(begin), *decoder.at(begin + 1)))
         decoder.warn(here(), code::not_minimal_integer);
+    out = integer;
+    return success;
+}
+
+Result decode_integer_content(Decoder &decoder, const Type &, const Element &element, Value *&out) {
+    Octets octets;
+    const bool is_minimal =
+        decoder.reach() > 1 && (element.length == 1 || !is_redundant(decoder.next()[0], decoder.next()[1]));
+    Integer *integer = is_minimal ? decoder.take<Integer>(element, octets) : nullptr;
+    if (integer == nullptr)
+        return decode_other_integer_content(decoder, element, out);
+    integer->octets = octets;
     out = integer;
     return success;
 }
@@ -80,6 +92,7 @@ constexpr Operations integer_operations = {
     .content_length = integer_content_length,
     .encode_content = encode_integer_content,
     .decode_content = decode_integer_content,
+    .decode_entered = decode_integer_content,
     .records_reserve = leaf_reserve<2 * sizeof(Integer)>,
 };
 

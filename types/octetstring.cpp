@@ -114,7 +114,7 @@ Result encode_character_string(Encoder &encoder, const Type &type, Value *value)
     return encode_string_content(encoder, type, value, length);
 }
 
-Result decode_string_content(Decoder &decoder, const Type &, const Element &element, Value *&out) {
+[[gnu::noinline]] Result decode_string_segments(Decoder &decoder, const Element &element, Value *&out) {
     if (const Result result = enter(decoder, here()); result != success)
         return result;
     auto *string = new_record<String>(decoder.arena());
@@ -125,6 +125,16 @@ Result decode_string_content(Decoder &decoder, const Type &, const Element &elem
     if (result == success)
         out = string;
     return result;
+}
+
+Result decode_string_content(Decoder &decoder, const Type &, const Element &element, Value *&out) {
+    Octets octets;
+    auto *string = decoder.take<String>(element, octets);
+    if (string == nullptr)
+        return decode_string_segments(decoder, element, out);
+    string->content.octets = octets;
+    out = string;
+    return success;
 }
 
 Result decode_octet_string(Decoder &decoder, const Type &type, Value *&out) {
@@ -178,6 +188,7 @@ constexpr Operations octet_string_operations = {
     .encode = encode_octet_string,
     .decode_content = decode_string_content,
     .decode = decode_octet_string,
+    .decode_entered = decode_string_content,
     .records_reserve = leaf_reserve<2 * sizeof(String)>,
 };
 

@@ -2,6 +2,7 @@
 
 #include "kovra/asn1_oid.h"
 
+#include <bit>
 #include <charconv>
 #include <cstring>
 
@@ -33,36 +34,45 @@ Result encode_oid_content(Encoder &encoder, const Type &, Value *value, int32_t 
     return encoder.put(here(), oid->octets.data(*oid->arena), oid->octets.length);
 }
 
-// Calls visit(subidentifier) with each that is complete: octets of an unfinished one at the end stay in the content
-// and are not part of the text. False when one does not fit 64 bits or begins with a redundant 80.
-template <class Visit> bool for_each_subidentifier(const uint8_t *octets, uint32_t length, Visit visit) {
+// Can a text be made? No subidentifier begins with a redundant 80 or does not fit 64 bits. Octets of an unfinished one
+// at the end stay in the content and are not part of the text.
+bool has_text(const uint8_t *octets, uint32_t length) {
     uint64_t value = 0;
     uint32_t begin = 0;
     bool fits = true;
     for (uint32_t i = 0; i < length; ++i) {
-        if (value >= uint64_t{1} << 57)
-            fits = false;
+        fits = fits && value < uint64_t{1} << 57;
         value = value << 7 | (octets[i] & 0x7FU);
         if (octets[i] >= 0x80)
             continue;
         if (!fits || octets[begin] == 0x80)
             return false;
-        visit(value);
         value = 0;
         begin = i + 1;
     }
     return true;
 }
 
-// Can a text be made? Where no octet is 80 and none has room for ten, no subidentifier begins with 80 or is too large.
-bool has_text(const uint8_t *octets, uint32_t length) {
-    constexpr uint32_t surely_fits = 9;
-    if (length <= surely_fits && std::memchr(octets, 0x80, length) == nullptr)
-        return true;
-    return for_each_subidentifier(octets, length, [](uint64_t) {});
+// The same told at a glance, of which false says nothing: no octet is 80, and no subidentifier has room to be too
+// large.
+bool surely_has_text(const uint8_t *octets, int32_t length, uint32_t reach) {
+    constexpr int32_t longest = 9;
+    constexpr uint64_t every = 0x0101010101010101;
+    if (std::endian::native != std::endian::little || length > longest || reach < longest)
+        return false;
+    uint64_t word = 0;
+    std::memcpy(&word, octets, sizeof word);
+    if (length < static_cast<int32_t>(sizeof word))
+        word |= ~uint64_t{0} << (8 * (length & 7));
+    else if (octets[longest - 1] == 0x80)
+        return false;
+    // The classic test for a zero octet, on the octets with their highest bit turned.
+    word ^= every * 0x80;
+    return ((word - every) & ~word & every * 0x80) == 0;
 }
 
-Result decode_oid_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
+[[gnu::noinline]] Result decode_long_oid_content(Decoder &decoder, const Type &type, const Element &element,
+                                                 Value *&out) {
     if (const Result result = enter_primitive(decoder, here(), element); result != success)
         return result;
     if (element.length < 1)
@@ -81,8 +91,27 @@ Result decode_oid_content(Decoder &decoder, const Type &type, const Element &ele
     return success;
 }
 
+Result decode_oid_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
+    Octets octets;
+    if (surely_has_text(decoder.next(), element.length, decoder.reach()))
+        if (auto *oid = decoder.take<ObjectIdentifier>(element, octets); oid != nullptr) {
+            oid->octets = octets;
+            oid->relative = type.number == KOVRA_ASN1_TYPE_RELATIVE_OID;
+            out = oid;
+            return success;
+        }
+    return decode_long_oid_content(decoder, type, element, out);
+}
+
+// Most arcs have one digit or two.
 char *put_number(char *out, uint64_t number) {
-    return std::to_chars(out, out + max_arc_digits, number).ptr;
+    if (number >= 100)
+        return std::to_chars(out, out + max_arc_digits, number).ptr;
+    const auto digits = static_cast<uint32_t>(number);
+    if (digits >= 10)
+        *out++ = static_cast<char>('0' + digits / 10);
+    *out++ = static_cast<char>('0' + digits % 10);
+    return out;
 }
 
 // The dotted text, in the arena of the record; null when memory is short.
@@ -95,19 +124,26 @@ const char *text_of(ObjectIdentifier &oid) {
     if (text == nullptr)
         return nullptr;
     char *end = text;
-    bool is_first = true;
-    for_each_subidentifier(octets, oid.octets.length, [&](uint64_t value) {
-        if (is_first && !oid.relative) {
-            const uint64_t root = value < 40 ? 0 : value < 80 ? 1 : 2;
-            end = put_number(end, root);
-            value -= root * 40;
-            is_first = false;
-        }
-        if (!is_first)
+    uint64_t value = 0;
+    bool is_root = !oid.relative;
+    // What cannot be a text was refused when the record was made.
+    for (uint32_t i = 0; i < oid.octets.length; ++i) {
+        value = value << 7 | (octets[i] & 0x7FU);
+        if (octets[i] >= 0x80)
+            continue;
+        if (end != text)
             *end++ = '.';
-        is_first = false;
+        if (is_root) {
+            // The first subidentifier holds two arcs.
+            const uint32_t root = value < 40 ? 0 : value < 80 ? 1 : 2;
+            *end++ = static_cast<char>('0' + root);
+            *end++ = '.';
+            value -= root * 40;
+            is_root = false;
+        }
         end = put_number(end, value);
-    });
+        value = 0;
+    }
     *end = '\0';
     return oid.text = text;
 }
@@ -194,6 +230,7 @@ constexpr Operations object_identifier_operations = {
     .content_length = oid_content_length,
     .encode_content = encode_oid_content,
     .decode_content = decode_oid_content,
+    .decode_entered = decode_oid_content,
     .records_reserve = leaf_reserve<2 * sizeof(ObjectIdentifier)>,
 };
 

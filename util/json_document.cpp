@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <new>
 
+#include "util/os_memory.hpp"
+
 namespace kovra::util {
 
 namespace {
@@ -10,7 +12,7 @@ namespace {
 constexpr const char *module = "UTIL_JSON";
 constexpr size_t alignment = 8;
 constexpr uint32_t first_slab = 512;
-constexpr uint32_t largest_slab = uint32_t{1024} * 1024;
+constexpr uint32_t largest_slab = uint32_t{32} * 1024 * 1024;
 constexpr size_t name_slots = 64;
 // A document of fewer members copies their names.
 constexpr uint32_t names_shared_from = 8;
@@ -90,6 +92,7 @@ void *Document::allocate_in_new_slab(size_t size) {
     auto *slab = static_cast<Slab *>(kovra_malloc(whole, module, __LINE__));
     if (slab == nullptr)
         return nullptr;
+    use_large_pages(slab, whole);
     slab->next = slabs_;
     slabs_ = slab;
     slab_size_ = std::min(slab_size_ * 2, largest_slab);

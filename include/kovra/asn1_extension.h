@@ -6,11 +6,11 @@
  * Extensions, GeneralNames and the other lists below are lists (asn1_list.h) of their element type.
  *
  * A GeneralName (type 63) is a choice of the alternatives 0 to 8, the number being the context tag. Decoding: 0x102e5;
- * 0x1020a for another class or tag; 0x102e7; 0x1026a for a primitive directoryName; the decode code of the
- * alternative's type on top of what it recorded, for directoryName 0x10285; 0x1020b or 0x102e9 when the Name does not
- * fill its tag. Encoding: 0x102ea when the alternative has no length, then as a tagged component, with 0x10284 for
- * directoryName. A DisplayText (type 71) is a tag and octets, as a DirectoryString (asn1_attribute.h). The content of a
- * choice alone cannot be decoded (0x1026d). */
+ * 0x1020a for another class; 0x102e7; 0x1020a for a number above 8; 0x1026a for a primitive directoryName; the decode
+ * code of the alternative's type on top of what it recorded, for directoryName 0x10285; 0x1020b or 0x102e9 when the
+ * Name does not fill its tag. Encoding: 0x102ea when the alternative has no length, then as a tagged component, with
+ * 0x10284 for directoryName. A DisplayText (type 71) is a tag and octets, as a DirectoryString (asn1_attribute.h). The
+ * content of a choice alone cannot be decoded (0x1026d). */
 #ifndef KOVRA_ASN1_EXTENSION_H
 #define KOVRA_ASN1_EXTENSION_H
 

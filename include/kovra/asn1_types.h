@@ -134,8 +134,18 @@
 #define KOVRA_ASN1_TYPE_OLD_CERT_THUMBPRINTS 91
 #define KOVRA_ASN1_TYPE_REVOKED_CERTIFICATE 92
 
+/* The records of a certificate store, asn1_certstore.h.
+ * CertStore ::= SEQUENCE OF CertWithAttributes */
+#define KOVRA_ASN1_TYPE_PRIVATE_KEY_ATTRIBUTE 93
+#define KOVRA_ASN1_TYPE_STORE_ATTRIBUTE 94
+#define KOVRA_ASN1_TYPE_STORE_ATTRIBUTE_LIST 95
+#define KOVRA_ASN1_TYPE_CERT_WITH_ATTRIBUTES 96
+#define KOVRA_ASN1_TYPE_CERT_STORE 97
+#define KOVRA_ASN1_TYPE_STORE_KEY_ID 98
+
 /* Keys, and parameters of algorithms (PKCS #1, #3, #5, #8: RFC 8017, 8018, 5958; RFC 2268, 2040).
- * PrivateKeyInfo ::= SEQUENCE { version, privateKeyAlgorithm, privateKey, attributes [0] IMPLICIT OPTIONAL } */
+ * PrivateKeyInfo ::= SEQUENCE { version, privateKeyAlgorithm, privateKey, attributes [0] IMPLICIT OPTIONAL,
+ *                              publicKey [1] IMPLICIT OPTIONAL } */
 #define KOVRA_ASN1_TYPE_RSA_PRIVATE_KEY 99
 #define KOVRA_ASN1_TYPE_RSAES_OAEP_PARAMS 100
 #define KOVRA_ASN1_TYPE_RSASSA_PSS_PARAMS 101
@@ -243,6 +253,16 @@
 #define KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES_1 198
 #define KOVRA_ASN1_TYPE_SIGNING_CERTIFICATE 199
 #define KOVRA_ASN1_TYPE_SIGNING_CERTIFICATE_V2 200
+
+/* Keys of elliptic curves and SM2, enveloped key pairs, asn1_ecc.h (RFC 3279, RFC 5915, GM/T 0009).
+ * ECPrivateKey ::= SEQUENCE { version, privateKey, parameters [0] OPTIONAL, publicKey [1] OPTIONAL } */
+#define KOVRA_ASN1_TYPE_ECPK_PARAMETERS 201
+#define KOVRA_ASN1_TYPE_EC_PRIVATE_KEY 202
+#define KOVRA_ASN1_TYPE_SM2_CIPHER 203
+#define KOVRA_ASN1_TYPE_SM2_ENVELOPED_KEY 204
+#define KOVRA_ASN1_TYPE_RSA_ENVELOPED_KEY_PAIR 205
+#define KOVRA_ASN1_TYPE_INNER_ENVELOPED_KEY_PAIR 206
+#define KOVRA_ASN1_TYPE_ENVELOPED_KEY_PAIR 207
 
 /* One past the highest type identifier. */
 #define KOVRA_ASN1_TYPE_COUNT 208

@@ -20,12 +20,15 @@
  * too. One that was built keeps what is written first. KEPT OCTETS ARE NEVER REFRESHED: a later change of the order, by
  * sorting, does not show. Other structures keep their components and write lengths in DER.
  *
- * Codes of decoding content: 0x10002; 0x1026a (primitive); 0x10001 (a length below -1); 0x10000; for each component
- * 0x102e5 (identifier), 0x1020a when the identifier begins no component that may stand there, 0x102e7 (length), and
- * otherwise the decode code of the component's type on top of what it recorded; 0x1020b when the components do not end
- * where the length says; 0x102e9 (no end-of-contents at the end of indefinite length). Decoding the whole of a type
- * that keeps its encoding: the entries of reading the element with 0x10236 on top, 0x1020a for anything but a
- * constructed SEQUENCE, then those of the content.
+ * Codes of decoding content: 0x10002; 0x1026a (primitive); 0x10001 (a length below -1); 0x10000; then for each
+ * component. One that is required, has no tag and stands first or behind a required one is decoded whole: the decode
+ * code of its type on top of what that recorded, 0x1020a for another tag included. Of all others the identifier is read
+ * first: 0x102e5 when it cannot be read, 0x1020a alone when it begins no component that may stand there, form included,
+ * 0x102e7 (length), then the decode code of the component's type on top of what the content recorded. 0x1020b when a
+ * component ends behind the declared length, or the last one not at its end; 0x102e9 when there is no end-of-contents
+ * at the end of indefinite length. Decoding the whole of a type that keeps its encoding: the entries of reading the
+ * element with 0x10236 on top, 0x1020a for anything but a constructed SEQUENCE, then those of the content, which sees
+ * no octets behind the element (0x10105).
  *
  * Codes of encoding content: 0x10002; 0x10001 (content_length below -1); for each component 0x102ea (the length of a
  * tagged one cannot be had), 0x102e4, 0x102e6, or the encode code of the component's type on top of what it recorded;

@@ -1,0 +1,748 @@
+// Constructors and getters of names, certificates, extensions, CRLs and requests.
+#include <functional>
+#include <set>
+
+#include "tests/failing_memory.hpp"
+#include "tests/pkix_testing.hpp"
+
+#if defined(__SANITIZE_ADDRESS__)
+// A BOOLEAN of each call with a length stays behind, which callers are told.
+extern "C" const char *__lsan_default_suppressions() {
+    return "leak:kovra_x509basicconstraints_new";
+}
+#endif
+
+namespace kovra::test {
+namespace {
+
+using Arguments = std::vector<const kovra_asn1_value *>;
+using Constructor = std::function<kovra_asn1_value *(const Arguments &)>;
+using Get = kovra_asn1_value *(*)(const kovra_asn1_value *);
+using Has = int32_t (*)(const kovra_asn1_value *);
+
+template <class... Types, size_t... index>
+Constructor spread(kovra_asn1_value *(*function)(Types...), std::index_sequence<index...>) {
+    return [function](const Arguments &arguments) {
+        EXPECT_EQ(arguments.size(), sizeof...(Types));
+        return function(arguments[index]...);
+    };
+}
+template <class... Types> Constructor with(kovra_asn1_value *(*function)(Types...)) {
+    return spread(function, std::index_sequence_for<Types...>());
+}
+
+// An argument: type; `?` when it may be absent, `=` when it has a default; octets.
+struct Argument {
+    uint32_t type;
+    char presence;
+    std::string data;
+    Get get;
+    Has has = nullptr;
+};
+
+struct Row {
+    uint32_t type;
+    Constructor make;
+    std::string full; // what all arguments are written as
+    std::string bare; // what it is without those that may be absent; "-" when it cannot be
+    std::vector<Argument> arguments;
+};
+
+// clang-format off
+std::vector<Row> rows() {
+    return {
+        {28, with(kovra_x500context_new), "30({oid} 31({null}) 01 01 FF)", "30({oid} 31({null}))",
+         {{6, ' ', "{oid}", kovra_x500context_gettype}, {27, ' ', "31({null})", kovra_x500context_getvalues},
+          {1, '=', "01 01 FF", kovra_x500context_getfallback}}},
+        {29, with(kovra_x500attrtypedistval_new), "30({oid} {text} 01 01 00 31(30({ctxs})))", "30({oid} {text})",
+         {{6, ' ', "{oid}", kovra_x500attrtypedistval_gettype}, {23, ' ', "{text}", kovra_x500attrtypedistval_getvalue},
+          {1, '=', "01 01 00", kovra_x500attrtypedistval_getprimedist},
+          {142, '?', "31(30({ctxs}))", kovra_x500attrtypedistval_getcontext, kovra_x500attrtypedistval_hascontext}}},
+        {30, with(kovra_pkixattrtypeval_new), "{atv}", "{atv}",
+         {{6, ' ', "{oid}", kovra_x500attrtypedistval_gettype},
+          {23, ' ', "0C 01 61", kovra_x500attrtypedistval_getvalue}}},
+        {135, with(kovra_x500dnvalueswithcontextitem_new), "30(A0({int}) {ctxs})", "30({ctxs})",
+         {{23, '?', "{int}", kovra_x500dnvalueswithcontextitem_getdistvalue, kovra_x500dnvalueswithcontextitem_hasdistvalue},
+          {141, ' ', "{ctxs}", kovra_x500dnvalueswithcontextitem_getcontexts}}},
+        {33, with(kovra_x509algoid_new_without_param), "30({oid})", "30({oid})",
+         {{6, ' ', "{oid}", kovra_x509algoid_getalgo}}},
+        {34, with(kovra_x509validity_new), "{valid}", "{valid}",
+         {{20, ' ', "{time}", kovra_x509validity_getnotbefore},
+          {20, ' ', "18(\"20250102030405Z\")", kovra_x509validity_getnotafter}}},
+        {35, with(kovra_x509subjpubkeyinfo_new), "{spki}", "{spki}",
+         {{33, ' ', "{alg}", kovra_x509subjpubkeyinfo_getalgo}, {3, ' ', "{bits}", kovra_x509subjpubkeyinfo_getpubkey}}},
+        {36, with(kovra_x509extension_new), "30({oid} 01 01 FF 04 02 05 00)", "30({oid} 04 02 05 00)",
+         {{6, ' ', "{oid}", kovra_x509extension_getid}, {1, '=', "01 01 FF", kovra_x509extension_getcritical},
+          {4, ' ', "04 02 05 00", kovra_x509extension_getvalue}}},
+        {38, with(kovra_x509TBSCertificate_new), "30(A0(02 01 02) {body} 81 02 00 AA 82 01 00 A3({exts}))", "{tbs}",
+         {{2, '=', "02 01 02", nullptr}, {2, ' ', "{int}", nullptr}, {33, ' ', "{alg}", nullptr},
+          {32, ' ', "{name}", nullptr}, {34, ' ', "{valid}", nullptr}, {32, ' ', "{name}", nullptr},
+          {35, ' ', "{spki}", nullptr}, {3, '?', "{bits}", nullptr}, {3, '?', "03 01 00", nullptr},
+          {37, '?', "{exts}", nullptr}}},
+        {39, with(kovra_x509pubkeycert_create), "{cert}", "{cert}",
+         {{38, ' ', "{tbs}", nullptr}, {3, ' ', "{bits}", kovra_x509pubkeycert_getsignvalue}}},
+        {41, with(kovra_x509crl_create), "30({clist} {sign})", "30({clist} {sign})",
+         {{40, ' ', "{clist}", nullptr}, {3, ' ', "{bits}", kovra_x509crl_getsignvalue}}},
+        {45, with(kovra_pkcs10certreqinfo_new), "30(02 01 00 {name} {spki} A0({attr}))", "30(02 01 00 {name} {spki} A0({attr}))",
+         {{2, ' ', "02 01 00", nullptr}, {32, ' ', "{name}", nullptr}, {35, ' ', "{spki}", nullptr},
+          {44, ' ', "31({attr})", nullptr}}},
+        {46, with(kovra_pkcs10certreq_create), "30({info} {sign})", "30({info} {sign})",
+         {{45, ' ', "{info}", nullptr}, {33, ' ', "{alg}", kovra_pkcs10certreq_getsignalgo},
+          {3, ' ', "{bits}", kovra_pkcs10certreq_getsignvalue}}},
+        {50, with(kovra_x500telexnum_new), "30(13(\"1\") 13(\"2\") 13(\"3\"))", "30(13(\"1\") 13(\"2\") 13(\"3\"))",
+         {{11, ' ', "13(\"1\")", kovra_x500telexnum_gettelexnum}, {11, ' ', "13(\"2\")", kovra_x500telexnum_getcoutrycode},
+          {11, ' ', "13(\"3\")", kovra_x500telexnum_getanswerback}}},
+        {51, with(kovra_x500nameandoptuid_new), "30({name} {bits})", "30({name})",
+         {{32, ' ', "{name}", kovra_x500nameandoptuid_getname}, {3, '?', "{bits}", kovra_x500nameandoptuid_getuid}}},
+        {55, with(kovra_x509certpair_new), "30(A0({cert}) A1({cert}))", "-",
+         {{39, '?', "{cert}", kovra_x509certpair_getissuedtothisca}, {39, '?', "{cert}", kovra_x509certpair_getissuedbythisca}}},
+        {61, with(kovra_instanceoftypeid_new), "28({oid} A0({int}))", "28({oid} A0({int}))",
+         {{6, ' ', "{oid}", kovra_instanceoftypeid_getid}, {23, ' ', "{int}", kovra_instanceoftypeid_gettype}}},
+        {63, with(kovra_x509generalname_new_rfc822name), "81(\"a@b\")", "81(\"a@b\")", {{14, ' ', "16(\"a@b\")", kovra_x509generalname_getrfc}}},
+        {63, with(kovra_x509generalname_new_dnsname), "{dns}", "{dns}", {{14, ' ', "16(\"a.example\")", kovra_x509generalname_getdnsname}}},
+        {63, with(kovra_x509generalname_new_dirname), "A4({name})", "A4({name})", {{32, ' ', "{name}", kovra_x509generalname_getdirname}}},
+        {63, with(kovra_x509generalname_new_ediname), "A5(A1({text}))", "A5(A1({text}))", {{62, ' ', "30(A1({text}))", kovra_x509generalname_getediname}}},
+        {63, with(kovra_x509generalname_new_uri), "86(\"u:\")", "86(\"u:\")", {{14, ' ', "16(\"u:\")", kovra_x509generalname_geturi}}},
+        {63, with(kovra_x509generalname_new_ip), "87 04 7F 00 00 01", "87 04 7F 00 00 01", {{4, ' ', "04 04 7F 00 00 01", kovra_x509generalname_getip}}},
+        {63, with(kovra_x509generalname_new_regid), "88 02 2A 03", "88 02 2A 03", {{6, ' ', "{oid}", kovra_x509generalname_getregid}}},
+        {65, with(kovra_x509akid_new), "30(80 01 41 A1({dns}) 82 01 05)", "30 00",
+         {{4, '?', "04 01 41", kovra_x509akid_getkeyid}, {64, '?', "{gns}", kovra_x509akid_getissuerissuer},
+          {2, '?', "{int}", kovra_x509akid_getissuercertsn}}},
+        {67, with(kovra_x509privkeyperiod_new), "30(80(\"20250102030405Z\") 81(\"20260102030405Z\"))", "-",
+         {{22, '?', "18(\"20250102030405Z\")", kovra_x509privkeyperiod_getnotbefore},
+          {22, '?', "18(\"20260102030405Z\")", kovra_x509privkeyperiod_getnotafter}}},
+        {68, with(kovra_x509polqualifierinfo_new), "30({oid} {text})", "30({oid})",
+         {{6, ' ', "{oid}", kovra_x509polqualifierinfo_getid}, {23, '?', "{text}", kovra_x509polqualifierinfo_getqualifier}}},
+        {69, with(kovra_x509policyinfo_new), "30({oid} 30({alg}))", "30({oid})",
+         {{6, ' ', "{oid}", kovra_x509policyinfo_getid}, {137, '?', "30({alg})", kovra_x509policyinfo_getqualifiers}}},
+        {72, with(kovra_pkixnoticeref_new), "30({text} 30({int}))", "30({text} 30({int}))",
+         {{71, ' ', "{text}", kovra_pkixnoticeref_getorg}, {138, ' ', "30({int})", kovra_pkixnoticeref_getnums}}},
+        {73, with(kovra_pkixusernotice_new), "30(30({text} 30({int})) 1A(\"t\"))", "30 00",
+         {{72, '?', "30({text} 30({int}))", kovra_pkixusernotice_getref}, {71, '?', "1A(\"t\")", kovra_pkixusernotice_gettext}}},
+        {139, with(kovra_x509policymapping_new), "30({oid} 06 01 2A)", "30({oid} 06 01 2A)",
+         {{6, ' ', "{oid}", kovra_x509policymapping_getissuerpolicy}, {6, ' ', "06 01 2A", kovra_x509policymapping_getsubjectpolicy}}},
+        {77, with(kovra_x509gensubtree_new), "30({dns} 80 01 01 81 01 05)", "30({dns})",
+         {{63, ' ', "{dns}", kovra_x509gensubtree_getbase}, {2, '=', "02 01 01", kovra_x509gensubtree_getmin},
+          {2, '?', "{int}", kovra_x509gensubtree_getmax}}},
+        {79, with(kovra_x509nameforms_new), "30(80 02 00 AA A1({oid}))", "30 00",
+         {{3, '?', "{bits}", kovra_x509nameforms_getbasic}, {66, '?', "30({oid})", kovra_x509nameforms_getother}}},
+        {80, with(kovra_x509namecons_new), "30(A0(30({dns})) A1(30(81 00)) A2(80 02 00 AA))", "30 00",
+         {{78, '?', "30(30({dns}))", kovra_x509namecons_getpermit}, {78, '?', "30(30(81 00))", kovra_x509namecons_getexclude},
+          {79, '?', "30(80 02 00 AA)", kovra_x509namecons_getreqforms}}},
+        {82, with(kovra_x509polcons_new), "30(80 01 05 81 01 06)", "30 00",
+         {{2, '?', "{int}", kovra_x509polcons_getreqexppol}, {2, '?', "02 01 06", kovra_x509polcons_getinhibitpolmap}}},
+        {83, with(kovra_x509distpointname_new_fullname), "A0({dns})", "A0({dns})", {{64, ' ', "{gns}", kovra_x509distpointname_getfullname}}},
+        {83, with(kovra_x509distpointname_new_relname), "A1({atv})", "A1({atv})", {{31, ' ', "{rdn}", kovra_x509distpointname_getrelname}}},
+        {84, with(kovra_x509distpoint_new), "30(A0(A0({dns})) 81 02 00 AA A2({dns}))", "30 00",
+         {{83, '?', "A0({dns})", kovra_x509distpoint_getname}, {3, '?', "{bits}", kovra_x509distpoint_getreason},
+          {64, '?', "{gns}", kovra_x509distpoint_getcrlissuer}}},
+        {86, with(kovra_pkixaccessdesp_new), "30({oid} {dns})", "30({oid} {dns})",
+         {{6, ' ', "{oid}", kovra_pkixaccessdesp_getmethod}, {63, ' ', "{dns}", kovra_pkixaccessdesp_getlocate}}},
+        {88, with(kovra_pkixidp_new), "30(A0(A0({dns})) 81 01 FF 83 02 00 AA 84 01 FF)", "30 00",
+         {{83, '?', "A0({dns})", kovra_pkixidp_getdpname}, {1, '=', "01 01 FF", kovra_pkixidp_getonlyusercert},
+          {1, '=', "01 01 00", kovra_pkixidp_getonlycacert}, {3, '?', "{bits}", kovra_pkixidp_getonlysomereason},
+          {1, '=', "01 01 FF", kovra_pkixidp_getindirectCRL}}},
+        // The two flags in the other order than their components.
+        {89, with(kovra_x509aaidp_new), "30(A0(A0({dns})) 81 02 00 AA 82 01 FF 84 01 00 85 01 00)", "30 00",
+         {{83, '?', "A0({dns})", kovra_x509aaidp_getdpname}, {1, '=', "01 01 00", kovra_x509aaidp_getcontaacert},
+          {1, '=', "01 01 FF", kovra_x509aaidp_getcontuserattrcert}, {1, '=', "01 01 00", kovra_x509aaidp_getcontsoacert},
+          {3, '?', "{bits}", kovra_x509aaidp_getonlysomereason}, {1, '=', "01 01 FF", kovra_x509aaidp_getindirectCRL}}},
+        {92, with(kovra_x509revcertinfo_new), "30({int} {time} {exts})", "{entry}",
+         {{2, ' ', "{int}", kovra_x509revcertinfo_getserilano}, {20, ' ', "{time}", kovra_x509revcertinfo_getrevdate},
+          {37, '?', "{exts}", kovra_x509revcertinfo_getexts, kovra_x509revcertinfo_hasexts}}},
+    };
+}
+// clang-format on
+
+Value noted_value(uint32_t type, std::string_view text) {
+    return decode(type, noted(text)).value;
+}
+
+std::string noted_hex(std::string_view text) {
+    return hex(noted(text));
+}
+
+// A value borrowed from another, as hexadecimal; "-" for null. Releasing it does nothing.
+std::string borrowed(uint32_t type, kovra_asn1_value *value) {
+    if (value == nullptr)
+        return "-";
+    kovra_asn1_value_free(type, value);
+    return hex(encode(type, value).octets);
+}
+
+bool is_list(uint32_t type) {
+    for (uint32_t list : {31U, 37U, 44U, 64U, 66U, 78U, 137U, 138U, 141U, 142U})
+        if (type == list)
+            return true;
+    return false;
+}
+
+TEST(PkixBuild, EveryConstructorCopiesWhatItIsGiven) {
+    for (const Row &row : rows()) {
+        SCOPED_TRACE("type " + std::to_string(row.type) + ": " + row.full);
+        const int64_t before = live_blocks();
+        std::vector<Value> values;
+        Arguments all, needed;
+        for (const Argument &argument : row.arguments) {
+            values.push_back(noted_value(argument.type, argument.data));
+            all.push_back(values.back().get());
+            needed.push_back(argument.presence == ' ' ? values.back().get() : nullptr);
+        }
+        {
+            Value made(row.type, row.make(all));
+            for (const Argument &argument : row.arguments) {
+                if (argument.get != nullptr) {
+                    EXPECT_EQ(borrowed(argument.type, argument.get(made.get())), noted_hex(argument.data));
+                    EXPECT_EQ(argument.get(nullptr), nullptr);
+                }
+                if (argument.has != nullptr) {
+                    EXPECT_EQ(argument.has(made.get()), 1);
+                    EXPECT_EQ(argument.has(nullptr), 0);
+                }
+            }
+            EXPECT_EQ(kovra_asn1_length(row.type, made.get()), size_of(noted(row.full)));
+            EXPECT_EQ(encoding(made), noted_hex(row.full));
+        }
+        Value bare(row.type, row.make(needed));
+        EXPECT_EQ(bare ? encoding(bare) : "-", row.bare == "-" ? "-" : noted_hex(row.bare));
+        for (const Argument &argument : row.arguments) {
+            if (argument.get != nullptr && argument.presence != ' ' && bare) {
+                EXPECT_EQ(argument.get(bare.get()) != nullptr, argument.presence == '=');
+            }
+            if (argument.has != nullptr) {
+                EXPECT_EQ(argument.has(bare.get()), 0);
+            }
+        }
+        // One argument is null or of another kind.
+        {
+            const Value boolean = decoded(1, "01 01 00"), integer = decoded(2, "02 01 05"),
+                        list = decoded(24, "30 02 05 00");
+            for (size_t i = 0; i < all.size(); ++i) {
+                const Argument &argument = row.arguments[i];
+                Arguments changed = all;
+                changed[i] = nullptr;
+                Value made(row.type, row.make(changed));
+                EXPECT_EQ(static_cast<bool>(made), argument.presence != ' ') << "null for argument " << i;
+                if (argument.get != nullptr) {
+                    EXPECT_EQ(argument.get(boolean.get()), nullptr);
+                }
+                for (const Value *other : {&boolean, &integer, &list}) {
+                    changed[i] = other->get();
+                    const bool is_fitting =
+                        argument.type == other->type() ||
+                        (other == &list && !is_list(argument.type) && argument.type >= 24 && argument.type <= 27);
+                    Value odd(row.type, row.make(changed));
+                    EXPECT_EQ(static_cast<bool>(odd), is_fitting) << "argument " << i << " as type " << other->type();
+                }
+            }
+        }
+        // Nothing of the arguments is needed later.
+        Value made(row.type, row.make(all));
+        values.clear();
+        EXPECT_EQ(encoding(made), noted_hex(row.full));
+        made = Value();
+        bare = Value();
+        EXPECT_TRUE(live_blocks() == before || !is_memory_watched());
+    }
+}
+
+TEST(PkixBuild, EveryAllocationOfConstructorsMayFail) {
+    for (const Row &row : rows()) {
+        SCOPED_TRACE("type " + std::to_string(row.type) + ": " + row.full);
+        std::vector<Value> values;
+        Arguments all;
+        for (const Argument &argument : row.arguments) {
+            values.push_back(noted_value(argument.type, argument.data));
+            all.push_back(values.back().get());
+        }
+        fail_each_allocation([&] {
+            Value made(row.type, row.make(all));
+            for (const Argument &argument : row.arguments)
+                if (made && argument.get != nullptr && argument.get(made.get()) == nullptr)
+                    return false;
+            return made && Blob(kovra_asn1_mem_encode(row.type, made.get())) != nullptr;
+        });
+        if (testing::Test::HasFatalFailure())
+            return;
+    }
+}
+
+Value list_of(std::initializer_list<kovra_asn1_value *> elements) {
+    Value list(24, kovra_asn1_list_new());
+    for (kovra_asn1_value *element : elements)
+        EXPECT_EQ(kovra_asn1_list_put(list.get(), element), 1);
+    return list;
+}
+
+std::string as_type(uint32_t type, const Value &value) {
+    return hex(encode(type, value.get()).octets);
+}
+
+kovra_asn1_value *element_of(kovra_asn1_value *list, int32_t index) {
+    kovra_asn1_value *element = nullptr;
+    EXPECT_EQ(kovra_asn1_list_get(list, index, &element), 1);
+    return element;
+}
+
+TEST(PkixBuild, ParametersOfAlgorithms) {
+    const Value oid = noted_value(6, "{oid}"), integer = noted_value(2, "{int}");
+    const Value segmented = noted_value(23, "24[04 01 41]");
+    auto made = [&](uint32_t type, const kovra_asn1_value *parameters) {
+        Value algorithm(33, kovra_x509algoid_new(oid.get(), type, parameters));
+        return algorithm ? encoding(algorithm) + (kovra_x509algoid_isnullparam(algorithm.get()) == 1 ? " NULL" : "")
+                         : "-";
+    };
+    EXPECT_EQ(made(5, nullptr), noted_hex("{alg}") + " NULL");
+    EXPECT_EQ(made(2, integer.get()), noted_hex("30({oid} {int})"));
+    EXPECT_EQ(made(23, segmented.get()), noted_hex("30[{oid} 24[04 01 41]]"));
+    EXPECT_EQ(made(0, nullptr), "-");
+    EXPECT_EQ(made(2, nullptr), "-");
+    EXPECT_EQ(made(2, oid.get()), "-");
+    EXPECT_EQ(made(208, integer.get()), "-");
+    EXPECT_EQ(kovra_x509algoid_new(nullptr, 5, nullptr), nullptr);
+    EXPECT_EQ(kovra_x509algoid_new(integer.get(), 5, nullptr), nullptr);
+    fail_each_allocation([&] { return made(2, integer.get()) != "-"; });
+    for (auto [text, expected] : {std::pair{"{alg}", 1},
+                                  {"30({oid} 05 81 00)", 1},
+                                  {"30({oid})", 0},
+                                  {"30({oid} 05 01 00)", 0},
+                                  {"30({oid} 85 00)", 0},
+                                  {"30({oid} {int})", 0}})
+        EXPECT_EQ(kovra_x509algoid_isnullparam(noted_value(33, text).get()), expected) << text;
+    EXPECT_EQ(kovra_x509algoid_isnullparam(nullptr), 0);
+    EXPECT_EQ(kovra_x509algoid_hasparam(noted_value(33, "{alg}").get()), 1);
+    EXPECT_EQ(kovra_x509algoid_hasparam(noted_value(33, "30({oid})").get()), 0);
+    EXPECT_EQ(kovra_x509algoid_hasparam(nullptr), 0);
+}
+
+TEST(PkixBuild, AnEndOfContentsMarkerIsNoValue) {
+    const Value oid = noted_value(6, "{oid}"), marker = decoded(23, "00 00"), contexts = noted_value(141, "{ctxs}");
+    ASSERT_EQ(kovra_asn1_any_iseoc(marker.get()), 1);
+    EXPECT_EQ(kovra_x500attrtypedistval_new(oid.get(), marker.get(), nullptr, nullptr), nullptr);
+    EXPECT_EQ(kovra_pkixattrtypeval_new(oid.get(), marker.get()), nullptr);
+    EXPECT_EQ(kovra_x500dnvalueswithcontextitem_new(marker.get(), contexts.get()), nullptr);
+    EXPECT_EQ(kovra_instanceoftypeid_new(oid.get(), marker.get()), nullptr);
+}
+
+TEST(PkixBuild, NamesGrow) {
+    Value name(32, kovra_x500name_new());
+    EXPECT_EQ(encoding(name), "3000");
+    Value rdn = noted_value(31, "{rdn}"), other = noted_value(31, "31(30({oid} {int}))");
+    EXPECT_EQ(kovra_x500name_addrdn(name.get(), rdn.get(), 1), 1);
+    EXPECT_EQ(encoding(name), noted_hex("{name}"));
+    EXPECT_EQ(kovra_x500name_addrdn(name.get(), other.get(), 0), 1);
+    other.release();
+    EXPECT_EQ(encoding(name), noted_hex("30({rdn} 31(30({oid} {int})))"));
+    // Octets that were kept are dropped.
+    Value read = noted_value(32, "30[31<{atv}>]");
+    EXPECT_EQ(kovra_x500name_addrdn(read.get(), rdn.get(), -1), 1);
+    EXPECT_EQ(encoding(read), noted_hex("30({rdn} {rdn})"));
+    EXPECT_EQ(kovra_asn1_list_getsize(kovra_x500name_getdn(read.get())), 2);
+    // What is borrowed cannot be taken over, but be copied.
+    kovra_asn1_value *own = element_of(kovra_x500name_getdn(name.get()), 0);
+    EXPECT_EQ(kovra_x500name_addrdn(name.get(), own, 0), 0);
+    EXPECT_EQ(kovra_x500name_addrdn(name.get(), own, 1), 1);
+    EXPECT_EQ(kovra_asn1_list_getsize(kovra_x500name_getdn(name.get())), 3);
+    // A name that a certificate holds grows, and what the certificate writes stays.
+    const Value cert = noted_value(39, "{cert}");
+    EXPECT_EQ(kovra_x500name_addrdn(kovra_x509pubkeycert_getsubject(cert.get()), rdn.get(), 1), 1);
+    EXPECT_EQ(borrowed(32, kovra_x509pubkeycert_getsubject(cert.get())), noted_hex("30({rdn} {rdn})"));
+    EXPECT_EQ(encoding(cert), noted_hex("{cert}"));
+    // Refused arguments change nothing.
+    Value foreign = list_of({noted_value(2, "{int}").release()});
+    const std::string before = encoding(name);
+    EXPECT_EQ(kovra_x500name_addrdn(nullptr, rdn.get(), 1), 0);
+    EXPECT_EQ(kovra_x500name_addrdn(name.get(), nullptr, 1), 0);
+    EXPECT_EQ(kovra_x500name_addrdn(rdn.get(), rdn.get(), 1), 0);
+    EXPECT_EQ(kovra_x500name_addrdn(name.get(), name.get(), 0), 0);
+    EXPECT_EQ(kovra_x500name_addrdn(name.get(), foreign.get(), 1), 0);
+    EXPECT_EQ(encoding(name), before);
+    fail_each_allocation(
+        [&] { return kovra_x500name_addrdn(Value(32, kovra_x500name_new()).get(), rdn.get(), 1) == 1; });
+    // A list of other values is taken over, and then nothing can write the name.
+    EXPECT_EQ(kovra_x500name_addrdn(name.get(), foreign.release(), 0), 1);
+    EXPECT_EQ(encode(32, name.get()).codes, Codes({0x102ea}));
+    EXPECT_EQ(encode_content(32, name.get(), 0).codes, Codes({0x1020b, 0x10248}));
+    EXPECT_EQ(kovra_asn1_length(32, name.get()), -2);
+    EXPECT_EQ(kovra_x500name_getdn(nullptr), nullptr);
+}
+
+TEST(PkixBuild, SortingShowsInWhatIsWrittenNext) {
+    constexpr char small[] = "30({oid} {int})", large[] = "30({oid} {text})";
+    auto record = [](const char *text) {
+        Value read = noted_value(29, text);
+        return kovra_x500attrtypedistval_new(
+            kovra_x500attrtypedistval_gettype(read.get()), kovra_x500attrtypedistval_getvalue(read.get()),
+            kovra_x500attrtypedistval_getprimedist(read.get()), kovra_x500attrtypedistval_getcontext(read.get()));
+    };
+    Value rdn = list_of({record(large), record(small)});
+    EXPECT_EQ(kovra_x500RDN_sort(rdn.get()), 1);
+    EXPECT_EQ(as_type(31, rdn), noted_hex("31(30({oid} {int}) 30({oid} {text}))"));
+    // Values with context: first the contexts of each, then they themselves.
+    constexpr char contexts[] = "30({oid} {int} 31(30(31(30(06 01 2B 31({null})) 30(06 01 2A 31({null})))) 30(31 00)))";
+    constexpr char sorted[] = "30({oid} {int} 31(30(31 00) 30(31(30(06 01 2A 31({null})) 30(06 01 2B 31({null}))))))";
+    Value alone = list_of({record(contexts)});
+    EXPECT_EQ(kovra_x500RDN_sort(alone.get()), 1);
+    EXPECT_EQ(as_type(31, alone), hex(noted(std::string("31(") + sorted + ")")));
+    // In a name that was read the order in memory changes, not what was kept.
+    Value name = noted_value(32, "30(31(30({oid} {text}) 30({oid} {int})) {rdn})");
+    const std::string as_read = encoding(name);
+    EXPECT_EQ(kovra_x500name_sort(name.get()), 1);
+    kovra_asn1_value *first = element_of(element_of(kovra_x500name_getdn(name.get()), 0), 0);
+    EXPECT_EQ(borrowed(29, first), noted_hex(small));
+    EXPECT_EQ(encoding(name), as_read);
+    EXPECT_EQ(kovra_x500name_addrdn(name.get(), alone.release(), 0), 1);
+    EXPECT_EQ(encoding(name),
+              hex(noted(std::string("30(31(30({oid} {int}) 30({oid} {text})) {rdn} 31(") + sorted + "))")));
+    // Attributes keep no octets.
+    Value attribute =
+        noted_value(42, "30({oid} 31({text} {int} {null}) 31(30({int} 31(30(06 01 2B 31({null})) 30(06 01 "
+                        "2A 31({null})))) 30({int} 31 00)))");
+    EXPECT_EQ(kovra_x500attribute_sort(attribute.get()), 1);
+    EXPECT_EQ(encoding(attribute),
+              noted_hex("30({oid} 31({int} {null} {text}) 31(30({int} 31 00) 30({int} 31(30(06 01 2A "
+                        "31({null})) 30(06 01 2B 31({null}))))))"));
+    Value attributes = noted_value(44, "31(30({oid} 31({text} {int})) 30({oid} 31({null})))");
+    EXPECT_EQ(kovra_asn1_pkcs10attributes_sort(attributes.get()), 1);
+    EXPECT_EQ(encoding(attributes), noted_hex("31(30({oid} 31({null})) 30({oid} 31({int} {text})))"));
+    // The second octet decides: the length.
+    Value values = noted_value(42, "30({oid} 31(02 02 00 80 02 01 05))");
+    EXPECT_EQ(kovra_x500attribute_sort(values.get()), 1);
+    EXPECT_EQ(encoding(values), noted_hex("30({oid} 31(02 01 05 02 02 00 80))"));
+
+    Value foreign = list_of({noted_value(2, "{int}").release(), noted_value(2, "{int}").release()});
+    for (kovra_asn1_value *odd : {static_cast<kovra_asn1_value *>(nullptr), foreign.get(), values.get()}) {
+        EXPECT_EQ(kovra_x500RDN_sort(odd), 0);
+        EXPECT_EQ(kovra_x500name_sort(odd), 0);
+        EXPECT_EQ(kovra_asn1_pkcs10attributes_sort(odd), 0);
+    }
+    EXPECT_EQ(kovra_x500attribute_sort(nullptr), 0);
+    fail_each_allocation([&] {
+        Value unsorted = noted_value(44, "31(30({oid} 31({text} {int})) 30({oid} 31({null})))");
+        return unsorted && kovra_asn1_pkcs10attributes_sort(unsorted.get()) == 1;
+    });
+}
+
+TEST(PkixBuild, StringsOfSeveralKinds) {
+    const Value string = decoded(4, "04 02 41 42"), integer = decoded(2, "02 01 05");
+    struct Kind {
+        uint32_t type;
+        kovra_asn1_value *(*make)(int32_t, const kovra_asn1_value *);
+        int32_t (*get_type)(const kovra_asn1_value *, int32_t *);
+        Get get_string;
+        std::set<int32_t> tags;
+    };
+    const Kind kinds[] = {
+        {47, kovra_x500dirstring_new, kovra_x500dirstring_gettype, kovra_x500dirstring_getstring, {12, 19, 20, 28, 30}},
+        {52, kovra_pkcs9string_new, kovra_pkcs9string_gettype, kovra_pkcs9string_getstring, {12, 19, 20, 22, 28, 30}},
+        {71,
+         kovra_pkixdisplaytext_new,
+         kovra_pkixdisplaytext_gettype,
+         kovra_pkixdisplaytext_getstring,
+         {12, 22, 26, 30}}};
+    for (const Kind &kind : kinds) {
+        for (int32_t tag : {-20, -1, 0, 12, 18, 19, 20, 22, 26, 27, 28, 30, 31, 32, 44, 12 + 256, INT32_MIN}) {
+            SCOPED_TRACE(tag);
+            Value made(kind.type, kind.make(tag, string.get()));
+            ASSERT_EQ(static_cast<bool>(made), kind.tags.count(tag) == 1);
+            if (!made)
+                continue;
+            int32_t found = -7;
+            EXPECT_EQ(kind.get_type(made.get(), &found), 1);
+            EXPECT_EQ(found, tag);
+            EXPECT_EQ(borrowed(4, kind.get_string(made.get())), "04024142");
+            EXPECT_EQ(encoding(made), hex(std::string(1, static_cast<char>(tag))) + "024142");
+            EXPECT_EQ(kind.get_type(made.get(), nullptr), 0);
+        }
+        int32_t found = -7;
+        EXPECT_EQ(kind.get_type(nullptr, &found), 0);
+        EXPECT_EQ(kind.get_type(integer.get(), &found), 0);
+        EXPECT_EQ(found, -7);
+        EXPECT_EQ(kind.get_string(nullptr), nullptr);
+        EXPECT_EQ(kind.make(12, nullptr), nullptr);
+        EXPECT_EQ(kind.make(12, integer.get()), nullptr);
+        fail_each_allocation([&] { return static_cast<bool>(Value(kind.type, kind.make(12, string.get()))); });
+    }
+}
+
+TEST(PkixBuild, PairsOfIdentifiers) {
+    const std::string issuer = noted("{u16}"), subject(16, '\xEE');
+    Value pair(48, kovra_x500uuidpair_new(issuer.data(), subject.data()));
+    EXPECT_EQ(encoding(pair), "30240410" + hex(issuer) + "0410" + hex(subject));
+    std::string out(17, '!');
+    EXPECT_EQ(kovra_x500uuidpair_getissueruuid(pair.get(), out.data()), 1);
+    EXPECT_EQ(out, issuer + "!");
+    EXPECT_EQ(kovra_x500uuidpair_getsubjectuuid(pair.get(), out.data()), 1);
+    EXPECT_EQ(out, subject + "!");
+    EXPECT_EQ(kovra_x500uuidpair_getissueruuid(nullptr, out.data()), 0);
+    EXPECT_EQ(kovra_x500uuidpair_getsubjectuuid(pair.get(), nullptr), 0);
+    EXPECT_EQ(kovra_x500uuidpair_new(nullptr, subject.data()), nullptr);
+    EXPECT_EQ(kovra_x500uuidpair_new(issuer.data(), nullptr), nullptr);
+    fail_each_allocation(
+        [&] { return static_cast<bool>(Value(48, kovra_x500uuidpair_new(issuer.data(), subject.data()))); });
+}
+
+// When the values cannot be copied, what is released is the caller's own type.
+TEST(PkixBuild, AttributesTakeTheirTypeWithThem) {
+    const Value values = noted_value(26, "31({int} {null})"), integer = noted_value(2, "{int}");
+    Value type = noted_value(6, "{oid}");
+    Value made(42, kovra_x500attribute_new(type.get(), values.get()));
+    EXPECT_EQ(encoding(made), noted_hex("30({oid} 31({int} {null}))"));
+    EXPECT_EQ(borrowed(6, kovra_x500attribute_gettype(made.get())), noted_hex("{oid}"));
+    EXPECT_EQ(borrowed(26, kovra_x500attribute_getvalue(made.get())), noted_hex("31({int} {null})"));
+    EXPECT_EQ(kovra_x500attribute_hascontext(made.get()), 0);
+    EXPECT_EQ(kovra_x500attribute_getcontext(made.get()), nullptr);
+    EXPECT_EQ(kovra_x500attribute_hascontext(nullptr), 0);
+    EXPECT_EQ(kovra_x500attribute_new(type.get(), nullptr), nullptr);
+    EXPECT_EQ(kovra_x500attribute_new(nullptr, values.get()), nullptr);
+    EXPECT_EQ(kovra_x500attribute_new(const_cast<kovra_asn1_value *>(integer.get()), values.get()), nullptr);
+    EXPECT_EQ(encoding(type), noted_hex("{oid}"));
+    EXPECT_EQ(encoding(integer), noted_hex("{int}"));
+    made = Value();
+    const int64_t before = live_blocks();
+    for (int64_t good = 0; good < 100 && is_memory_watched(); ++good) {
+        Value own = noted_value(6, "{oid}");
+        const int64_t with_type = live_blocks();
+        {
+            const ScarceMemory scarce(good);
+            made = Value(42, kovra_x500attribute_new(own.get(), values.get()));
+        }
+        if (!made && live_blocks() < with_type)
+            own.release();
+        if (made)
+            break;
+    }
+    EXPECT_TRUE(made || !is_memory_watched());
+    made = Value();
+    EXPECT_EQ(live_blocks(), before);
+    EXPECT_EQ(kovra_x500attribute_new(type.release(), integer.get()), nullptr);
+    Value with_context = noted_value(42, "30({oid} 31 00 31(30({int} {ctxs})))");
+    EXPECT_EQ(kovra_x500attribute_hascontext(with_context.get()), 1);
+    kovra_asn1_value *item = element_of(kovra_x500attribute_getcontext(with_context.get()), 0);
+    EXPECT_EQ(borrowed(23, kovra_x500attrvalueswithcontextitem_getvalue(item)), noted_hex("{int}"));
+    EXPECT_EQ(borrowed(141, kovra_x500attrvalueswithcontextitem_getcontexts(item)), noted_hex("{ctxs}"));
+}
+
+TEST(PkixBuild, RecordsThatOneTypeAllowsAndAnotherRefuses) {
+    struct Restriction {
+        uint32_t wide, narrow;
+        const char *text;
+        int32_t length;
+        Codes whole, content;
+    };
+    const Restriction restrictions[] = {{29, 30, "30({oid} {int} 01 01 00)", -2, {0x10274}, {0x10274}},
+                                        {29, 30, "30({oid} {int} 31 00)", -2, {0x10274}, {0x10274}},
+                                        {42, 43, "30({oid} 31 00 31 00)", 10, {0x1027d}, {0x1027d}},
+                                        {80, 81, "30(A2 00)", -2, {0x1020b}, {0x102cc}}};
+    for (const Restriction &row : restrictions) {
+        SCOPED_TRACE(row.text);
+        const Value value = noted_value(row.wide, row.text);
+        const int32_t length = size_of(noted(row.text));
+        EXPECT_EQ(kovra_asn1_length(row.wide, value.get()), length);
+        EXPECT_EQ(kovra_asn1_length(row.narrow, value.get()), row.length);
+        EXPECT_EQ(encode(row.narrow, value.get()).codes, row.whole);
+        EXPECT_EQ(encode_content(row.narrow, value.get(), length - 2).codes, row.content);
+        EXPECT_EQ(kovra_asn1_dupobject(row.narrow, value.get(), nullptr), nullptr);
+    }
+    Value attributes = noted_value(75, "30(30({oid} 31 00 31 00))");
+    EXPECT_EQ(encode(44, attributes.get()).codes, Codes({0x1027d, 0x10262}));
+    const Value version = decoded(2, "02 01 00"), name = noted_value(32, "{name}"), key = noted_value(35, "{spki}");
+    EXPECT_EQ(kovra_pkcs10certreqinfo_new(version.get(), name.get(), key.get(), attributes.get()), nullptr);
+}
+
+TEST(PkixBuild, GeneralNames) {
+    const char *texts[] = {"A0({oid} A0({int}))", "81 00", "82 00", "A3({null})", "A4({name})",
+                           "A5(A1({text}))",      "86 00", "87 00", "88 01 2A"};
+    const Get gets[] = {kovra_x509generalname_getothername, kovra_x509generalname_getrfc,
+                        kovra_x509generalname_getdnsname,   nullptr,
+                        kovra_x509generalname_getdirname,   kovra_x509generalname_getediname,
+                        kovra_x509generalname_geturi,       kovra_x509generalname_getip,
+                        kovra_x509generalname_getregid};
+    for (int32_t i = 0; i < 9; ++i) {
+        const Value name = noted_value(63, texts[i]);
+        int32_t choice = -7;
+        EXPECT_EQ(kovra_x509generalname_gettype(name.get(), &choice), 1);
+        EXPECT_EQ(choice, i);
+        for (int32_t j = 0; j < 9; ++j)
+            EXPECT_EQ(gets[j] != nullptr && gets[j](name.get()) != nullptr, i == j && i != 3) << i << ' ' << j;
+    }
+    int32_t choice = -7;
+    EXPECT_EQ(kovra_x509generalname_gettype(nullptr, &choice), 0);
+    EXPECT_EQ(kovra_x509generalname_gettype(noted_value(63, "81 00").get(), nullptr), 0);
+    EXPECT_EQ(kovra_x509generalname_gettype(noted_value(83, "A0 00").get(), &choice), 0);
+    for (int32_t i = 0; i < 2; ++i) {
+        const Value name = noted_value(83, i == 0 ? "A0 00" : "A1 00");
+        EXPECT_EQ(kovra_x509distpointname_gettype(name.get(), &choice), 1);
+        EXPECT_EQ(choice, i);
+        EXPECT_EQ(kovra_x509distpointname_getfullname(name.get()) != nullptr, i == 0);
+        EXPECT_EQ(kovra_x509distpointname_getrelname(name.get()) != nullptr, i == 1);
+    }
+    EXPECT_EQ(kovra_x509distpointname_gettype(nullptr, &choice), 0);
+
+    // An other-name is copied as the EDI party name that it is not.
+    const Value other = noted_value(61, "28({oid} A0({int}))"), party = noted_value(62, "30(A1({text}))");
+    EXPECT_EQ(kovra_x509generalname_new_othername(other.get()), nullptr);
+    EXPECT_EQ(kovra_x509generalname_new_othername(nullptr), nullptr);
+    Value useless(63, kovra_x509generalname_new_othername(party.get()));
+    EXPECT_EQ(kovra_x509generalname_gettype(useless.get(), &choice), 1);
+    EXPECT_EQ(choice, 0);
+    EXPECT_NE(kovra_x509generalname_getothername(useless.get()), nullptr);
+    EXPECT_EQ(kovra_instanceoftypeid_getid(kovra_x509generalname_getothername(useless.get())), nullptr);
+    EXPECT_EQ(kovra_asn1_length(63, useless.get()), -2);
+    EXPECT_EQ(encode(63, useless.get()).codes, Codes({0x102ea}));
+    const Value holder = list_of({useless.release()});
+    EXPECT_EQ(encode(64, holder.get()).codes, Codes({0x1020b}));
+
+    // An EDI party name is made even of parts that cannot be copied.
+    const Value text = noted_value(47, "{text}"), integer = noted_value(2, "{int}");
+    EXPECT_EQ(kovra_x509edipartyname_new(text.get(), nullptr), nullptr);
+    Value both(62, kovra_x509edipartyname_new(text.get(), text.get()));
+    EXPECT_EQ(encoding(both), noted_hex("30(A0({text}) A1({text}))"));
+    EXPECT_EQ(borrowed(47, kovra_x509edipartyname_getnameassigner(both.get())), noted_hex("{text}"));
+    EXPECT_EQ(borrowed(47, kovra_x509edipartyname_getpartyname(both.get())), noted_hex("{text}"));
+    Value no_assigner(62, kovra_x509edipartyname_new(integer.get(), text.get()));
+    EXPECT_EQ(kovra_x509edipartyname_getnameassigner(no_assigner.get()), nullptr);
+    EXPECT_EQ(encoding(no_assigner), noted_hex("30(A1({text}))"));
+    Value no_party(62, kovra_x509edipartyname_new(text.get(), integer.get()));
+    ASSERT_TRUE(no_party);
+    EXPECT_EQ(kovra_x509edipartyname_getpartyname(no_party.get()), nullptr);
+    EXPECT_EQ(kovra_asn1_length(62, no_party.get()), -2);
+    EXPECT_EQ(encode(62, no_party.get()).codes, Codes({0x1020b}));
+    EXPECT_EQ(encode_content(62, no_party.get(), 10).codes, Codes({0x102ea}));
+    EXPECT_EQ(kovra_x509generalname_new_ediname(no_party.get()), nullptr);
+}
+
+TEST(PkixBuild, BasicConstraintsLeaveABooleanBehind) {
+    const Value yes = decoded(1, "01 01 FF"), no = decoded(1, "01 01 00"), length = decoded(2, "02 01 03");
+    auto made = [](const kovra_asn1_value *ca, const kovra_asn1_value *path_length) {
+        const int64_t before = live_blocks();
+        Value value(76, kovra_x509basicconstraints_new(ca, path_length));
+        std::string text = value ? encoding(value) : "-";
+        EXPECT_EQ(kovra_x509basicconstraints_getisca(value.get()) != nullptr, static_cast<bool>(value));
+        EXPECT_EQ(kovra_x509basicconstraints_getlen(value.get()) != nullptr, value && path_length != nullptr);
+        value = Value();
+        EXPECT_TRUE(live_blocks() == before + (path_length != nullptr ? 1 : 0) || !is_memory_watched());
+        return text;
+    };
+    EXPECT_EQ(made(nullptr, nullptr), "3000");
+    EXPECT_EQ(made(yes.get(), nullptr), "30030101FF");
+    EXPECT_EQ(made(yes.get(), length.get()), "30060101FF020103");
+    EXPECT_EQ(made(no.get(), length.get()), "3003020103");
+    EXPECT_EQ(made(nullptr, length.get()), "3003020103");
+    EXPECT_EQ(made(length.get(), nullptr), "-");
+    EXPECT_EQ(made(yes.get(), yes.get()), "-");
+}
+
+TEST(PkixBuild, IssuingDistributionPoints) {
+    const Value yes = decoded(1, "01 01 FF"), no = decoded(1, "01 01 00");
+    EXPECT_EQ(kovra_pkixidp_new(nullptr, yes.get(), yes.get(), nullptr, nullptr), nullptr);
+    Value authorities(88, kovra_pkixidp_new(nullptr, no.get(), yes.get(), nullptr, nullptr));
+    EXPECT_EQ(encoding(authorities), "30038201FF");
+    EXPECT_EQ(kovra_asn1_boolean_istrue(kovra_pkixidp_getonlyattrcert(authorities.get())), 0);
+    EXPECT_NE(kovra_pkixidp_getonlyattrcert(authorities.get()), nullptr);
+    EXPECT_EQ(kovra_asn1_boolean_istrue(kovra_pkixidp_getonlyattrcert(decoded(88, "30 03 85 01 FF").get())), 1);
+    EXPECT_EQ(encoding(Value(89, kovra_x509aaidp_new(nullptr, no.get(), nullptr, nullptr, nullptr, nullptr))),
+              "3003840100");
+    EXPECT_EQ(encoding(Value(89, kovra_x509aaidp_new(nullptr, nullptr, no.get(), nullptr, nullptr, nullptr))),
+              "3003830100");
+}
+
+TEST(PkixBuild, ListsOfRevokedCertificates) {
+    const Value algorithm = noted_value(33, "{alg}"), name = noted_value(32, "{name}"),
+                time = noted_value(20, "{time}");
+    auto made = [&](kovra_asn1_value *list, int32_t copy, const kovra_asn1_value *signature) {
+        return Value(
+            40, kovra_x509TBSCertList_new(nullptr, signature, name.get(), time.get(), nullptr, list, copy, nullptr));
+    };
+    const std::string full = noted_hex("30({alg} {name} {time} 30({entry}))");
+    Value list = noted_value(140, "30({entry})"), none(140, kovra_asn1_list_new());
+    EXPECT_EQ(encoding(made(nullptr, 0, algorithm.get())), noted_hex("{clist}"));
+    EXPECT_EQ(encoding(made(list.get(), 1, algorithm.get())), full);
+    EXPECT_EQ(encoding(made(none.get(), 1, algorithm.get())), noted_hex("30({alg} {name} {time} 30 00)"));
+    // The list is taken over only when there is something to own it.
+    EXPECT_FALSE(made(list.get(), 0, nullptr));
+    EXPECT_EQ(as_type(140, list), noted_hex("30({entry})"));
+    Value owner = made(list.get(), 0, algorithm.get());
+    EXPECT_EQ(encoding(owner), full);
+    EXPECT_FALSE(made(list.get(), 0, algorithm.get())) << "it is borrowed now";
+    list.release();
+    Value foreign = list_of({noted_value(2, "{int}").release()});
+    EXPECT_FALSE(made(foreign.get(), 1, algorithm.get()));
+    EXPECT_FALSE(made(const_cast<kovra_asn1_value *>(time.get()), 0, algorithm.get()));
+    Value odd = made(foreign.release(), 0, algorithm.get());
+    EXPECT_EQ(encode(40, odd.get()).codes, Codes({0x1020b}));
+    EXPECT_EQ(encode_content(40, odd.get(), -1).codes, Codes({0x1020b, 0x1025c}));
+    for (int32_t copy : {0, 1}) {
+        fail_each_allocation([&] {
+            Value entries = noted_value(140, "30({entry})");
+            Value tbs = entries ? made(entries.get(), copy, algorithm.get()) : Value();
+            if (tbs && copy == 0)
+                entries.release();
+            return static_cast<bool>(tbs);
+        });
+    }
+    // Every component.
+    const Value version = decoded(2, "02 01 01"), extensions = noted_value(37, "{exts}");
+    Value entries = noted_value(140, "30({entry})");
+    Value tbs(40, kovra_x509TBSCertList_new(version.get(), algorithm.get(), name.get(), time.get(), time.get(),
+                                            entries.get(), 2, extensions.get()));
+    EXPECT_EQ(encoding(tbs), noted_hex("30(02 01 01 {alg} {name} {time} {time} 30({entry}) A0({exts}))"));
+    EXPECT_EQ(kovra_x509TBSCertList_new(nullptr, algorithm.get(), nullptr, time.get(), nullptr, nullptr, 1, nullptr),
+              nullptr);
+    EXPECT_EQ(kovra_x509TBSCertList_new(nullptr, algorithm.get(), name.get(), nullptr, nullptr, nullptr, 1, nullptr),
+              nullptr);
+    EXPECT_EQ(
+        kovra_x509TBSCertList_new(name.get(), algorithm.get(), name.get(), time.get(), nullptr, nullptr, 1, nullptr),
+        nullptr);
+}
+
+TEST(PkixBuild, ExtensionsOfTypedValues) {
+    const Value oid = noted_value(6, "{oid}"), yes = decoded(1, "01 01 FF"), usage = decoded(3, "03 02 05 A0");
+    auto made = [&](uint32_t type, const kovra_asn1_value *value) {
+        Value extension(36, kovra_x509extension_create(oid.get(), yes.get(), type, value));
+        return extension ? encoding(extension) : "-";
+    };
+    EXPECT_EQ(made(3, usage.get()), noted_hex("30({oid} 01 01 FF 04(03 02 05 A0))"));
+    EXPECT_EQ(made(5, nullptr), noted_hex("30({oid} 01 01 FF 04({null}))"));
+    EXPECT_EQ(made(66, noted_value(66, "30({oid})").get()), noted_hex("30({oid} 01 01 FF 04(30({oid})))"));
+    EXPECT_EQ(made(0, nullptr), "-");
+    EXPECT_EQ(made(3, nullptr), "-");
+    EXPECT_EQ(made(76, usage.get()), "-");
+    EXPECT_EQ(made(208, usage.get()), "-");
+    EXPECT_EQ(kovra_x509extension_create(nullptr, nullptr, 3, usage.get()), nullptr);
+    fail_each_allocation([&] { return made(3, usage.get()) != "-"; });
+    Value twice = list_of({noted_value(36, "{ext}").release(), noted_value(36, "{ext}").release()});
+    EXPECT_EQ(as_type(37, twice), noted_hex("30({ext} {ext})"));
+}
+
+// Components that cannot be written are reported with the code of their type, from the inside out.
+TEST(PkixBuild, CodesOfWhatCannotBeWritten) {
+    Value foreign = list_of({noted_value(1, "01 01 FF").release()});
+    struct Attempt {
+        uint32_t type;
+        Codes codes;
+    };
+    const Attempt attempts[] = {
+        {31, {0x10001, 0x10246}},  {37, {0x10001, 0x10252}},  {44, {0x10001, 0x10262}},  {49, {0x10001, 0x10284}},
+        {54, {0x10001, 0x10290}},  {64, {0x10001, 0x102a2}},  {66, {0x10001, 0x10233}},  {70, {0x10001, 0x102b0}},
+        {74, {0x10001, 0x102bc}},  {75, {0x10001, 0x1027b}},  {78, {0x10001, 0x102c4}},  {85, {0x10001, 0x102d3}},
+        {87, {0x10001, 0x102d9}},  {137, {0x10001, 0x102ac}}, {138, {0x10001, 0x1020f}}, {140, {0x10001, 0x1025a}},
+        {141, {0x10001, 0x1023e}}, {142, {0x10001, 0x10242}}, {143, {0x10001, 0x10277}}, {198, {0x10001, 0x102b0}}};
+    for (const Attempt &attempt : attempts) {
+        SCOPED_TRACE(attempt.type);
+        EXPECT_EQ(encode_content(attempt.type, foreign.get(), 3).codes, attempt.codes);
+        EXPECT_EQ(encode(attempt.type, foreign.get()).codes, Codes({0x1020b}));
+        EXPECT_EQ(kovra_asn1_length(attempt.type, foreign.get()), -2);
+    }
+    // A value of another kind is a bad argument for every type.
+    for (uint32_t type = 28; type < 144; ++type) {
+        if ((type > 55 && type < 61) || (type > 89 && type != 92 && type < 135))
+            continue;
+        const Value boolean = decoded(1, "01 01 FF");
+        EXPECT_EQ(encode(type, boolean.get()).codes, Codes({0x10001})) << type;
+        EXPECT_EQ(kovra_asn1_content_length(type, boolean.get()), -2) << type;
+    }
+}
+
+} // namespace
+} // namespace kovra::test

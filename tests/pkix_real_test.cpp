@@ -1,0 +1,480 @@
+// Certificates, CRLs and requests as other programs write them: every field, and the octets that signatures cover.
+#include <functional>
+
+#include "tests/pkix_testing.hpp"
+
+namespace kovra::test {
+namespace {
+
+// The same element with indefinite lengths, or with lengths in five octets.
+std::string as_ber(const std::string &element, bool is_indefinite) {
+    std::string content;
+    if ((element[0] & 0x20) != 0)
+        for (const std::string &child : children(element))
+            content += as_ber(child, is_indefinite);
+    else
+        return element;
+    if (is_indefinite)
+        return element[0] + ("\x80" + content) + std::string(2, '\0');
+    std::string length = "\x84";
+    for (int shift = 24; shift >= 0; shift -= 8)
+        length += static_cast<char>(content.size() >> shift);
+    return element[0] + length + content;
+}
+
+std::string signed_octets(const Kind &kind, const Value &value) {
+    int32_t length = -7;
+    EXPECT_EQ(kind.get_signed_octets(value.get(), nullptr, &length), 1);
+    std::string octets(static_cast<size_t>(length), '\0');
+    int32_t capacity = length - 1;
+    EXPECT_EQ(kind.get_signed_octets(value.get(), octets.data(), &capacity), 0) << "one octet short";
+    EXPECT_EQ(capacity, length);
+    capacity = length + 100;
+    EXPECT_EQ(kind.get_signed_octets(value.get(), octets.data(), &capacity), 1);
+    EXPECT_EQ(capacity, length);
+    return octets;
+}
+
+std::string encoded(uint32_t type, Handle value) {
+    return value != nullptr ? hex(encode(type, value).octets) : "-";
+}
+
+// The fields of a certificate are the elements of its octets.
+void expect_fields(const std::string &data) {
+    const Value cert = load(kinds[0], data);
+    ASSERT_TRUE(cert);
+    const auto parts = children(data);
+    auto rest = children(parts[0]);
+    const bool has_version = rest[0][0] == '\xA0';
+    EXPECT_EQ(encoded(2, kovra_x509pubkeycert_getversion(cert.get())), has_version ? hex(rest[0].substr(2)) : "020100");
+    rest.erase(rest.begin(), rest.begin() + (has_version ? 1 : 0));
+    EXPECT_EQ(encoded(2, kovra_x509pubkeycert_getserialno(cert.get())), hex(rest[0]));
+    EXPECT_EQ(encoded(33, kovra_x509pubkeycert_getinnersignalgo(cert.get())), hex(rest[1]));
+    EXPECT_EQ(encoded(32, kovra_x509pubkeycert_getissuer(cert.get())), hex(rest[2]));
+    EXPECT_EQ(encoded(34, kovra_x509pubkeycert_getvalidity(cert.get())), hex(rest[3]));
+    EXPECT_EQ(encoded(32, kovra_x509pubkeycert_getsubject(cert.get())), hex(rest[4]));
+    EXPECT_EQ(encoded(35, kovra_x509pubkeycert_getpubkey(cert.get())), hex(rest[5]));
+    EXPECT_EQ(kovra_x509pubkeycert_hasissueruid(cert.get()), 0);
+    EXPECT_EQ(kovra_x509pubkeycert_hassubjectuid(cert.get()), 0);
+    EXPECT_EQ(kovra_x509pubkeycert_hasexts(cert.get()), rest.size() > 6);
+    if (rest.size() > 6) {
+        EXPECT_EQ(encoded(37, kovra_x509pubkeycert_getexts(cert.get())), hex(children(rest[6])[0]));
+    }
+    EXPECT_EQ(encoded(33, kovra_x509pubkeycert_getsignalgo(cert.get())), hex(parts[1]));
+    EXPECT_EQ(encoded(3, kovra_x509pubkeycert_getsignvalue(cert.get())), hex(parts[2]));
+    EXPECT_EQ(hex(signed_octets(kinds[0], cert)), hex(parts[0]));
+    EXPECT_EQ(encoding(cert), hex(data));
+    // Built again from its fields, it is the same.
+    Handle version = kovra_x509pubkeycert_getversion(cert.get()), extensions = kovra_x509pubkeycert_getexts(cert.get());
+    const Value tbs(38,
+                    kovra_x509TBSCertificate_new(
+                        version, kovra_x509pubkeycert_getserialno(cert.get()),
+                        kovra_x509pubkeycert_getinnersignalgo(cert.get()), kovra_x509pubkeycert_getissuer(cert.get()),
+                        kovra_x509pubkeycert_getvalidity(cert.get()), kovra_x509pubkeycert_getsubject(cert.get()),
+                        kovra_x509pubkeycert_getpubkey(cert.get()), nullptr, nullptr, extensions));
+    const Value built(39, kovra_x509pubkeycert_create(tbs.get(), kovra_x509pubkeycert_getsignvalue(cert.get())));
+    EXPECT_EQ(encoding(built), hex(data));
+    EXPECT_EQ(hex(signed_octets(kinds[0], built)), hex(parts[0]));
+}
+
+int32_t size(Handle list) {
+    return kovra_asn1_list_getsize(list);
+}
+
+// Each extension is written again as it was; how many there are.
+int32_t expect_extensions(Handle list) {
+    for (int32_t i = 0; i < size(list); ++i) {
+        Handle extension = nullptr, out = nullptr;
+        EXPECT_EQ(kovra_asn1_list_get(list, i, &extension), 1);
+        const std::string oid = kovra_asn1_oid_getstring(kovra_x509extension_getid(extension));
+        const uint32_t type = type_of_extension(oid);
+        Handle octets = kovra_x509extension_getvalue(extension);
+        EXPECT_NE(kovra_x509extension_getcritical(extension), nullptr);
+        EXPECT_EQ(kovra_asn1_octetstring_getobject(octets, type, &out, nullptr), 1) << oid;
+        const Value value(type, out);
+        EXPECT_EQ(encoding(value), hex(text_of(Blob(kovra_asn1_octetstring_getblob(octets)).get()))) << oid;
+        const Value again(36, kovra_x509extension_create(kovra_x509extension_getid(extension),
+                                                         kovra_x509extension_getcritical(extension), type, out));
+        EXPECT_EQ(encoding(again), encoded(36, extension)) << oid;
+    }
+    return size(list);
+}
+
+TEST(PkixReal, EveryFieldOfEveryCertificate) {
+    auto all = objects(kinds[0]);
+    const std::string bundle = contents("/etc/ssl/certs/ca-certificates.crt");
+    const std::string end = "-----END CERTIFICATE-----";
+    for (size_t at = 0, next = 0; (next = bundle.find(end, at)) != bundle.npos; at = next + end.size()) {
+        const Value cert = load(kinds[0], bundle.substr(bundle.find('-', at), next + end.size() - at));
+        all.push_back(octets(encoding(cert)));
+    }
+    int32_t extensions = 0;
+    for (const std::string &data : all) {
+        expect_fields(data);
+        extensions += expect_extensions(kovra_x509pubkeycert_getexts(load(kinds[0], data).get()));
+    }
+    EXPECT_GT(extensions, 30);
+    for (const std::string &data : objects(kinds[1])) {
+        const Value crl = load(kinds[1], data);
+        expect_extensions(kovra_x509crl_getexts(crl.get()));
+        Handle revoked = kovra_x509crl_getrevcerts(crl.get()), entry = nullptr;
+        for (int32_t i = 0; kovra_asn1_list_get(revoked, i, &entry) == 1; ++i)
+            expect_extensions(kovra_x509revcertinfo_getexts(entry));
+        // Built again from its fields, it is the same.
+        const Value tbs(40, kovra_x509TBSCertList_new(
+                                kovra_x509crl_getversion(crl.get()), kovra_x509crl_getinnersignalgo(crl.get()),
+                                kovra_x509crl_getissuer(crl.get()), kovra_x509crl_getthisupdate(crl.get()),
+                                kovra_x509crl_getnextupdate(crl.get()), revoked, 1, kovra_x509crl_getexts(crl.get())));
+        const Value built(41, kovra_x509crl_create(tbs.get(), kovra_x509crl_getsignvalue(crl.get())));
+        EXPECT_EQ(encoding(built), hex(data));
+        EXPECT_EQ(kovra_x509crl_hasversion(crl.get()), kovra_x509crl_getversion(crl.get()) != nullptr);
+        EXPECT_EQ(kovra_x509crl_hasnextupdate(crl.get()), kovra_x509crl_getnextupdate(crl.get()) != nullptr);
+        EXPECT_EQ(kovra_x509crl_hasrevcerts(crl.get()), revoked != nullptr);
+        EXPECT_EQ(kovra_x509crl_hasexts(crl.get()), kovra_x509crl_getexts(crl.get()) != nullptr);
+        EXPECT_EQ(encoded(33, kovra_x509crl_getsignalgo(crl.get())), hex(children(data)[1]));
+    }
+    for (const std::string &data : objects(kinds[2])) {
+        const Value request = load(kinds[2], data);
+        EXPECT_EQ(kovra_pkcs10certreq_hasattrs(request.get()), 1);
+        const Value info(45, kovra_pkcs10certreqinfo_new(kovra_pkcs10certreq_getversion(request.get()),
+                                                         kovra_pkcs10certreq_getsubject(request.get()),
+                                                         kovra_pkcs10certreq_getpubkey(request.get()),
+                                                         kovra_pkcs10certreq_getattrs(request.get())));
+        const Value built(46, kovra_pkcs10certreq_create(info.get(), kovra_pkcs10certreq_getsignalgo(request.get()),
+                                                         kovra_pkcs10certreq_getsignvalue(request.get())));
+        EXPECT_EQ(encoding(built), hex(data));
+    }
+}
+
+TEST(PkixReal, BerKeepsItsOctets) {
+    for (const Kind &kind : kinds) {
+        for (const std::string &data : objects(kind)) {
+            for (bool is_indefinite : {false, true}) {
+                const std::string ber = as_ber(data, is_indefinite), tbs = as_ber(children(data)[0], is_indefinite);
+                const Value value = load(kind, ber);
+                ASSERT_TRUE(value);
+                EXPECT_EQ(encoding(value), hex(ber));
+                EXPECT_EQ(hex(signed_octets(kind, value)), hex(tbs));
+                const Value copy(kind.type, kovra_asn1_dupobject(kind.type, value.get(), nullptr));
+                EXPECT_EQ(encoding(copy), hex(ber));
+                EXPECT_EQ(hex(signed_octets(kind, copy)), hex(tbs));
+                // Content alone keeps what is signed, and nothing else.
+                const size_t header = is_indefinite ? 2 : 6;
+                const Value content =
+                    decode_content(kind.type, ber.substr(header), 0, is_indefinite ? -1 : size_of(ber) - 6).value;
+                EXPECT_EQ(hex(signed_octets(kind, content)), hex(tbs));
+                EXPECT_NE(encode(kind.type, content.get()).octets.find(tbs), std::string::npos);
+                // Names keep theirs as well, other fields do not.
+                if (kind.type == 39) {
+                    const auto fields = children(children(data)[0]);
+                    const size_t version = fields[0][0] == '\xA0' ? 1 : 0;
+                    EXPECT_EQ(encoded(32, kovra_x509pubkeycert_getissuer(value.get())),
+                              hex(as_ber(fields[version + 2], is_indefinite)));
+                    EXPECT_EQ(encoded(34, kovra_x509pubkeycert_getvalidity(value.get())), hex(fields[version + 3]));
+                }
+            }
+        }
+    }
+}
+
+TEST(PkixReal, LoadedFromOctetsAndFromText) {
+    for (const Kind &kind : kinds) {
+        SCOPED_TRACE(kind.type);
+        const std::string data = objects(kind)[0];
+        int64_t length = 0;
+        auto text = [&](int32_t line) {
+            Memory<char> made(kovra_base64encode(data.data(), size_of(data), line, &length));
+            return std::string(made.get(), static_cast<size_t>(length));
+        };
+        auto armoured = [&](const char *label, const std::string &of) {
+            Memory<char> made(kovra_pemencode(of.data(), size_of(of), label, &length));
+            return std::string(made.get(), static_cast<size_t>(length));
+        };
+        Codes codes;
+        auto loaded = [&](const std::string &input) { return encoding(load(kind, input, &codes)) == hex(data); };
+        EXPECT_TRUE(loaded(data));
+        EXPECT_TRUE(loaded(text(0)));
+        EXPECT_TRUE(loaded(text(64)));
+        EXPECT_TRUE(loaded(text(10) + "\r\n \t"));
+        for (const std::string &label : kind.labels)
+            EXPECT_TRUE(loaded("-----\n" + armoured(label.c_str(), data) + "behind")) << label;
+        EXPECT_TRUE(loaded(armoured("OTHER", "x") + armoured(kind.labels.back().c_str(), data)));
+
+        auto refused = [&](const std::string &input) {
+            EXPECT_FALSE(load(kind, input, &codes));
+            return codes;
+        };
+        EXPECT_EQ(refused(data + '\0'), Codes({0x1020b}));
+        EXPECT_EQ(refused(armoured(kind.labels[0].c_str(), data + '\0')), Codes({0x1020b}));
+        EXPECT_EQ(refused(' ' + data), Codes({kind.refusal}));
+        EXPECT_EQ(refused("\xEF\xBB\xBF" + text(0)), Codes({kind.refusal}));
+        EXPECT_EQ(refused("1"), Codes({kind.refusal}));
+        EXPECT_EQ(refused("M"), Codes({0x10111}));
+        EXPECT_EQ(refused(text(0) + "!"), Codes({0x10111}));
+        EXPECT_EQ(refused("MQAA"), Codes({0x1020a})) << "31 00 00";
+        EXPECT_EQ(refused("-"), Codes({0x10116}));
+        EXPECT_EQ(refused(armoured("OTHER", data)), Codes({0x10116}));
+        EXPECT_EQ(refused(armoured(kind.labels[0].c_str(), "1")), Codes({0x10105, 0x102e7, 0x10236}));
+        EXPECT_EQ(refused(data.substr(0, data.size() - 1)).at(0), 0x10105);
+        EXPECT_EQ(refused(""), Codes({0x10001}));
+        Errors ctx(kovra_err_ctx_new());
+        EXPECT_EQ(kind.load(nullptr, 10, ctx.get()), nullptr);
+        EXPECT_EQ(Codes(ctx.get()), Codes({0x10002}));
+        EXPECT_EQ(kind.load(data.data(), -1, nullptr), nullptr);
+        int32_t needed = 10;
+        EXPECT_EQ(kind.get_signed_octets(nullptr, nullptr, &needed), 0);
+        EXPECT_EQ(kind.get_signed_octets(load(kind, data).get(), nullptr, nullptr), 0);
+        EXPECT_EQ(kind.get_signed_octets(decoded(1, "01 01 FF").get(), nullptr, &needed), 0);
+    }
+}
+
+// What fields say, as text.
+
+std::string joined(Handle list, const std::string &separator, const std::function<std::string(Handle)> &text) {
+    std::string result;
+    Handle element = nullptr;
+    for (int32_t i = 0; kovra_asn1_list_get(list, i, &element) == 1; ++i)
+        result += (i == 0 ? "" : separator) + text(element);
+    return list != nullptr ? result : "-";
+}
+
+std::string oid_text(Handle oid) {
+    return kovra_asn1_oid_getstring(oid);
+}
+
+std::string content(uint32_t type, Handle value) {
+    return octets(encoded(type, value)).substr(2);
+}
+
+std::string rdn_text(Handle rdn) {
+    return joined(rdn, " + ", [](Handle member) {
+        return oid_text(kovra_x500attrtypedistval_gettype(member)) + "=" +
+               content(23, kovra_x500attrtypedistval_getvalue(member));
+    });
+}
+
+std::string name_text(Handle name) {
+    return joined(kovra_x500name_getdn(name), ", ", rdn_text);
+}
+
+std::string general_name_text(Handle name) {
+    int32_t choice = -7;
+    EXPECT_EQ(kovra_x509generalname_gettype(name, &choice), 1);
+    const std::string start = std::to_string(choice) + ": ";
+    switch (choice) {
+    case 0: {
+        Handle other = kovra_x509generalname_getothername(name);
+        return start + oid_text(kovra_instanceoftypeid_getid(other)) + " " +
+               encoded(23, kovra_instanceoftypeid_gettype(other));
+    }
+    case 1:
+        return start + content(14, kovra_x509generalname_getrfc(name));
+    case 2:
+        return start + content(14, kovra_x509generalname_getdnsname(name));
+    case 4:
+        return start + name_text(kovra_x509generalname_getdirname(name));
+    case 6:
+        return start + content(14, kovra_x509generalname_geturi(name));
+    case 7:
+        return start + encoded(4, kovra_x509generalname_getip(name));
+    case 8:
+        return start + oid_text(kovra_x509generalname_getregid(name));
+    default:
+        return start + "?";
+    }
+}
+
+std::string general_names_text(Handle names) {
+    return joined(names, ", ", general_name_text);
+}
+
+std::string algorithm_text(Handle algorithm) {
+    return oid_text(kovra_x509algoid_getalgo(algorithm)) +
+           (kovra_x509algoid_isnullparam(algorithm) == 1 ? " NULL" : "");
+}
+
+std::string bits_text(Handle bits) {
+    std::string all(static_cast<size_t>(kovra_asn1_bitstring_getlength(bits)), '\0');
+    EXPECT_EQ(kovra_asn1_bitstring_getall(bits, all.data()), 1);
+    return hex(all.substr(0, 16)) + " " + std::to_string(all.size());
+}
+
+std::string qualifier_text(Handle info) {
+    Handle qualifier = kovra_x509polqualifierinfo_getqualifier(info), out = nullptr;
+    const std::string start = oid_text(kovra_x509polqualifierinfo_getid(info)) + " ";
+    if (kovra_asn1_any_toobject(qualifier, 73, &out, nullptr) != 1)
+        return start + content(23, qualifier);
+    const Value notice(73, out);
+    Handle reference = kovra_pkixusernotice_getref(out);
+    return start + content(71, kovra_pkixnoticeref_getorg(reference)) + " " +
+           joined(kovra_pkixnoticeref_getnums(reference), ", ", [](Handle number) { return encoded(2, number); }) +
+           ": " + content(71, kovra_pkixusernotice_gettext(out));
+}
+
+std::string policy_text(Handle policy) {
+    Handle qualifiers = kovra_x509policyinfo_getqualifiers(policy);
+    return oid_text(kovra_x509policyinfo_getid(policy)) +
+           (qualifiers != nullptr ? " (" + joined(qualifiers, ", ", qualifier_text) + ")" : "");
+}
+
+std::string point_name_text(Handle name) {
+    int32_t choice = -7;
+    EXPECT_EQ(kovra_x509distpointname_gettype(name, &choice), 1);
+    return choice == 0 ? "full " + general_names_text(kovra_x509distpointname_getfullname(name))
+                       : "relative " + rdn_text(kovra_x509distpointname_getrelname(name));
+}
+
+std::string point_text(Handle point) {
+    Handle reasons = kovra_x509distpoint_getreason(point), issuer = kovra_x509distpoint_getcrlissuer(point);
+    return point_name_text(kovra_x509distpoint_getname(point)) +
+           (reasons != nullptr ? " reasons " + encoded(3, reasons) : "") +
+           (issuer != nullptr ? " issuer " + general_names_text(issuer) : "");
+}
+
+std::string access_text(Handle access) {
+    return oid_text(kovra_pkixaccessdesp_getmethod(access)) + " " +
+           general_name_text(kovra_pkixaccessdesp_getlocate(access));
+}
+
+std::string subtree_text(Handle subtree) {
+    EXPECT_EQ(kovra_x509gensubtree_getmax(subtree), nullptr);
+    return general_name_text(kovra_x509gensubtree_getbase(subtree)) + " from " +
+           encoded(2, kovra_x509gensubtree_getmin(subtree));
+}
+
+std::string extension_text(const std::string &oid, Handle value) {
+    const auto flag = [](Handle boolean) { return std::to_string(kovra_asn1_boolean_istrue(boolean)); };
+    switch (type_of_extension(oid)) {
+    case 64:
+        return general_names_text(value);
+    case 65: {
+        Handle issuer = kovra_x509akid_getissuerissuer(value), serial = kovra_x509akid_getissuercertsn(value);
+        return "key " + encoded(4, kovra_x509akid_getkeyid(value)) +
+               (issuer != nullptr ? " issuer " + general_names_text(issuer) : "") +
+               (serial != nullptr ? " serial " + encoded(2, serial) : "");
+    }
+    case 66:
+        return joined(value, ", ", oid_text);
+    case 70:
+        return joined(value, ", ", policy_text);
+    case 74:
+        return joined(value, ", ", [](Handle mapping) {
+            return oid_text(kovra_x509policymapping_getissuerpolicy(mapping)) + ": " +
+                   oid_text(kovra_x509policymapping_getsubjectpolicy(mapping));
+        });
+    case 76: {
+        Handle length = kovra_x509basicconstraints_getlen(value);
+        return "CA " + encoded(1, kovra_x509basicconstraints_getisca(value)) +
+               (length != nullptr ? " length " + encoded(2, length) : "");
+    }
+    case 81:
+        EXPECT_EQ(kovra_x509namecons_getreqforms(value), nullptr);
+        return "permitted " + joined(kovra_x509namecons_getpermit(value), ", ", subtree_text) + " excluded " +
+               joined(kovra_x509namecons_getexclude(value), ", ", subtree_text);
+    case 82:
+        return encoded(2, kovra_x509polcons_getreqexppol(value)) + ", " +
+               encoded(2, kovra_x509polcons_getinhibitpolmap(value));
+    case 85:
+        return joined(value, ", ", point_text);
+    case 87:
+        return joined(value, ", ", access_text);
+    case 88:
+        EXPECT_EQ(kovra_pkixidp_getonlysomereason(value), nullptr);
+        return point_name_text(kovra_pkixidp_getdpname(value)) + " users " +
+               flag(kovra_pkixidp_getonlyusercert(value)) + " authorities " + flag(kovra_pkixidp_getonlycacert(value)) +
+               " indirect " + flag(kovra_pkixidp_getindirectCRL(value)) + " attributes " +
+               flag(kovra_pkixidp_getonlyattrcert(value));
+    case 138:
+        return joined(value, ", ", [](Handle number) { return encoded(2, number); });
+    default:
+        return encoded(type_of_extension(oid), value);
+    }
+}
+
+std::string find_extension(Handle list, std::string oid) {
+    const bool is_critical = oid.back() == '!';
+    oid = oid.substr(0, oid.size() - (is_critical ? 1 : 0));
+    Handle extension = nullptr;
+    for (int32_t i = 0; kovra_asn1_list_get(list, i, &extension) == 1; ++i) {
+        if (oid_text(kovra_x509extension_getid(extension)) != oid)
+            continue;
+        EXPECT_EQ(kovra_asn1_boolean_istrue(kovra_x509extension_getcritical(extension)), is_critical) << oid;
+        Handle out = nullptr;
+        kovra_asn1_octetstring_getobject(kovra_x509extension_getvalue(extension), type_of_extension(oid), &out,
+                                         nullptr);
+        const Value value(type_of_extension(oid), out);
+        return extension_text(oid, out);
+    }
+    return "-";
+}
+
+std::string time_text(Handle time) {
+    return content(20, time);
+}
+
+std::string key_text(Handle key) {
+    return algorithm_text(kovra_x509subjpubkeyinfo_getalgo(key)) + " " +
+           bits_text(kovra_x509subjpubkeyinfo_getpubkey(key));
+}
+
+std::string entry_text(Handle entry) {
+    Handle extensions = kovra_x509revcertinfo_getexts(entry);
+    EXPECT_EQ(kovra_x509revcertinfo_hasexts(entry), extensions != nullptr);
+    return encoded(2, kovra_x509revcertinfo_getserilano(entry)) + " " +
+           time_text(kovra_x509revcertinfo_getrevdate(entry)) + " " + std::to_string(size(extensions)) + " extensions";
+}
+
+using Fields = std::map<std::string, std::function<std::string(Handle)>>;
+const Fields fields[] = {
+    {{"version", [](Handle obj) { return encoded(2, kovra_x509pubkeycert_getversion(obj)); }},
+     {"serial", [](Handle obj) { return encoded(2, kovra_x509pubkeycert_getserialno(obj)); }},
+     {"algorithm", [](Handle obj) { return algorithm_text(kovra_x509pubkeycert_getinnersignalgo(obj)); }},
+     {"issuer", [](Handle obj) { return name_text(kovra_x509pubkeycert_getissuer(obj)); }},
+     {"subject", [](Handle obj) { return name_text(kovra_x509pubkeycert_getsubject(obj)); }},
+     {"validity",
+      [](Handle obj) {
+          Handle validity = kovra_x509pubkeycert_getvalidity(obj);
+          return time_text(kovra_x509validity_getnotbefore(validity)) + " to " +
+                 time_text(kovra_x509validity_getnotafter(validity));
+      }},
+     {"key", [](Handle obj) { return key_text(kovra_x509pubkeycert_getpubkey(obj)); }},
+     {"signature", [](Handle obj) { return bits_text(kovra_x509pubkeycert_getsignvalue(obj)); }}},
+    {{"version", [](Handle obj) { return encoded(2, kovra_x509crl_getversion(obj)); }},
+     {"issuer", [](Handle obj) { return name_text(kovra_x509crl_getissuer(obj)); }},
+     {"updates",
+      [](Handle obj) {
+          return time_text(kovra_x509crl_getthisupdate(obj)) + " then " + time_text(kovra_x509crl_getnextupdate(obj));
+      }},
+     {"revoked", [](Handle obj) { return joined(kovra_x509crl_getrevcerts(obj), ", ", entry_text); }},
+     {"signature", [](Handle obj) { return bits_text(kovra_x509crl_getsignvalue(obj)); }}},
+    {{"version", [](Handle obj) { return encoded(2, kovra_pkcs10certreq_getversion(obj)); }},
+     {"subject", [](Handle obj) { return name_text(kovra_pkcs10certreq_getsubject(obj)); }},
+     {"algorithm", [](Handle obj) { return algorithm_text(kovra_pkcs10certreq_getsignalgo(obj)); }},
+     {"key", [](Handle obj) { return key_text(kovra_pkcs10certreq_getpubkey(obj)); }},
+     {"attributes",
+      [](Handle obj) {
+          return joined(kovra_pkcs10certreq_getattrs(obj), ", ", [](Handle attribute) {
+              return oid_text(kovra_x500attribute_gettype(attribute)) + " " +
+                     std::to_string(size(kovra_x500attribute_getvalue(attribute)));
+          });
+      }},
+     {"signature", [](Handle obj) { return bits_text(kovra_pkcs10certreq_getsignvalue(obj)); }}}};
+
+TEST(PkixReal, FieldsSayWhatOtherProgramsRead) {
+    for (const auto &row : table("fields.txt")) {
+        SCOPED_TRACE(row[0] + ": " + row[1]);
+        const size_t kind = row[0].rfind("crl", 0) == 0 ? 1 : row[0].rfind("request", 0) == 0 ? 2 : 0;
+        const Value value = load(kinds[kind], example(row[0]));
+        ASSERT_TRUE(value);
+        auto field = fields[kind].find(row[1]);
+        if (field != fields[kind].end()) {
+            EXPECT_EQ(field->second(value.get()), row[2]);
+        } else {
+            Handle list = kind == 0 ? kovra_x509pubkeycert_getexts(value.get()) : kovra_x509crl_getexts(value.get());
+            EXPECT_EQ(find_extension(list, row[1]), row[2]);
+        }
+    }
+}
+
+} // namespace
+} // namespace kovra::test

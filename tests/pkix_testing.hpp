@@ -1,0 +1,188 @@
+// What the tests of certificates and their kin share: octets written as nested elements, and files.
+#pragma once
+
+#include <filesystem>
+#include <map>
+
+#include "tests/asn1_testing.hpp"
+
+namespace kovra::test {
+
+// Octets of a notation: hexadecimal digits; "text"; {name} for octets that were defined before; behind identifier
+// octets (content) for a definite length, <content> for one in five octets, [content] for the indefinite form. The
+// length is more or less by the digit in (+1 content) and (-1 content).
+class Notation {
+public:
+    void define(const std::string &name, std::string_view text) { names_[name] = octets(text); }
+
+    [[nodiscard]] std::string octets(std::string_view text) const {
+        std::string result = sequence(text);
+        EXPECT_TRUE(text.empty()) << "not understood: " << text;
+        return result;
+    }
+
+private:
+    std::string sequence(std::string_view &text) const {
+        std::string result;
+        while (!text.empty()) {
+            const char c = text[0];
+            if (c == ')' || c == ']' || c == '>')
+                break;
+            text.remove_prefix(1);
+            if (c == '"') {
+                result += text.substr(0, text.find('"'));
+                text.remove_prefix(text.find('"') + 1);
+            } else if (c == '{') {
+                auto found = names_.find(std::string(text.substr(0, text.find('}'))));
+                EXPECT_NE(found, names_.end()) << text;
+                result += found != names_.end() ? found->second : "";
+                text.remove_prefix(text.find('}') + 1);
+            } else if (c == '(' || c == '[' || c == '<') {
+                result += element_content(c, text);
+            } else if (c != ' ') {
+                result += test::octets({&c, 1}).empty() ? test::octets({text.data() - 1, 2}) : "?";
+                text.remove_prefix(1);
+            }
+        }
+        return result;
+    }
+
+    std::string element_content(char bracket, std::string_view &text) const {
+        int lie = 0;
+        if (text[0] == '+' || text[0] == '-') {
+            lie = (text[1] - '0') * (text[0] == '+' ? 1 : -1);
+            text.remove_prefix(2);
+        }
+        std::string content = sequence(text);
+        EXPECT_FALSE(text.empty()) << "an element is not closed";
+        text.remove_prefix(text.empty() ? 0 : 1);
+        const auto length = static_cast<int>(content.size()) + lie;
+        std::string header;
+        auto add = [&](int octet) { header += static_cast<char>(octet); };
+        if (bracket == '[') {
+            add(0x80);
+            return header + content + std::string(2, '\0');
+        }
+        if (bracket == '<') {
+            add(0x84);
+            add(0);
+            add(0);
+            add(length >> 8);
+        } else if (length > 255) {
+            add(0x82);
+            add(length >> 8);
+        } else if (length > 127) {
+            add(0x81);
+        }
+        add(length);
+        return header + content;
+    }
+
+    std::map<std::string, std::string> names_;
+};
+
+// Octets that definitions at the head of structures.txt name.
+inline const Notation &notation() {
+    static const Notation made = [] {
+        Notation filled;
+        for (const auto &row : table("structures.txt"))
+            if (row[0] == "let")
+                filled.define(row[1], row[2]);
+        return filled;
+    }();
+    return made;
+}
+
+inline std::string noted(std::string_view text) {
+    return notation().octets(text);
+}
+
+namespace fs = std::filesystem;
+using Handle = kovra_asn1_value *;
+
+// The kinds of signed objects, and what differs between their functions.
+struct Kind {
+    uint32_t type;
+    std::string prefix; // of the examples
+    Handle (*load)(const void *, int32_t, kovra_err_ctx *) noexcept;
+    int32_t (*get_signed_octets)(Handle, void *, int32_t *) noexcept;
+    int32_t refusal; // of a first octet
+    std::vector<std::string> labels;
+};
+inline const Kind kinds[] = {
+    {39, "cert-", kovra_x509pubkeycert_new, kovra_x509pubkeycert_gettbsocts, 0x10259, {"CERTIFICATE"}},
+    {41, "crl-", kovra_x509crl_new, kovra_x509crl_gettbsocts, 0x10261, {"X509 CRL", "CRL"}},
+    {46,
+     "request",
+     kovra_pkcs10certreq_new,
+     kovra_pkcs10certreq_gettbsocts,
+     0x10269,
+     {"CERTIFICATE REQUEST", "NEW CERTIFICATE REQUEST"}}};
+
+inline std::string contents(const fs::path &path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+inline std::string example(const std::string &name) {
+    return contents(fs::path(KOVRA_SOURCE_DIR "/examples") / name);
+}
+
+// The examples of a kind.
+inline std::vector<std::string> objects(const Kind &kind) {
+    std::vector<std::string> found;
+    for (const auto &entry : fs::directory_iterator(KOVRA_SOURCE_DIR "/examples")) {
+        const std::string name = entry.path().filename().string();
+        const bool is_server = kind.type == 39 && name == "rsa-server.der";
+        if (entry.path().extension() == ".der" && (name.rfind(kind.prefix, 0) == 0 || is_server))
+            found.push_back(contents(entry.path()));
+    }
+    EXPECT_GE(found.size(), 2u);
+    return found;
+}
+
+// Whole elements of definite length that stand one after another.
+inline std::vector<std::string> elements(const std::string &data) {
+    std::vector<std::string> found;
+    for (size_t at = 0; at + 2 <= data.size();) {
+        size_t header = 2, length = static_cast<uint8_t>(data[at + 1]);
+        if (length > 0x80) {
+            header += length - 0x80;
+            length = 0;
+            for (size_t i = at + 2; i < at + header; ++i)
+                length = length * 256 + static_cast<uint8_t>(data[i]);
+        }
+        found.push_back(data.substr(at, header + length));
+        at += header + length;
+    }
+    return found;
+}
+inline std::vector<std::string> children(const std::string &element) {
+    const size_t header = element[1] == '\x82' ? 4 : element[1] == '\x81' ? 3 : 2;
+    return elements(element.substr(header));
+}
+
+inline Value load(const Kind &kind, const std::string &data, Codes *codes = nullptr) {
+    std::unique_ptr<char[]> exact(new char[data.size()]);
+    std::memcpy(exact.get(), data.data(), data.size());
+    Errors ctx(kovra_err_ctx_new());
+    Value value(kind.type, kind.load(exact.get(), size_of(data), ctx.get()));
+    if (codes != nullptr)
+        *codes = ctx.get();
+    return value;
+}
+
+inline uint32_t type_of_extension(const std::string &oid) {
+    static const std::map<std::string, uint32_t> types = {
+        {"2.5.29.9", 75},           {"2.5.29.14", 4},  {"2.5.29.15", 3},          {"2.5.29.16", 67},
+        {"2.5.29.17", 64},          {"2.5.29.18", 64}, {"2.5.29.19", 76},         {"2.5.29.20", 2},
+        {"2.5.29.21", 7},           {"2.5.29.24", 22}, {"2.5.29.27", 2},          {"2.5.29.28", 88},
+        {"2.5.29.29", 64},          {"2.5.29.30", 81}, {"2.5.29.31", 85},         {"2.5.29.32", 70},
+        {"2.5.29.33", 74},          {"2.5.29.35", 65}, {"2.5.29.36", 82},         {"2.5.29.37", 66},
+        {"2.5.29.46", 85},          {"2.5.29.54", 2},  {"1.3.6.1.5.5.7.1.1", 87}, {"1.3.6.1.5.5.7.1.11", 87},
+        {"1.3.6.1.5.5.7.1.24", 138}};
+    auto found = types.find(oid);
+    return found != types.end() ? found->second : 23;
+}
+
+} // namespace kovra::test
