@@ -22,7 +22,7 @@ enum Slot : uint8_t { version, digest_algorithm, content, digest };
 constexpr Component components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("digestAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
-    required("contentInfo", KOVRA_ASN1_TYPE_CONTENT_INFO).copied_as(KOVRA_ASN1_TYPE_DIGESTED_DATA),
+    required("contentInfo", KOVRA_ASN1_TYPE_CONTENT_INFO).copy_as(KOVRA_ASN1_TYPE_DIGESTED_DATA),
     required("digest", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
 } // namespace digested

@@ -54,7 +54,8 @@ namespace password {
 enum Slot : uint8_t { version, derivation, algorithm, key };
 constexpr Component components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
-    optional("keyDerivationAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, implicit_tag(0)).read_as_explicit(),
+    optional("keyDerivationAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, explicit_tag(0))
+        .encode_under(implicit_tag(0)),
     required("keyEncryptionAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("encryptedKey", KOVRA_ASN1_TYPE_OCTET_STRING),
 };

@@ -41,8 +41,9 @@ int32_t choice_content_length(const Type &, Value *value, Measure measure) {
         return choice->measured;
     const Component &component = chosen(*choice);
     const Type &type = encode_row(component);
-    choice->measured = component.tag.tagging == Tagging::explicit_ ? whole_length(type, choice->value)
-                                                                   : content_length(type, choice->value);
+    const Tagging tagging = component.encode_tag.tagging;
+    choice->measured = tagging == Tagging::explicit_ || tagging == Tagging::bare ? whole_length(type, choice->value)
+                                                                                 : content_length(type, choice->value);
     return choice->measured;
 }
 
@@ -71,10 +72,13 @@ Result encode_choice_content(Encoder &encoder, const Type &type, Value *value, i
         return encoder.fail(in(shape), code::null_argument);
     const Component &component = chosen(*choice);
     const Type &content = encode_row(component);
-    const Result result = component.tag.tagging == Tagging::explicit_
+    const Site site = at(shape, component);
+    if (component.encode_tag.tagging == Tagging::bare)
+        length = content_length(content, choice->value);
+    const Result result = component.encode_tag.tagging == Tagging::explicit_
                               ? encode(encoder, content, choice->value)
-                              : content.operations->encode_content(encoder, content, choice->value, length);
-    return result == success ? success : encoder.fail(at(shape, component), encode_code(component), result);
+                              : encode_component_content(encoder, site, component, choice->value, length);
+    return result == success ? success : fail_encode(encoder, site, component, result);
 }
 
 // The alternative that an identifier begins; the table's count when it begins none.
@@ -124,7 +128,7 @@ Result decode_begun_choice(Decoder &decoder, const Type &type, const Identifier 
             result = content.operations->decode_content(decoder, content, untagged, value);
         }
         if (result != success)
-            decoder.fail(site, decode_code(component), result);
+            fail_decode(decoder, site, component, result);
     }
     if (result != success)
         return result;

@@ -28,7 +28,6 @@ extern const Operations any_time_operations;
 extern const Operations time_operations;
 extern const Operations choice_operations;
 extern const Operations string_choice_operations;
-extern const Operations unbuilt_operations;
 
 // keys/
 extern const Structure cert_bag;
@@ -179,5 +178,38 @@ extern const ChoiceShape originator_identifier_or_key;
 extern const ChoiceShape recipient_info;
 extern const ChoiceShape revocation_info_choice;
 extern const ChoiceShape signer_identifier;
+
+// services/
+extern const Structure ess_cert_id;
+extern const Structure ess_cert_id_v2;
+extern const Structure issuer_serial;
+extern const Structure ocsp_basic_response;
+extern const Structure ocsp_cert_id;
+extern const Structure ocsp_crl_id;
+extern const Structure ocsp_preferred_signature_algorithms;
+extern const Structure ocsp_request;
+extern const Structure ocsp_response;
+extern const Structure ocsp_response_bytes;
+extern const Structure ocsp_response_data;
+extern const Structure ocsp_revoked_info;
+extern const Structure ocsp_service_locator;
+extern const Structure ocsp_signature;
+extern const Structure ocsp_single_request;
+extern const Structure ocsp_single_response;
+extern const Structure ocsp_tbs_request;
+extern const Structure pki_status_info;
+extern const Structure signing_certificate;
+extern const Structure signing_certificate_v2;
+extern const Structure time_stamp_accuracy;
+extern const Structure time_stamp_req;
+extern const Structure time_stamp_resp;
+extern const Structure tst_info;
+extern const ListShape ess_cert_ids;
+extern const ListShape ess_cert_ids_v2;
+extern const ListShape ocsp_request_list;
+extern const ListShape ocsp_responses;
+extern const ListShape pki_free_text;
+extern const ChoiceShape ocsp_cert_status;
+extern const ChoiceShape ocsp_responder_id;
 
 } // namespace kovra::asn1

@@ -10,49 +10,12 @@ namespace kovra::asn1 {
 
 namespace {
 
-// Rows whose structure is not built yet only refuse.
-Site here(int32_t line = __builtin_LINE()) {
-    return {"ASN1", line};
-}
-bool holds_anything(const Type &, const Value &) {
-    return true;
-}
-int32_t no_content_length(const Type &, Value *, Measure) {
-    return unknown;
-}
-Result refuse_encode_content(Encoder &encoder, const Type &, Value *, int32_t) {
-    return encoder.fail(here(), code::unsupported_encode);
-}
-Result refuse_encode(Encoder &encoder, const Type &, Value *) {
-    return encoder.fail(here(), code::unsupported_encode);
-}
-Result refuse_decode(Decoder &decoder, const Type &, Value *&) {
-    return decoder.fail(here(), code::unsupported_decode);
-}
-
-} // namespace
-
-constexpr Operations unbuilt_operations = {
-    .holds = holds_anything,
-    .content_length = no_content_length,
-    .encode_content = refuse_encode_content,
-    .encode = refuse_encode,
-    .decode_content = refuse_decode_content,
-    .decode = refuse_decode,
-    .refuses_whole = true,
-    .records_reserve = [](size_t) { return size_t{0}; },
-};
-
-namespace {
-
 constexpr ListShape list_of_any = {KOVRA_ASN1_TYPE_ANY};
 constexpr ListShape list_of_any_1 = {KOVRA_ASN1_TYPE_ANY, ListReading::tagged, true};
 
 constexpr Form primitive = Form::primitive;
 constexpr Form constructed = Form::constructed;
 constexpr Form either = Form::either;
-
-constexpr const Operations *unbuilt = &unbuilt_operations;
 
 } // namespace
 
@@ -228,39 +191,39 @@ constexpr Type registry[type_count] = {
     {165, constructed, 16, 0x1037d, &structure_operations, &authenticated_data},
     {166, constructed, 16, 0x1037f, &structure_operations, &key_specific_info},
     {167, constructed, 16, 0x10381, &structure_operations, &dh_other_info},
-    {168, constructed, 16, 0x10383, unbuilt, nullptr},
-    {169, constructed, 16, 0x10385, unbuilt, nullptr},
-    {170, constructed, 16, 0x10387, unbuilt, nullptr},
-    {171, constructed, 16, 0x10389, unbuilt, nullptr},
-    {172, constructed, 16, 0x1038d, unbuilt, nullptr},
-    {173, constructed, 16, 0x1038f, unbuilt, nullptr},
-    {174, constructed, 16, 0x10391, unbuilt, nullptr},
-    {175, constructed, 16, 0x000af, unbuilt, nullptr},
-    {176, either, 0, 0x10395, unbuilt, nullptr},
-    {177, constructed, 16, 0x10397, unbuilt, nullptr},
-    {178, either, 0, 0x10397, unbuilt, nullptr},
-    {179, constructed, 16, 0x1039b, unbuilt, nullptr},
-    {180, constructed, 16, 0x1039d, unbuilt, nullptr},
-    {181, constructed, 16, 0x1039f, unbuilt, nullptr},
-    {182, constructed, 16, 0x103a1, unbuilt, nullptr},
-    {183, constructed, 16, 0x103a3, unbuilt, nullptr},
-    {184, constructed, 16, 0x103a5, unbuilt, nullptr},
-    {185, constructed, 16, 0x103a7, unbuilt, nullptr},
-    {186, constructed, 16, 0x103a9, unbuilt, nullptr},
-    {187, constructed, 16, 0x103ab, unbuilt, nullptr},
-    {188, constructed, 16, 0x103ad, unbuilt, nullptr},
-    {189, constructed, 16, 0x103af, unbuilt, nullptr},
-    {190, constructed, 16, 0x103b1, unbuilt, nullptr},
-    {191, constructed, 16, 0x103b3, unbuilt, nullptr},
-    {192, constructed, 16, 0x103b5, unbuilt, nullptr},
-    {193, constructed, 16, 0x103b7, unbuilt, nullptr},
-    {194, constructed, 16, 0x103b9, unbuilt, nullptr},
-    {195, constructed, 16, 0x103bb, unbuilt, nullptr},
-    {196, constructed, 16, 0x103bd, unbuilt, nullptr},
-    {197, constructed, 16, 0x103bf, unbuilt, nullptr},
+    {168, constructed, 16, 0x10383, &structure_operations, &ocsp_cert_id},
+    {169, constructed, 16, 0x10385, &structure_operations, &ocsp_single_request},
+    {170, constructed, 16, 0x10387, &list_operations, &ocsp_request_list},
+    {171, constructed, 16, 0x10389, &structure_operations, &ocsp_tbs_request},
+    {172, constructed, 16, 0x1038d, &structure_operations, &ocsp_signature},
+    {173, constructed, 16, 0x1038f, &structure_operations, &ocsp_request},
+    {174, constructed, 16, 0x10391, &structure_operations, &ocsp_response_bytes},
+    {175, constructed, 16, 0x000af, &structure_operations, &ocsp_response},
+    {176, either, 0, 0x10395, &choice_operations, &ocsp_responder_id},
+    {177, constructed, 16, 0x10397, &structure_operations, &ocsp_revoked_info},
+    {178, either, 0, 0x10397, &choice_operations, &ocsp_cert_status},
+    {179, constructed, 16, 0x1039b, &structure_operations, &ocsp_single_response},
+    {180, constructed, 16, 0x1039d, &list_operations, &ocsp_responses},
+    {181, constructed, 16, 0x1039f, &structure_operations, &ocsp_response_data},
+    {182, constructed, 16, 0x103a1, &structure_operations, &ocsp_basic_response},
+    {183, constructed, 16, 0x103a3, &structure_operations, &ocsp_crl_id},
+    {184, constructed, 16, 0x103a5, &structure_operations, &ocsp_service_locator},
+    {185, constructed, 16, 0x103a7, &structure_operations, &ocsp_preferred_signature_algorithms},
+    {186, constructed, 16, 0x103a9, &structure_operations, &digest_info},
+    {187, constructed, 16, 0x103ab, &structure_operations, &time_stamp_req},
+    {188, constructed, 16, 0x103ad, &list_operations, &pki_free_text},
+    {189, constructed, 16, 0x103af, &structure_operations, &pki_status_info},
+    {190, constructed, 16, 0x103b1, &structure_operations, &time_stamp_resp},
+    {191, constructed, 16, 0x103b3, &structure_operations, &time_stamp_accuracy},
+    {192, constructed, 16, 0x103b5, &structure_operations, &tst_info},
+    {193, constructed, 16, 0x103b7, &structure_operations, &issuer_serial},
+    {194, constructed, 16, 0x103b9, &structure_operations, &ess_cert_id},
+    {195, constructed, 16, 0x103bb, &structure_operations, &ess_cert_id_v2},
+    {196, constructed, 16, 0x103bd, &list_operations, &ess_cert_ids},
+    {197, constructed, 16, 0x103bf, &list_operations, &ess_cert_ids_v2},
     {198, constructed, 16, 0x103c1, &list_operations, &certificate_policies},
-    {199, constructed, 16, 0x103c3, unbuilt, nullptr},
-    {200, constructed, 16, 0x103c3, unbuilt, nullptr},
+    {199, constructed, 16, 0x103c3, &structure_operations, &signing_certificate},
+    {200, constructed, 16, 0x103c3, &structure_operations, &signing_certificate_v2},
     {201, either, 0, 0x103c7, &choice_operations, &ecpk_parameters},
     {202, constructed, 16, 0x103c9, &structure_operations, &ec_private_key},
     {203, constructed, 16, 0x103cb, &structure_operations, &sm2_cipher},

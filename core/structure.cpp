@@ -234,7 +234,7 @@ private:
     // Does the component begin with the identifier that was read?
     [[nodiscard]] bool matches(const Component &component) const {
         const Type &type = decode_row(component);
-        switch (component.read_tagging) {
+        switch (component.tag.tagging) {
         case Tagging::none:
             return begins(type, identifier_);
         case Tagging::implicit:
@@ -242,6 +242,7 @@ private:
                    (identifier_.form == type.form ||
                     (type.form != Form::constructed && component.begins != Begins::in_own_form));
         case Tagging::explicit_:
+        case Tagging::bare:
             return identifier_.is(Class::context, component.tag.number) && identifier_.form == Form::constructed;
         }
         return false;
@@ -257,7 +258,7 @@ private:
     Result read_whole(const Component &component, Value *&slot) {
         const Type &type = decode_row(component);
         if (const Result result = decode(decoder_, type, slot); result != success)
-            return decoder_.fail(at(shape_, component), decode_code(component), result);
+            return fail_decode(decoder_, at(shape_, component), component, result);
         return type.number == KOVRA_ASN1_TYPE_ANY && is_end_of_contents(slot) ? end_of_contents(component, slot)
                                                                               : success;
     }
@@ -297,7 +298,7 @@ private:
         int32_t length = 0;
         if (const Result result = decode_length(decoder_, at(shape_, component), length); result != success)
             return result;
-        return component.read_tagging == Tagging::explicit_
+        return component.tag.tagging == Tagging::explicit_
                    ? decode_explicit(decoder_, at(shape_, component), component, length, slot)
                    : read_content(component, length, slot);
     }
@@ -309,7 +310,7 @@ private:
         const Element element{identifier_.form, length, is_own ? identifier_start_ : Element::no_start};
         const Result result = is_own ? decode_begun(decoder_, type, identifier_, element, place)
                                      : type.operations->decode_content(decoder_, type, element, place);
-        return result == success ? success : decoder_.fail(at(shape_, component), decode_code(component), result);
+        return result == success ? success : fail_decode(decoder_, at(shape_, component), component, result);
     }
 
     // The component is decoded from its exact octets, which stay with the record.
@@ -437,18 +438,23 @@ constexpr Operations kept_structure_operations = {
     .records_reserve = structure_reserve,
 };
 
+Record *new_structure(Arena &arena, const Structure &shape) {
+    Record *record = new_record_of(arena, *shape.shape());
+    if (record != nullptr)
+        std::fill_n(record->slots, record->shape->count, nullptr);
+    return record;
+}
+
 Record *new_structure(const Structure &shape) {
     const Structure &own = *shape.shape();
     Arena *arena = Arena::create(sizeof(Record) + own.count * sizeof(Value *) + 2 * sizeof(Octets));
     if (arena == nullptr)
         return nullptr;
-    Record *record = new_record_of(*arena, own);
-    if (record == nullptr) {
+    Record *record = new_structure(*arena, own);
+    if (record == nullptr)
         Arena::destroy(arena);
-        return nullptr;
-    }
-    std::fill_n(record->slots, own.count, nullptr);
-    arena->root = record;
+    else
+        arena->root = record;
     return record;
 }
 
@@ -467,7 +473,7 @@ bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value) {
         record.slots[slot] = component.fallback->make(*record.arena);
         return record.slots[slot] != nullptr;
     }
-    Value *copy = copy_part(*component.duplicated_as, static_cast<const Value *>(value));
+    Value *copy = copy_part(*component.copied_as, static_cast<const Value *>(value));
     if (copy == nullptr)
         return false;
     return store(record, slot, copy);

@@ -76,8 +76,11 @@ template <size_t count> constexpr Structure signed_structure(const char *source,
 
 // A new, empty record in an arena of its own; null when memory is short.
 Record *new_structure(const Structure &shape);
-// Stores an independent copy of `value`, as a value of the component's type, in a slot; an absent value leaves an
-// optional slot empty and fills a defaulted one. False when a required value is absent or something cannot be copied.
+// The same in an arena that is there.
+Record *new_structure(Arena &arena, const Structure &shape);
+// Stores an independent copy of `value`, as a value of the type that the component is copied as, in a slot; an absent
+// value leaves an optional slot empty and fills a defaulted one. False when a required value is absent or something
+// cannot be copied.
 bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value);
 // Stores a value that is the root of its own arena, and takes it over. False when that cannot be; null is refused.
 bool store(Record &record, uint8_t slot, Value *value);
