@@ -15,8 +15,6 @@ constexpr uint32_t ocsp_response = 175;
 constexpr uint32_t time_stamp_request = 187;
 constexpr uint32_t time_stamp_response = 190;
 constexpr uint32_t time_stamp_info = 192;
-constexpr uint32_t ec_parameters = 201;
-constexpr uint32_t ec_private_key = 202;
 
 // A pattern is a sequence of marks for elements, in parentheses those inside the one before:
 //   S SEQUENCE, T SET, I INTEGER, B BIT STRING, O OCTET STRING, o OBJECT IDENTIFIER, E ENUMERATED, t a time,
@@ -37,7 +35,7 @@ constexpr Shape shapes[] = {
     {KOVRA_ASN1_TYPE_PFX, "S(IS(o0(*))?S)"},
     {KOVRA_ASN1_TYPE_PRIVATE_KEY_INFO, "S(IS(o*)O*)"},
     {KOVRA_ASN1_TYPE_RSA_PRIVATE_KEY, "S(IIIIIIIII*)"},
-    {ec_private_key, "S(IO?0(*)?1(B))"},
+    {KOVRA_ASN1_TYPE_EC_PRIVATE_KEY, "S(IO?0(*)?1(B))"},
     {KOVRA_ASN1_TYPE_ENCRYPTED_PRIVATE_KEY_INFO, "S(S(oS*)O)"},
     {KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO, "S(S(o*)B)"},
     {KOVRA_ASN1_TYPE_CERTIFICATE_PAIR, "S(0(S(S(*)SB))?1(S(S(*)SB)))"},
@@ -49,6 +47,7 @@ constexpr Shape shapes[] = {
     {time_stamp_info, "S(IoS(S(o*)O)It*)"},
     {KOVRA_ASN1_TYPE_TBS_CERTIFICATE, "S(?0(I)ISSS(tt)SS(SB)*)"},
     {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST_INFO, "S(ISS(SB)0)"},
+    {KOVRA_ASN1_TYPE_ECPK_PARAMETERS, "S(IS(o*)S(OO*)OI*)"},
     {KOVRA_ASN1_TYPE_DIGEST_INFO, "S(S(o*)O)"},
     {KOVRA_ASN1_TYPE_NAME, "S(T(S(o.))*)"},
     {KOVRA_ASN1_TYPE_EXTENSIONS, "S(S(o*)*)"},
@@ -72,8 +71,8 @@ constexpr Label labels[] = {
     {"PRIVATE KEY", KOVRA_ASN1_TYPE_PRIVATE_KEY_INFO},
     {"ENCRYPTED PRIVATE KEY", KOVRA_ASN1_TYPE_ENCRYPTED_PRIVATE_KEY_INFO},
     {"RSA PRIVATE KEY", KOVRA_ASN1_TYPE_RSA_PRIVATE_KEY},
-    {"EC PRIVATE KEY", ec_private_key},
-    {"EC PARAMETERS", ec_parameters},
+    {"EC PRIVATE KEY", KOVRA_ASN1_TYPE_EC_PRIVATE_KEY},
+    {"EC PARAMETERS", KOVRA_ASN1_TYPE_ECPK_PARAMETERS},
     {"DSA PARAMETERS", KOVRA_ASN1_TYPE_DSS_PARMS},
     {"DH PARAMETERS", KOVRA_ASN1_TYPE_DH_PARAMETER},
 };
