@@ -84,9 +84,6 @@ struct Component {
     const Type *copied_as = &registry[type];
     // The row that writes the content octets although the lengths are those of the component's own; null: none does.
     const Type *content_written_as = nullptr;
-    // Is it decoded whole, without a look at its identifier first?
-    bool is_read_whole =
-        tag.tagging == Tagging::none && (presence == Presence::required || type == KOVRA_ASN1_TYPE_ANY);
 
     constexpr Component begun(Begins how) const {
         Component changed = *this;

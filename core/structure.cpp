@@ -193,27 +193,26 @@ public:
         const Component *const last = component + shape_.count;
         const Component *const required_end = component + shape_.required_end;
         Value **slot = record_.slots;
-        // What stands behind a component that may be absent is known by its identifier, whether that was there or not.
-        bool follows_optional = false;
+        uint32_t read_whole_bits = shape_.read_whole;
         if (shape_.signed_slot == 0) {
             *slot = nullptr;
             if (const Result result = read_signed(*component++, *slot++); result != success)
                 return result;
+            read_whole_bits >>= 1;
         }
-        for (; component != last; ++component, ++slot) {
+        for (; component != last; ++component, ++slot, read_whole_bits >>= 1) {
             Result result = success;
             *slot = nullptr;
             if (state_ != State::between)
                 result = state_ == State::ended ? leave_absent(*component, *slot) : read_tested(*component, *slot);
             else if (decoder.position() == end && component >= required_end)
                 result = leave_absent(*component, *slot);
-            else if (component->is_read_whole && !(follows_optional && component->type != KOVRA_ASN1_TYPE_ANY))
+            else if ((read_whole_bits & 1) != 0)
                 result = read_whole(*component, *slot);
             else
                 result = read_tested(*component, *slot);
             if (result != success)
                 return result;
-            follows_optional = component->presence != Presence::required;
             if (decoder.position() > end)
                 return decoder.fail(at(shape_, *component), code::incorrect_length);
         }

@@ -22,6 +22,7 @@ struct Structure {
     // The first component, when its exact octets are kept because they are what is signed; else no_slot.
     uint8_t signed_slot = no_slot;
     uint8_t required_end = 0; // behind the last required component
+    uint32_t read_whole = 0;  // a bit for each component that is decoded without a look at its identifier first
     // The structure whose records these are, when this one only restricts it; null: its own.
     const Structure *record = nullptr;
     // A record that is not allowed is refused in both directions with `refusal`; null: all are allowed.
@@ -35,11 +36,18 @@ struct Structure {
 };
 
 template <size_t count> constexpr Structure structure(const char *source, const Component (&components)[count]) {
-    static_assert(count < no_slot);
+    static_assert(count <= 32);
     Structure made{source, components, count};
-    for (uint8_t i = 0; i < count; ++i)
-        if (components[i].presence == Presence::required)
+    for (uint8_t i = 0; i < count; ++i) {
+        const bool is_required = components[i].presence == Presence::required;
+        if (is_required)
             made.required_end = i + 1;
+        // What stands behind a component that may be absent is known by its identifier, whether that was there or not.
+        const bool is_next = i == 0 || components[i - 1].presence == Presence::required;
+        if (components[i].tag.tagging == Tagging::none &&
+            ((is_required && is_next) || components[i].type == KOVRA_ASN1_TYPE_ANY))
+            made.read_whole |= uint32_t{1} << i;
+    }
     return made;
 }
 // A list that keeps its encoding, which lists by themselves do not.
