@@ -193,24 +193,33 @@ public:
         const Component *const last = component + shape_.count;
         const Component *const required_end = component + shape_.required_end;
         Value **slot = record_.slots;
-        uint32_t read_whole_bits = shape_.read_whole;
+        uint32_t whole = shape_.read_whole;
         if (shape_.signed_slot == 0) {
             *slot = nullptr;
             if (const Result result = read_signed(*component++, *slot++); result != success)
                 return result;
-            read_whole_bits >>= 1;
+            whole >>= 1;
         }
-        for (; component != last; ++component, ++slot, read_whole_bits >>= 1) {
+        for (; component != last; ++component, ++slot, whole >>= 1) {
+            const uint32_t start = decoder.position();
+            const Type &type = *component->read_as;
+            const Operations &operations = *type.operations;
+            uint32_t length = 0;
             Result result = success;
             *slot = nullptr;
-            if (state_ != State::between)
+            if (state_ != State::between) {
                 result = state_ == State::ended ? leave_absent(*component, *slot) : read_tested(*component, *slot);
-            else if (decoder.position() == end && component >= required_end)
+            } else if (start == end && component >= required_end) {
                 result = leave_absent(*component, *slot);
-            else if ((read_whole_bits & 1) != 0)
-                result = read_whole(*component, *slot);
-            else
-                result = read_tested(*component, *slot);
+            } else if (component->tag.tagging == Tagging::none && operations.decode_entered != nullptr &&
+                       decoder.enter(type.usual_identifier, length)) {
+                const auto decode_here = (whole & 1) != 0 ? operations.decode_entered : operations.decode_content;
+                result = decode_here(decoder, type, type.usual_element(length, start), *slot);
+                if (result != success)
+                    return fail_decode(decoder, at(shape_, *component), *component, result);
+            } else {
+                result = (whole & 1) != 0 ? read_whole(*component, *slot) : read_tested(*component, *slot);
+            }
             if (result != success)
                 return result;
             if (decoder.position() > end)
@@ -273,14 +282,7 @@ private:
 
     Result read_tested(const Component &component, Value *&slot) {
         if (state_ == State::between) {
-            const Type &type = decode_row(component);
-            uint32_t length = 0;
             identifier_start_ = decoder_.position();
-            if (component.tag.tagging == Tagging::none && type.operations->begins == nullptr &&
-                decoder_.enter(type.usual_identifier, length)) {
-                identifier_ = identifier_of(type.usual_identifier);
-                return read_content(component, static_cast<int32_t>(length), slot);
-            }
             if (const Result result = decode_identifier(decoder_, at(shape_, component), identifier_);
                 result != success)
                 return result;
