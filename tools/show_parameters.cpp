@@ -44,7 +44,7 @@ constexpr Element field_items[] = {
 constexpr Element domain_items[] = {
     {"version", KOVRA_ASN1_TYPE_INTEGER, show_integer},
     {"field", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, show_items<field_items>},
-    {"curve", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, show_items<curve_items>},
+    {"coefficients", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, show_items<curve_items>},
     {"base point", KOVRA_ASN1_TYPE_OCTET_STRING, show_hex},
     {"order", KOVRA_ASN1_TYPE_INTEGER, show_integer},
     {"cofactor", KOVRA_ASN1_TYPE_INTEGER, show_integer},
@@ -59,7 +59,7 @@ void show_curve(Printer &printer, kovra_asn1_value *parameters) {
     Value list(KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY);
     const std::string octets = encoding_of(KOVRA_ASN1_TYPE_ECPK_PARAMETERS, parameters);
     if (kind == written_out && read_octets(octets, KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, list))
-        show_items<domain_items>(printer, list.get());
+        show_items<domain_items>(printer, "curve", list.get());
     else
         printer.field("curve", "implicitlyCA");
 }
