@@ -53,7 +53,7 @@ constexpr OidRow bag_contents[] = {
     {"1.2.840.113549.1.9.23.1", KOVRA_ASN1_TYPE_CERTIFICATE_LIST},
 };
 
-constexpr OidRow basic_response = {"1.3.6.1.5.5.7.48.1.1", KOVRA_ASN1_TYPE_OCSP_BASIC_RESPONSE};
+constexpr OidRow basic_response = {basic_response_oid, KOVRA_ASN1_TYPE_OCSP_BASIC_RESPONSE};
 constexpr OidRow token = {"", KOVRA_ASN1_TYPE_CONTENT_INFO};
 // Data in data is an AuthenticatedSafe first, then SafeContents.
 constexpr OidRow authenticated_safe = {"", KOVRA_ASN1_TYPE_AUTHENTICATED_SAFE};

@@ -14,6 +14,7 @@ namespace kovra::tool {
 // of type data is any octets.
 std::span<const OidRow> find_content(std::string_view oid);
 inline constexpr std::string_view data_oid = "1.2.840.113549.1.7.1";
+inline constexpr std::string_view basic_response_oid = "1.3.6.1.5.5.7.48.1.1";
 
 // The types of keys in a PrivateKeyInfo by algorithm, of bags, and of what is in a bag of certificates or CRLs.
 const OidRow *find_private_key(std::string_view algorithm);

@@ -12,11 +12,10 @@ void show_content_octets(Printer &printer, const kovra_asn1_value *oid, kovra_as
 // EnvelopedData and AuthEnvelopedData (RFC 5083) as a SEQUENCE of elements.
 void show_enveloped_elements(Printer &printer, kovra_asn1_value *list);
 
-// Private keys that are a number or octets, and a DSA key as it stands outside of PKCS #8: a SEQUENCE of six INTEGERs,
-// false with nothing printed when it is something else.
+// Private keys that are a number or octets.
 void show_private_number(Printer &printer, kovra_asn1_value *integer);
 void show_private_octets(Printer &printer, kovra_asn1_value *octet_string);
-bool show_dsa_key(Printer &printer, kovra_asn1_value *list);
+
 // A list of Certificates, without alternatives.
 void show_plain_certificates(Printer &printer, std::string_view label, kovra_asn1_value *certificates);
 

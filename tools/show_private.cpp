@@ -120,6 +120,21 @@ const Field pair[] = {
     {"", kovra_envelopedkeypair_getenvkeypair, show_here<KOVRA_ASN1_TYPE_INNER_ENVELOPED_KEY_PAIR>},
 };
 
+// A DSA key as it stands outside of PKCS #8: six INTEGERs. False, with nothing printed, when it is something else.
+bool show_dsa_key(Printer &printer, kovra_asn1_value *list) {
+    size_t numbers = 0;
+    size_t elements = 0;
+    for_each(list, [&](kovra_asn1_value *any) {
+        Value number(KOVRA_ASN1_TYPE_INTEGER);
+        numbers += read_any(any, KOVRA_ASN1_TYPE_INTEGER, number) ? 1 : 0;
+        ++elements;
+    });
+    if (elements != std::size(dsa_private) || numbers != elements)
+        return false;
+    show_items<dsa_private>(printer, list);
+    return true;
+}
+
 // Elements of no known meaning, but for a DSA key.
 void show_elements(Printer &printer, kovra_asn1_value *list) {
     if (!show_dsa_key(printer, list))
@@ -145,20 +160,6 @@ constexpr TypeRow rows[] = {
 };
 
 } // namespace
-
-bool show_dsa_key(Printer &printer, kovra_asn1_value *list) {
-    size_t numbers = 0;
-    size_t elements = 0;
-    for_each(list, [&](kovra_asn1_value *any) {
-        Value number(KOVRA_ASN1_TYPE_INTEGER);
-        numbers += read_any(any, KOVRA_ASN1_TYPE_INTEGER, number) ? 1 : 0;
-        ++elements;
-    });
-    if (elements != std::size(dsa_private) || numbers != elements)
-        return false;
-    show_items<dsa_private>(printer, list);
-    return true;
-}
 
 void show_private_number(Printer &printer, kovra_asn1_value *integer) {
     show_secret_number(printer, private_label, integer);

@@ -56,12 +56,11 @@ const Field response[] = {
 };
 
 void show_response_bytes(Printer &printer, kovra_asn1_value *bytes) {
-    constexpr std::string_view basic = "1.3.6.1.5.5.7.48.1.1";
     constexpr uint32_t type = KOVRA_ASN1_TYPE_OCSP_BASIC_RESPONSE;
     kovra_asn1_value *oid = kovra_ocsp_responsebytes_gettype(bytes);
     const std::string octets = octets_of(kovra_ocsp_responsebytes_getresponse(bytes));
     show_named_oid(printer, "response type", oid);
-    if (text_of_oid(oid) != basic)
+    if (text_of_oid(oid) != basic_response_oid)
         return printer.hex("response", octets);
     if (Value value(type); read_octets(octets, type, value))
         show_below<type>(printer, "response", value.get());
