@@ -130,6 +130,8 @@ TEST_F(ShowMessage, PrivateOctetsThatAreNoKeyAreHidden) {
          0},
         {"a store of other data", store(content_info(data_id, der(0x04, secret))), 1},
         {"a store of unknown content", store(content_info("1.2.3.4", secret)), 0},
+        {"a store that says it is enveloped",
+         store(content_info("1.2.840.113549.1.7.3", der(0x30, octets("020100") + der(0x30, secret)))), 0},
         {"a store that is signed",
          store(content_info(signed_id, der(0x30, octets("020101 3100") +
                                                      bags(content_info("1.2.840.113549.1.12.10.1.1", key("1.2.3.4"))) +

@@ -49,6 +49,8 @@ public:
 
     // The type of what stands in content of type data, where that is known: in stores of keys.
     uint32_t type_of_data = KOVRA_ASN1_TYPE_COUNT;
+    // There, what is not what it should be may be private.
+    [[nodiscard]] bool is_in_store() const { return type_of_data != KOVRA_ASN1_TYPE_COUNT; }
 
     // Lines are indented further while one of these lives.
     class Deeper {

@@ -91,6 +91,13 @@ void show_secret_number(Printer &printer, std::string_view label, kovra_asn1_val
     printer.end();
 }
 
+void show_unknown(Printer &printer, std::string_view label, kovra_asn1_value *any) {
+    if (printer.is_in_store())
+        printer.secret(label, encoding_of(KOVRA_ASN1_TYPE_ANY, any));
+    else
+        show_any(printer, label, any);
+}
+
 void show_modulus(Printer &printer, std::string_view label, kovra_asn1_value *integer) {
     printer.begin(label);
     printer.out.put_number(bit_length(integer_octets(integer)));

@@ -47,6 +47,8 @@ void show_utf8(Printer &printer, std::string_view label, kovra_asn1_value *strin
 void show_one_name(Printer &printer, std::string_view label, kovra_asn1_value *general_name);
 void show_secret_number(Printer &printer, std::string_view label, kovra_asn1_value *integer);
 void show_secret_octets(Printer &printer, std::string_view label, kovra_asn1_value *octet_string);
+// An element that is not known to be anything.
+void show_unknown(Printer &printer, std::string_view label, kovra_asn1_value *any);
 // A number with its size.
 void show_modulus(Printer &printer, std::string_view label, kovra_asn1_value *integer);
 

@@ -36,7 +36,7 @@ void show_store_data(Printer &printer, std::string_view octets) {
 
 void show_data(Printer &printer, std::string_view octets) {
     constexpr size_t longest = 200;
-    if (printer.type_of_data != KOVRA_ASN1_TYPE_COUNT)
+    if (printer.is_in_store())
         return show_store_data(printer, octets);
     if (octets.empty() || !is_text(octets) || (octets.size() > longest && !printer.is_full()))
         return printer.hex("content", octets);
@@ -62,10 +62,7 @@ bool show_structure(Printer &printer, const kovra_asn1_value *oid, std::string_v
     }
     if (rows.empty())
         return false;
-    if (printer.type_of_data == KOVRA_ASN1_TYPE_COUNT)
-        printer.malformed(name_of_oid(oid), rows.front().type, octets);
-    else
-        printer.malformed_secret(name_of_oid(oid), rows.front().type, octets);
+    printer.malformed(name_of_oid(oid), rows.front().type, octets);
     return true;
 }
 
@@ -180,10 +177,7 @@ void show_content(Printer &printer, const kovra_asn1_value *oid, kovra_asn1_valu
     const std::string octets = encoding_of(KOVRA_ASN1_TYPE_ANY, any);
     if (show_structure(printer, oid, octets))
         return;
-    if (printer.type_of_data == KOVRA_ASN1_TYPE_COUNT)
-        printer.element("content", octets);
-    else
-        printer.secret("content", octets);
+    show_unknown(printer, "content", any);
 }
 
 void show_content_octets(Printer &printer, const kovra_asn1_value *oid, kovra_asn1_value *octet_string) {
@@ -194,10 +188,10 @@ void show_content_octets(Printer &printer, const kovra_asn1_value *oid, kovra_as
         return show_data(printer, octets);
     if (show_structure(printer, oid, octets))
         return;
-    if (printer.type_of_data == KOVRA_ASN1_TYPE_COUNT)
-        printer.hex("content", octets);
-    else
+    if (printer.is_in_store())
         printer.secret("content", octets);
+    else
+        printer.hex("content", octets);
 }
 
 std::span<const TypeRow> message_structures() {

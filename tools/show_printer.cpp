@@ -85,6 +85,8 @@ void Printer::tree(std::string_view octets) {
 }
 
 void Printer::malformed(std::string_view what, uint32_t type, std::string_view octets) {
+    if (is_in_store())
+        return malformed_secret(what, type, octets);
     hex("malformed", octets);
     report(what, type, octets);
 }

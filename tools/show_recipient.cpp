@@ -180,7 +180,7 @@ bool show_password(Printer &printer, kovra_asn1_value *any) {
         if (item != nullptr && read_any(element, item->type, value))
             item->line(printer, item->label, value.get());
         else
-            show_any(printer, "element", element);
+            show_unknown(printer, "element", element);
     });
     return true;
 }
@@ -245,7 +245,7 @@ void show_enveloped_elements(Printer &printer, kovra_asn1_value *list) {
             if (is_read)
                 return part.line(printer, part.label, value.get());
         }
-        show_any(printer, "element", any);
+        show_unknown(printer, "element", any);
     };
     for_each(list, show_part);
 }
