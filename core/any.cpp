@@ -55,6 +55,22 @@ Result walk_element_with_care(Decoder &decoder, Extent &out) {
     return success;
 }
 
+bool attach_stream(Any &any) {
+    kovra_stream *source = find_stream_content(any.arena->stream_contents, any.content.octets.offset);
+    if (source == nullptr || any.length != indefinite)
+        return true;
+    kovra_stream *stream = new_segment_stream(source);
+    if (stream == nullptr)
+        return false;
+    if (!any.arena->own(stream)) {
+        kovra_stream_free(stream);
+        return false;
+    }
+    any.content.stream = stream;
+    any.segments_of = source;
+    return true;
+}
+
 namespace {
 
 int32_t any_content_length(const Type &, Value *value, Measure) {
@@ -81,6 +97,10 @@ Result encode_any(Encoder &encoder, const Type &, Value *value) {
         return encoder.end_of_contents(here());
     int64_t copied = 0;
     Result result = encoder.put(here(), any->header.data(*any->arena), any->header.length);
+    if (result == success && any->segments_of != nullptr && encoder.leaves_streams()) {
+        result = encoder.note(here(), any->segments_of);
+        return result == success ? encoder.end_of_contents(here()) : result;
+    }
     if (result == success)
         result = put_content(encoder, here(), any->content, *any->arena, copied);
     if (result == success && any->length != indefinite && copied != any->length)

@@ -72,15 +72,21 @@ inline void fill_any(Any &any, Arena &arena, const Extent &extent, uint32_t cont
            extent.length,
            extent.identifier.tag_class,
            extent.identifier.form,
-           is_marker};
+           is_marker,
+           nullptr};
 }
+
+// Gives an element whose content is noted to be in a stream that stream; false when memory is short.
+bool attach_stream(Any &any);
 
 // The open-type record of an element that was just walked over; null when memory is short.
 inline Any *new_any(Decoder &decoder, const Extent &extent) {
-    auto *any = static_cast<Any *>(decoder.arena().allocate(sizeof(Any)));
-    if (any != nullptr)
-        fill_any(*any, decoder.arena(), extent, decoder.position() - extent.content);
-    return any;
+    Arena &arena = decoder.arena();
+    auto *any = static_cast<Any *>(arena.allocate(sizeof(Any)));
+    if (any == nullptr)
+        return nullptr;
+    fill_any(*any, arena, extent, decoder.position() - extent.content);
+    return arena.stream_contents == nullptr || attach_stream(*any) ? any : nullptr;
 }
 
 } // namespace kovra::asn1

@@ -15,6 +15,11 @@ constexpr size_t largest_block = size_t{256} * 1024;
 
 } // namespace
 
+struct Arena::OwnedStream {
+    OwnedStream *next;
+    kovra_stream *stream;
+};
+
 Arena *Arena::create(size_t reserve) {
     if (reserve > SIZE_MAX - sizeof(Arena) - alignment)
         return nullptr;
@@ -42,6 +47,7 @@ void Arena::destroy(Arena *arena) {
         }
         if (arena->root != nullptr)
             arena->root->kind = Kind::released;
+        arena->free_streams(nullptr);
         for (Block *block = arena->blocks_; block != nullptr;) {
             Block *next = block->next;
             kovra_free(block);
@@ -113,7 +119,21 @@ void *Arena::allocate_in_new_block(size_t size) {
     return block->memory();
 }
 
+bool Arena::own(kovra_stream *stream) {
+    void *memory = allocate(sizeof(OwnedStream));
+    if (memory == nullptr)
+        return false;
+    streams_ = new (memory) OwnedStream{streams_, stream};
+    return true;
+}
+
+void Arena::free_streams(const OwnedStream *until) {
+    for (; streams_ != until; streams_ = streams_->next)
+        kovra_stream_free(streams_->stream);
+}
+
 void Arena::reset(const Mark &mark) {
+    free_streams(mark.streams);
     while (blocks_ != mark.blocks) {
         Block *block = blocks_;
         blocks_ = block->next;

@@ -4,8 +4,11 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "kovra/util_stream.h"
+
 namespace kovra::asn1 {
 
+struct StreamContent;
 struct Value;
 
 class Arena {
@@ -53,14 +56,19 @@ public:
 
     // Everything that was allocated after a mark can be taken back at once, which is what makes a scratch area of an
     // arena.
+    struct OwnedStream;
     struct Mark {
         Block *blocks;
         Block *current;
         uint8_t *next;
         uint8_t *end;
+        OwnedStream *streams;
     };
-    [[nodiscard]] Mark mark() const { return {blocks_, current_, next_, end_}; }
+    [[nodiscard]] Mark mark() const { return {blocks_, current_, next_, end_, streams_}; }
     void reset(const Mark &mark);
+
+    // Takes over a stream, which is freed with the arena; false when memory is short.
+    bool own(kovra_stream *stream);
 
     // Takes over a value that is the root of its own arena; false when it is not its own, or holds this arena.
     bool adopt(Value *value);
@@ -71,6 +79,8 @@ public:
     // The octets that the records' offsets count from.
     const uint8_t *octets = nullptr;
     uint32_t octets_length = 0;
+    // The caller's streams that hold contents of the arena's values (core/stream_contents.hpp).
+    StreamContent *stream_contents = nullptr;
     // The value that the arena was made for; releasing it releases the arena.
     Value *root = nullptr;
 
@@ -78,12 +88,14 @@ private:
     static constexpr size_t alignment = alignof(std::max_align_t) < 8 ? alignof(std::max_align_t) : 8;
 
     void *allocate_in_new_block(size_t size);
+    void free_streams(const OwnedStream *until);
 
     uint8_t *next_ = nullptr;
     uint8_t *end_ = nullptr;
     Block *blocks_ = nullptr;
     Block *current_ = nullptr; // the block that records are being put into; null while it is the arena's first memory
     Block *spare_ = nullptr; // kept by reset, so that a scratch area near the end of a block costs no allocation a time
+    OwnedStream *streams_ = nullptr;
     size_t next_size_ = 0;
     size_t spare_size_ = 0;
     Arena *owner_ = nullptr;

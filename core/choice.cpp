@@ -41,8 +41,9 @@ int32_t choice_content_length(const Type &, Value *value, Measure measure) {
         return choice->measured;
     const Component &component = chosen(*choice);
     const Type &type = encode_row(component);
-    choice->measured = component.tag.tagging == Tagging::explicit_ ? whole_length(type, choice->value)
-                                                                   : content_length(type, choice->value);
+    const Tagging tagging = component.encode_tag.tagging;
+    choice->measured = tagging == Tagging::explicit_ || tagging == Tagging::bare ? whole_length(type, choice->value)
+                                                                                 : content_length(type, choice->value);
     return choice->measured;
 }
 
@@ -71,10 +72,13 @@ Result encode_choice_content(Encoder &encoder, const Type &type, Value *value, i
         return encoder.fail(in(shape), code::null_argument);
     const Component &component = chosen(*choice);
     const Type &content = encode_row(component);
-    const Result result = component.tag.tagging == Tagging::explicit_
+    const Site site = at(shape, component);
+    if (component.encode_tag.tagging == Tagging::bare)
+        length = content_length(content, choice->value);
+    const Result result = component.encode_tag.tagging == Tagging::explicit_
                               ? encode(encoder, content, choice->value)
-                              : content.operations->encode_content(encoder, content, choice->value, length);
-    return result == success ? success : encoder.fail(at(shape, component), encode_code(component), result);
+                              : encode_component_content(encoder, site, component, choice->value, length);
+    return result == success ? success : fail_encode(encoder, site, component, result);
 }
 
 // The alternative that an identifier begins; the table's count when it begins none.
@@ -124,7 +128,7 @@ Result decode_begun_choice(Decoder &decoder, const Type &type, const Identifier 
             result = content.operations->decode_content(decoder, content, untagged, value);
         }
         if (result != success)
-            decoder.fail(site, decode_code(component), result);
+            fail_decode(decoder, site, component, result);
     }
     if (result != success)
         return result;
@@ -263,7 +267,7 @@ constexpr Operations string_choice_operations = {
 Choice *construct_choice(const ChoiceShape &shape, uint32_t alternative, const kovra_asn1_value *value,
                          uint8_t copied_as) {
     const uint8_t type = copied_as != 0 ? copied_as : shape.alternatives[alternative].type;
-    Value *copy = value != nullptr ? duplicate(row(type), static_cast<const Value *>(value), nullptr) : nullptr;
+    Value *copy = copy_part(row(type), static_cast<const Value *>(value));
     if (copy == nullptr)
         return nullptr;
     auto *choice = new_root<Choice>();
@@ -298,10 +302,20 @@ Value *alternative(const ChoiceShape &shape, const kovra_asn1_value *handle, uin
     return choice != nullptr && choice->alternative == number ? choice->value : nullptr;
 }
 
+Value *chosen_value(const ChoiceShape &shape, const kovra_asn1_value *handle) {
+    const Choice *choice = as_choice(shape, handle);
+    return choice != nullptr ? choice->value : nullptr;
+}
+
+int32_t alternative_number(const ChoiceShape &shape, const kovra_asn1_value *handle) {
+    const Choice *choice = as_choice(shape, handle);
+    return choice != nullptr ? static_cast<int32_t>(choice->alternative) : 0;
+}
+
 TaggedString *construct_string_choice(const StringChoice &shape, int32_t tag, const kovra_asn1_value *string) {
     if (!allows(shape, tag) || as<String>(string) == nullptr)
         return nullptr;
-    Value *copy = duplicate(row(KOVRA_ASN1_TYPE_OCTET_STRING), static_cast<const Value *>(string), nullptr);
+    Value *copy = copy_part(row(KOVRA_ASN1_TYPE_OCTET_STRING), static_cast<const Value *>(string));
     if (copy == nullptr)
         return nullptr;
     auto *tagged = new_root<TaggedString>();

@@ -32,6 +32,9 @@ Choice *construct_null_choice(const ChoiceShape &shape, uint32_t alternative);
 const Choice *as_choice(const ChoiceShape &shape, const kovra_asn1_value *handle);
 // Its value, borrowed, when it holds this alternative; else null.
 Value *alternative(const ChoiceShape &shape, const kovra_asn1_value *handle, uint32_t number);
+// Its value, borrowed, whatever alternative it holds, and the number of that; null and 0 when it is none of this table.
+Value *chosen_value(const ChoiceShape &shape, const kovra_asn1_value *handle);
+int32_t alternative_number(const ChoiceShape &shape, const kovra_asn1_value *handle);
 
 // Character string choices: the row of a TaggedString says which universal tags it may have.
 struct StringChoice {

@@ -70,7 +70,7 @@ Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure)
     if (measure == Measure::fresh && value != nullptr) {
         const int32_t whole = whole_length(type, value);
         if (whole > 0)
-            if (const Result result = encoder.reserve(here(), static_cast<size_t>(whole)); result != success)
+            if (const Result result = encoder.expect(here(), static_cast<size_t>(whole)); result != success)
                 return result;
     }
     if (type.operations->encode != nullptr)
@@ -97,8 +97,12 @@ Result decode_generic(Decoder &decoder, const Type &type, Value *&out) {
 
 namespace {
 
-Value *convert_with(const Type &from, const Value *value, const Type &to, kovra_err_ctx *ctx) {
+enum class Streams : uint8_t { copied, left };
+
+Value *convert_with(const Type &from, const Value *value, const Type &to, Streams streams, kovra_err_ctx *ctx) {
     Encoder encoder(ctx);
+    if (streams == Streams::left)
+        encoder.leave_streams();
     if (encode(encoder, from, const_cast<Value *>(value)) != success) {
         record(ctx, here(), from.base);
         return nullptr;
@@ -108,10 +112,15 @@ Value *convert_with(const Type &from, const Value *value, const Type &to, kovra_
         return nullptr;
     }
     Decoder decoder(encoder.data(), static_cast<uint32_t>(encoder.size()), ctx);
+    decoder.place_streams(encoder.take_notes());
     Value *copy = nullptr;
     if (decoder.decode_root(to, copy) != success || copy == nullptr) {
         record(ctx, here(), to.base + 1);
         return nullptr;
+    }
+    if (!all_found(copy->arena->stream_contents)) {
+        Arena::destroy(copy->arena);
+        return convert_with(from, value, to, Streams::copied, ctx);
     }
     if (decoder.position() != encoder.size()) {
         Arena::destroy(copy->arena);
@@ -128,11 +137,15 @@ Value *duplicate(const Type &type, const Value *value, kovra_err_ctx *ctx) {
         record(ctx, here(), code::null_argument);
         return nullptr;
     }
-    return convert_with(type, value, type, ctx);
+    return convert_with(type, value, type, Streams::copied, ctx);
+}
+
+Value *copy_part(const Type &type, const Value *value) {
+    return value != nullptr ? convert_with(type, value, type, Streams::left, nullptr) : nullptr;
 }
 
 Value *convert(const Type &from, const Value *value, const Type &to) {
-    return convert_with(from, value, to, nullptr);
+    return convert_with(from, value, to, Streams::left, nullptr);
 }
 
 Result refuse_decode_content(Decoder &decoder, const Type &, const Element &, Value *&) {

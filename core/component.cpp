@@ -10,13 +10,15 @@ namespace kovra::asn1 {
 
 int32_t component_length(const Component &component, Value *value, Measure measure) {
     const Type &type = encode_row(component);
-    switch (component.tag.tagging) {
+    const Tag tag = component.encode_tag;
+    switch (tag.tagging) {
     case Tagging::none:
         return whole_length(type, value, measure);
     case Tagging::implicit:
-        return whole_length_of(component.tag.number, content_length(type, value, measure));
+        return whole_length_of(tag.number, content_length(type, value, measure));
     case Tagging::explicit_:
-        return whole_length_of(component.tag.number, whole_length(type, value, measure));
+    case Tagging::bare:
+        return whole_length_of(tag.number, whole_length(type, value, measure));
     }
     return unknown;
 }
@@ -25,21 +27,23 @@ namespace {
 
 Result encode_tagged(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure) {
     const Type &type = encode_row(component);
-    const bool is_explicit = component.tag.tagging == Tagging::explicit_;
+    const Tag tag = component.encode_tag;
+    const bool is_explicit = tag.tagging == Tagging::explicit_;
     const int32_t length = is_explicit ? whole_length(type, value, measure) : content_length(type, value, measure);
     if (length < indefinite)
         return encoder.fail(site, code::no_length);
-    const bool is_constructed = is_explicit || type.form == Form::constructed || length == indefinite;
-    Result result = encoder.identifier(site, Class::context, is_constructed ? Form::constructed : Form::primitive,
-                                       component.tag.number);
+    const bool is_constructed =
+        tag.tagging != Tagging::implicit || type.form == Form::constructed || length == indefinite;
+    Result result =
+        encoder.identifier(site, Class::context, is_constructed ? Form::constructed : Form::primitive, tag.number);
     if (result != success)
         return encoder.fail(site, code::write_identifier, result);
     if (result = encoder.length(site, length); result != success)
         return encoder.fail(site, code::write_length, result);
     result = is_explicit ? encode(encoder, type, value, length >= 0 ? measure : Measure::fresh)
-                         : type.operations->encode_content(encoder, type, value, length);
+                         : encode_component_content(encoder, site, component, value, length);
     if (result != success)
-        return encoder.fail(site, encode_code(component), result);
+        return fail_encode(encoder, site, component, result);
     if (is_explicit && length == indefinite)
         if (result = encoder.end_of_contents(site); result != success)
             return encoder.fail(site, code::write_end_of_contents, result);
@@ -49,10 +53,20 @@ Result encode_tagged(Encoder &encoder, Site site, const Component &component, Va
 } // namespace
 
 Result encode_component(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure) {
-    if (component.tag.tagging != Tagging::none)
+    if (component.encode_tag.tagging != Tagging::none)
         return encode_tagged(encoder, site, component, value, measure);
     const Result result = encode(encoder, encode_row(component), value, measure);
-    return result == success ? success : encoder.fail(site, encode_code(component), result);
+    return result == success ? success : fail_encode(encoder, site, component, result);
+}
+
+Result encode_component_content(Encoder &encoder, Site site, const Component &component, Value *value, int32_t length) {
+    if (component.content_written_as == nullptr) {
+        const Type &type = encode_row(component);
+        return type.operations->encode_content(encoder, type, value, length);
+    }
+    const Type &type = *component.content_written_as;
+    return holds(type, value) ? type.operations->encode_content(encoder, type, value, length)
+                              : encoder.fail(site, code::incorrect_item);
 }
 
 Result decode_explicit(Decoder &decoder, Site site, const Component &component, int32_t length, Value *&out) {

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "core/registry.hpp"
+#include "core/stream_contents.hpp"
 
 namespace kovra::asn1 {
 
@@ -33,6 +34,7 @@ Decoder::Decoder(kovra_stream *stream, kovra_err_ctx *ctx)
 
 Decoder::~Decoder() {
     Arena::drop_block(pulled_);
+    drop_stream_contents(notes_);
     Arena::destroy(scratch_);
 }
 
@@ -117,10 +119,13 @@ template <class Decode> Result Decoder::into_own_arena(size_t reserve, Decode de
     if (arena_ == nullptr)
         return fail(here(), code::no_memory);
     arena_->octets = base_;
+    arena_->stream_contents = notes_;
     Result result = decode(value);
     if (result == success && value != nullptr) {
         arena_->root = value;
         if (keep_octets()) {
+            link_stream_contents(*arena_, notes_);
+            notes_ = nullptr;
             out = value;
             arena_ = nullptr;
             return success;
@@ -164,6 +169,7 @@ bool Decoder::Scratch::begin(bool only_checking) {
     decoder_.arena_ = decoder_.scratch_;
     decoder_.arena_->octets = decoder_.base_;
     decoder_.arena_->octets_length = decoder_.size_;
+    decoder_.arena_->stream_contents = outer_->stream_contents;
     decoder_.checking_ = checking_ || only_checking;
     mark_ = decoder_.arena_->mark();
     begun_ = true;

@@ -45,6 +45,9 @@ public:
     Result decode_root_content(const Type &type, const Element &element, Value *&out);
     // The octets in memory that the decoder reads become the arena's without a copy when the decode succeeds.
     void take_over(Arena::Block *block) { pulled_ = block; }
+    // Contents that are in streams, from the encoding whose octets are read. They become the arena's when the decode
+    // succeeds.
+    void place_streams(StreamContent *notes) { notes_ = notes; }
     // Steps a stream that shows its octets over those that were read.
     void advance_stream();
 
@@ -205,6 +208,7 @@ private:
     kovra_stream *shown_ = nullptr;  // the stream whose octets are read in place
     Arena::Block *pulled_ = nullptr; // holds the octets that came from `stream_`
     size_t pulled_capacity_ = 0;
+    StreamContent *notes_ = nullptr;
     Arena *scratch_ = nullptr;
     Result stream_result_ = success; // of the stream's last failed read
     bool no_stream_ = false;

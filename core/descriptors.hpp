@@ -28,7 +28,6 @@ extern const Operations any_time_operations;
 extern const Operations time_operations;
 extern const Operations choice_operations;
 extern const Operations string_choice_operations;
-extern const Operations unbuilt_operations;
 
 // keys/
 extern const Structure cert_bag;
@@ -141,5 +140,76 @@ extern const ChoiceShape general_name;
 extern const StringChoice directory_string;
 extern const StringChoice display_text;
 extern const StringChoice pkcs9_string;
+
+// cms/
+extern const Structure authenticated_data;
+extern const Structure cms_signed_data;
+extern const Structure content_info;
+extern const Structure dh_other_info;
+extern const Structure digested_data;
+extern const Structure encapsulated_content_info;
+extern const Structure encrypted_content_info;
+extern const Structure encrypted_data;
+extern const Structure enveloped_data;
+extern const Structure issuer_and_serial_number;
+extern const Structure kek_recipient_info;
+extern const Structure key_agree_recipient_info;
+extern const Structure key_specific_info;
+extern const Structure key_trans_recipient_info;
+extern const Structure originator_info;
+extern const Structure other_certificate_format;
+extern const Structure other_key_attribute;
+extern const Structure other_recipient_info;
+extern const Structure other_revocation_info_format;
+extern const Structure password_recipient_info;
+extern const Structure pkcs7_signed_data;
+extern const Structure recipient_encrypted_key;
+extern const Structure recipient_key_identifier;
+extern const Structure signer_info;
+extern const ListShape certificate_set;
+extern const ListShape digest_algorithms;
+extern const ListShape recipient_encrypted_keys;
+extern const ListShape recipient_infos;
+extern const ListShape revocation_info_choices;
+extern const ListShape signer_infos;
+extern const ChoiceShape certificate_choices;
+extern const ChoiceShape key_agree_recipient_identifier;
+extern const ChoiceShape originator_identifier_or_key;
+extern const ChoiceShape recipient_info;
+extern const ChoiceShape revocation_info_choice;
+extern const ChoiceShape signer_identifier;
+
+// services/
+extern const Structure ess_cert_id;
+extern const Structure ess_cert_id_v2;
+extern const Structure issuer_serial;
+extern const Structure ocsp_basic_response;
+extern const Structure ocsp_cert_id;
+extern const Structure ocsp_crl_id;
+extern const Structure ocsp_preferred_signature_algorithms;
+extern const Structure ocsp_request;
+extern const Structure ocsp_response;
+extern const Structure ocsp_response_bytes;
+extern const Structure ocsp_response_data;
+extern const Structure ocsp_revoked_info;
+extern const Structure ocsp_service_locator;
+extern const Structure ocsp_signature;
+extern const Structure ocsp_single_request;
+extern const Structure ocsp_single_response;
+extern const Structure ocsp_tbs_request;
+extern const Structure pki_status_info;
+extern const Structure signing_certificate;
+extern const Structure signing_certificate_v2;
+extern const Structure time_stamp_accuracy;
+extern const Structure time_stamp_req;
+extern const Structure time_stamp_resp;
+extern const Structure tst_info;
+extern const ListShape ess_cert_ids;
+extern const ListShape ess_cert_ids_v2;
+extern const ListShape ocsp_request_list;
+extern const ListShape ocsp_responses;
+extern const ListShape pki_free_text;
+extern const ChoiceShape ocsp_cert_status;
+extern const ChoiceShape ocsp_responder_id;
 
 } // namespace kovra::asn1

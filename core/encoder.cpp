@@ -20,6 +20,7 @@ constexpr int32_t copy_piece = 8192;
 Encoder::~Encoder() {
     if (data_ != inline_)
         kovra_free(data_);
+    drop_stream_contents(notes_);
 }
 
 void Encoder::copy_in(const void *octets, size_t count) {
@@ -42,6 +43,20 @@ Result Encoder::reserve(Site site, size_t count) {
         std::memcpy(grown, inline_, size_);
     data_ = grown;
     capacity_ = capacity;
+    return success;
+}
+
+Result Encoder::expect(Site site, size_t count) {
+    return reserve(site, stream_ != nullptr && held_ == 0 ? std::min(count, piece) : count);
+}
+
+Result Encoder::note(Site site, kovra_stream *content) {
+    if (written() > max_length)
+        return fail(site, code::length_too_large);
+    StreamContent *made = note_stream_content(notes_, content, static_cast<uint32_t>(written()));
+    if (made == nullptr)
+        return fail(site, code::no_memory);
+    notes_ = made;
     return success;
 }
 

@@ -8,6 +8,7 @@
 
 #include "core/failure.hpp"
 #include "core/octets.hpp"
+#include "core/stream_contents.hpp"
 #include "kovra/util_stream.h"
 
 namespace kovra::asn1 {
@@ -31,6 +32,8 @@ public:
 
     // Makes room for `count` octets that are to come, so that they take one allocation.
     Result reserve(Site site, size_t count);
+    // The same where they need not all be gathered before they go to the stream.
+    Result expect(Site site, size_t count);
 
     Result put(Site site, const void *octets, size_t count) {
         if (count > capacity_ - size_)
@@ -53,6 +56,18 @@ public:
     void release() { --held_; }
     [[nodiscard]] const uint8_t *since(int64_t mark) const { return data_ + (mark - flushed_); }
 
+    // Contents in streams that would be written in segments are left where they are and noted.
+    void leave_streams() { leaves_streams_ = true; }
+    [[nodiscard]] bool leaves_streams() const { return leaves_streams_ && held_ == 0; }
+    // Notes a stream in place of the segments that would follow.
+    Result note(Site site, kovra_stream *content);
+    // The notes, which are the caller's from then on.
+    StreamContent *take_notes() {
+        StreamContent *notes = notes_;
+        notes_ = nullptr;
+        return notes;
+    }
+
     // Gives everything to the stream.
     Result flush();
     [[nodiscard]] const uint8_t *data() const { return data_; }
@@ -66,7 +81,9 @@ private:
     kovra_stream *stream_ = nullptr;
     int64_t flushed_ = 0;
     uint32_t held_ = 0;
+    StreamContent *notes_ = nullptr;
     bool no_stream_ = false;
+    bool leaves_streams_ = false;
     uint8_t inline_[512];
     uint8_t *data_ = inline_;
     size_t size_ = 0;

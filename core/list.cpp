@@ -121,37 +121,40 @@ Result encode_elements(Encoder &encoder, const Type &element, List *list, int32_
 // The elements of a list that is being decoded: built, and together with the list, as long as they are few.
 class Collector {
 public:
-    explicit Collector(Decoder &decoder)
-        : decoder_(decoder), list_(new_record<List>(decoder.arena())), mark_(decoder.arena().mark()) {}
+    explicit Collector(Decoder &decoder) : decoder_(decoder), mark_(decoder.arena().mark()) {}
 
-    [[nodiscard]] bool has_list() const { return list_ != nullptr; }
     [[nodiscard]] uint32_t count() const { return count_; }
     [[nodiscard]] bool is_full() const { return count_ == most_built_at_once; }
 
-    // An element that begins at `place` was decoded; there is room while the collector is not full.
+    // Where the next element is put, which begins at `place`; there is room while the collector is not full.
+    Value *&next(uint32_t place) {
+        places_[count_] = place;
+        built_[count_] = nullptr;
+        return built_[count_];
+    }
+    void add() { ++count_; }
     void add(Value *element, uint32_t place) {
-        built_[count_] = element;
-        places_[count_++] = place;
+        next(place) = element;
+        add();
     }
 
     // The list with what was added; null when memory is short.
-    List *finish(const Type &element) {
-        auto *items = static_cast<Value **>(list_->arena->allocate(size_t{count_} * sizeof(Value *)));
-        if (items == nullptr)
+    List *finish(const Type &element) const {
+        Arena &arena = decoder_.arena();
+        auto *list = static_cast<List *>(arena.allocate(sizeof(List) + size_t{count_} * sizeof(Value *)));
+        if (list == nullptr)
             return nullptr;
+        auto **items = reinterpret_cast<Value **>(list + 1);
+        *list = {{Kind::list, 0, &arena}, items, nullptr, nullptr, &element, count_, count_, 0};
         for (uint32_t i = 0; i < count_; ++i)
             items[i] = built_[i];
-        list_->items = items;
-        list_->element = &element;
-        list_->count = list_->capacity = count_;
-        return list_;
+        return list;
     }
 
 private:
     friend class LongCollector;
 
     Decoder &decoder_;
-    List *list_;
     Arena::Mark mark_;
     uint32_t count_ = 0;
     Value *built_[most_built_at_once];
@@ -163,7 +166,7 @@ private:
 class LongCollector {
 public:
     explicit LongCollector(const Collector &first)
-        : decoder_(first.decoder_), scratch_(decoder_), list_(first.list_), keeps_places_(!decoder_.checking()) {}
+        : decoder_(first.decoder_), scratch_(decoder_), keeps_places_(!decoder_.checking()) {}
     ~LongCollector() { Arena::drop_block(places_); }
     LongCollector(const LongCollector &) = delete;
     LongCollector &operator=(const LongCollector &) = delete;
@@ -171,7 +174,8 @@ public:
     // Goes on where the other is full; false when memory is short.
     bool begin(const Collector &first) {
         decoder_.arena().reset(first.mark_);
-        if (!scratch_.begin(true))
+        list_ = new_record<List>(decoder_.arena());
+        if (list_ == nullptr || !scratch_.begin(true))
             return false;
         for (const uint32_t place : first.places_)
             if (!add(place))
@@ -216,7 +220,7 @@ private:
 
     Decoder &decoder_;
     Decoder::Scratch scratch_;
-    List *list_;
+    List *list_ = nullptr;
     bool keeps_places_;
     uint32_t count_ = 0;
     uint32_t capacity_ = 0;
@@ -249,11 +253,10 @@ Result collect_many(Decoder &decoder, const Type &element, const Collector &firs
     return success;
 }
 
-// Reads the elements of a list, each by read(value, result), which tells what it met; `result` is that of a fault.
-template <class Read> Result collect(Decoder &decoder, const Type &element, bool nonempty, Read read, Value *&out) {
-    Collector collector(decoder);
-    if (!collector.has_list())
-        return decoder.fail(here(), code::no_memory);
+// Reads what is left of the elements of a list, each by read(value, result), which tells what it met; `result` is that
+// of a fault.
+template <class Read>
+Result collect(Decoder &decoder, const Type &element, bool nonempty, Collector &collector, Read read, Value *&out) {
     for (;;) {
         Value *value = nullptr;
         Result result = success;
@@ -303,7 +306,9 @@ Next read_element(Decoder &decoder, const Type &element, ListReading reading, bo
     if (const Result read = decode_length(decoder, here(), length); read != success)
         return fault(read);
     const Result decoded = decode_begun(decoder, element, identifier, {identifier.form, length, start}, out);
-    return decoded == success ? Next::element : fault(fail_decode(decoder, here(), element, decoded));
+    if (decoded == success)
+        return Next::element;
+    return fault(reading == ListReading::inlined ? decoded : fail_decode(decoder, here(), element, decoded));
 }
 
 Result decode_list(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
@@ -317,10 +322,24 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
         return decoder.fail(here(), code::bad_argument);
     const bool is_indefinite = element.length == indefinite;
     const uint32_t end = is_indefinite ? no_end : decoder.position() + static_cast<uint32_t>(element.length);
-    // Elements that begin with nothing but their own identifier are entered at once.
+    // Elements that begin with nothing but their own identifier are entered at once, which goes for whole lists mostly.
     const Operations &operations = *member.operations;
     const bool is_plain =
         shape.reading != ListReading::whole && operations.begins == nullptr && operations.decode_begun == nullptr;
+    Collector collector(decoder);
+    while (is_plain && decoder.position() != end && !collector.is_full()) {
+        const uint32_t start = decoder.position();
+        uint32_t length = 0;
+        if (!decoder.enter(member.usual_identifier, length))
+            break;
+        const Result result =
+            operations.decode_content(decoder, member, member.usual_element(length, start), collector.next(start));
+        if (result != success)
+            return fail_decode(decoder, here(), member, result);
+        if (decoder.position() > end)
+            return decoder.fail(here(), code::incorrect_length);
+        collector.add();
+    }
     const auto read = [&](Value *&value, Result &result) {
         const uint32_t start = decoder.position();
         uint32_t length = 0;
@@ -341,7 +360,7 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
         result = decoder.fail(here(), code::incorrect_length);
         return Next::fault;
     };
-    return collect(decoder, member, shape.nonempty, read, out);
+    return collect(decoder, member, shape.nonempty, collector, read, out);
 }
 
 // Lists of open-type values have codes of their own for what goes wrong.
@@ -355,6 +374,7 @@ Result decode_any_list(Decoder &decoder, const Type &type, const Element &elemen
         return decoder.fail(here(), code::bad_length);
     const bool is_indefinite = element.length == indefinite;
     const uint32_t end = is_indefinite ? no_end : decoder.position() + static_cast<uint32_t>(element.length);
+    Collector collector(decoder);
     const auto read = [&](Value *&value, Result &result) {
         const auto fault = [&](int32_t code, Result given = failure) {
             result = decoder.fail(here(), code, given);
@@ -370,7 +390,7 @@ Result decode_any_list(Decoder &decoder, const Type &type, const Element &elemen
         value = new_any(decoder, extent);
         return value != nullptr ? Next::element : fault(code::no_memory);
     };
-    return collect(decoder, any, shape_of(type).nonempty, read, out);
+    return collect(decoder, any, shape_of(type).nonempty, collector, read, out);
 }
 
 int32_t list_content_length(const Type &type, Value *value, Measure measure) {

@@ -10,6 +10,7 @@ enum class ListReading : uint8_t {
     tagged,     // each begins with the element type's own universal identifier
     whole,      // each is decoded whole: its type tells alternatives apart by itself
     dispatched, // each identifier is looked at first, and one that begins no alternative is an incorrect item
+    inlined,    // the same, but a failed element leaves the entries of its alternative only
 };
 
 struct ListShape {

@@ -10,49 +10,12 @@ namespace kovra::asn1 {
 
 namespace {
 
-// Rows whose structure is not built yet only refuse.
-Site here(int32_t line = __builtin_LINE()) {
-    return {"ASN1", line};
-}
-bool holds_anything(const Type &, const Value &) {
-    return true;
-}
-int32_t no_content_length(const Type &, Value *, Measure) {
-    return unknown;
-}
-Result refuse_encode_content(Encoder &encoder, const Type &, Value *, int32_t) {
-    return encoder.fail(here(), code::unsupported_encode);
-}
-Result refuse_encode(Encoder &encoder, const Type &, Value *) {
-    return encoder.fail(here(), code::unsupported_encode);
-}
-Result refuse_decode(Decoder &decoder, const Type &, Value *&) {
-    return decoder.fail(here(), code::unsupported_decode);
-}
-
-} // namespace
-
-constexpr Operations unbuilt_operations = {
-    .holds = holds_anything,
-    .content_length = no_content_length,
-    .encode_content = refuse_encode_content,
-    .encode = refuse_encode,
-    .decode_content = refuse_decode_content,
-    .decode = refuse_decode,
-    .refuses_whole = true,
-    .records_reserve = [](size_t) { return size_t{0}; },
-};
-
-namespace {
-
 constexpr ListShape list_of_any = {KOVRA_ASN1_TYPE_ANY};
 constexpr ListShape list_of_any_1 = {KOVRA_ASN1_TYPE_ANY, ListReading::tagged, true};
 
 constexpr Form primitive = Form::primitive;
 constexpr Form constructed = Form::constructed;
 constexpr Form either = Form::either;
-
-constexpr const Operations *unbuilt = &unbuilt_operations;
 
 } // namespace
 
@@ -171,7 +134,7 @@ constexpr Type registry[type_count] = {
     {108, constructed, 16, 0x1031b, &structure_operations, &pbmac1_params},
     {109, constructed, 16, 0x1031d, &structure_operations, &rc2_cbc_parameter},
     {110, constructed, 16, 0x1031f, &structure_operations, &rc5_cbc_parameters},
-    {111, constructed, 16, 0x10321, unbuilt, nullptr},
+    {111, constructed, 16, 0x10321, &structure_operations, &content_info},
     {112, constructed, 16, 0x10323, &structure_operations, &mac_data},
     {113, constructed, 16, 0x10325, &structure_operations, &pfx},
     {114, constructed, 16, 0x10325, &list_operations, &authenticated_safe},
@@ -181,20 +144,20 @@ constexpr Type registry[type_count] = {
     {118, constructed, 16, 0x1032d, &structure_operations, &crl_bag},
     {119, constructed, 16, 0x1032f, &structure_operations, &secret_bag},
     {120, constructed, 16, 0x10331, &structure_operations, &pkcs12_pbe_params},
-    {121, constructed, 16, 0x10333, unbuilt, nullptr},
-    {122, constructed, 16, 0x10335, unbuilt, nullptr},
-    {123, either, 0, 0x10337, unbuilt, nullptr},
-    {124, constructed, 16, 0x10339, unbuilt, nullptr},
-    {125, constructed, 17, 0x1033b, unbuilt, nullptr},
-    {126, constructed, 17, 0x1033d, unbuilt, nullptr},
-    {127, constructed, 16, 0x1033f, unbuilt, nullptr},
-    {128, constructed, 16, 0x10341, unbuilt, nullptr},
-    {129, either, 0, 0x10349, unbuilt, nullptr},
-    {130, either, 0, 0x1034b, unbuilt, nullptr},
-    {131, constructed, 17, 0x1034d, unbuilt, nullptr},
-    {132, constructed, 17, 0x1034f, unbuilt, nullptr},
-    {133, constructed, 16, 0x10351, unbuilt, nullptr},
-    {134, constructed, 16, 0x10353, unbuilt, nullptr},
+    {121, constructed, 16, 0x10333, &structure_operations, &digested_data},
+    {122, constructed, 16, 0x10335, &structure_operations, &issuer_and_serial_number},
+    {123, either, 0, 0x10337, &choice_operations, &signer_identifier},
+    {124, constructed, 16, 0x10339, &structure_operations, &signer_info},
+    {125, constructed, 17, 0x1033b, &list_operations, &signer_infos},
+    {126, constructed, 17, 0x1033d, &list_operations, &digest_algorithms},
+    {127, constructed, 16, 0x1033f, &structure_operations, &other_certificate_format},
+    {128, constructed, 16, 0x10341, &structure_operations, &other_revocation_info_format},
+    {129, either, 0, 0x10349, &choice_operations, &certificate_choices},
+    {130, either, 0, 0x1034b, &choice_operations, &revocation_info_choice},
+    {131, constructed, 17, 0x1034d, &list_operations, &certificate_set},
+    {132, constructed, 17, 0x1034f, &list_operations, &revocation_info_choices},
+    {133, constructed, 16, 0x10351, &structure_operations, &pkcs7_signed_data},
+    {134, constructed, 16, 0x10353, &structure_operations, &cms_signed_data},
     {135, constructed, 16, 0x10242, &structure_operations, &dn_values_with_context_item},
     {136, constructed, 16, 0x10277, &structure_operations, &attribute_values_with_context_item},
     {137, constructed, 16, 0x102ae, &list_operations, &policy_qualifiers},
@@ -207,60 +170,60 @@ constexpr Type registry[type_count] = {
     {144, constructed, 16, 0x10301, &structure_operations, &other_prime_info},
     {145, constructed, 16, 0x10303, &list_operations, &other_prime_infos},
     {146, either, 0, 0x10312, &choice_operations, &pbkdf2_salt},
-    {147, constructed, 16, 0x10356, unbuilt, nullptr},
-    {148, constructed, 16, 0x10358, unbuilt, nullptr},
-    {149, constructed, 16, 0x1035a, unbuilt, nullptr},
-    {150, constructed, 16, 0x1035c, unbuilt, nullptr},
-    {151, constructed, 16, 0x10360, unbuilt, nullptr},
-    {152, either, 0, 0x10361, unbuilt, nullptr},
-    {153, constructed, 16, 0x10363, unbuilt, nullptr},
-    {154, constructed, 16, 0x10365, unbuilt, nullptr},
-    {155, either, 0, 0x10367, unbuilt, nullptr},
-    {156, constructed, 16, 0x10369, unbuilt, nullptr},
-    {157, constructed, 16, 0x1036b, unbuilt, nullptr},
-    {158, constructed, 16, 0x1036d, unbuilt, nullptr},
-    {159, constructed, 16, 0x0009f, unbuilt, nullptr},
-    {160, constructed, 16, 0x10373, unbuilt, nullptr},
-    {161, constructed, 16, 0x10375, unbuilt, nullptr},
-    {162, either, 0, 0x10377, unbuilt, nullptr},
-    {163, constructed, 17, 0x10379, unbuilt, nullptr},
-    {164, constructed, 16, 0x1037b, unbuilt, nullptr},
-    {165, constructed, 16, 0x1037d, unbuilt, nullptr},
-    {166, constructed, 16, 0x1037f, unbuilt, nullptr},
-    {167, constructed, 16, 0x10381, unbuilt, nullptr},
-    {168, constructed, 16, 0x10383, unbuilt, nullptr},
-    {169, constructed, 16, 0x10385, unbuilt, nullptr},
-    {170, constructed, 16, 0x10387, unbuilt, nullptr},
-    {171, constructed, 16, 0x10389, unbuilt, nullptr},
-    {172, constructed, 16, 0x1038d, unbuilt, nullptr},
-    {173, constructed, 16, 0x1038f, unbuilt, nullptr},
-    {174, constructed, 16, 0x10391, unbuilt, nullptr},
-    {175, constructed, 16, 0x000af, unbuilt, nullptr},
-    {176, either, 0, 0x10395, unbuilt, nullptr},
-    {177, constructed, 16, 0x10397, unbuilt, nullptr},
-    {178, either, 0, 0x10397, unbuilt, nullptr},
-    {179, constructed, 16, 0x1039b, unbuilt, nullptr},
-    {180, constructed, 16, 0x1039d, unbuilt, nullptr},
-    {181, constructed, 16, 0x1039f, unbuilt, nullptr},
-    {182, constructed, 16, 0x103a1, unbuilt, nullptr},
-    {183, constructed, 16, 0x103a3, unbuilt, nullptr},
-    {184, constructed, 16, 0x103a5, unbuilt, nullptr},
-    {185, constructed, 16, 0x103a7, unbuilt, nullptr},
-    {186, constructed, 16, 0x103a9, unbuilt, nullptr},
-    {187, constructed, 16, 0x103ab, unbuilt, nullptr},
-    {188, constructed, 16, 0x103ad, unbuilt, nullptr},
-    {189, constructed, 16, 0x103af, unbuilt, nullptr},
-    {190, constructed, 16, 0x103b1, unbuilt, nullptr},
-    {191, constructed, 16, 0x103b3, unbuilt, nullptr},
-    {192, constructed, 16, 0x103b5, unbuilt, nullptr},
-    {193, constructed, 16, 0x103b7, unbuilt, nullptr},
-    {194, constructed, 16, 0x103b9, unbuilt, nullptr},
-    {195, constructed, 16, 0x103bb, unbuilt, nullptr},
-    {196, constructed, 16, 0x103bd, unbuilt, nullptr},
-    {197, constructed, 16, 0x103bf, unbuilt, nullptr},
+    {147, constructed, 16, 0x10356, &structure_operations, &encapsulated_content_info},
+    {148, constructed, 16, 0x10358, &structure_operations, &encrypted_content_info},
+    {149, constructed, 16, 0x1035a, &structure_operations, &encrypted_data},
+    {150, constructed, 16, 0x1035c, &structure_operations, &originator_info},
+    {151, constructed, 16, 0x10360, &structure_operations, &key_trans_recipient_info},
+    {152, either, 0, 0x10361, &choice_operations, &originator_identifier_or_key},
+    {153, constructed, 16, 0x10363, &structure_operations, &other_key_attribute},
+    {154, constructed, 16, 0x10365, &structure_operations, &recipient_key_identifier},
+    {155, either, 0, 0x10367, &choice_operations, &key_agree_recipient_identifier},
+    {156, constructed, 16, 0x10369, &structure_operations, &recipient_encrypted_key},
+    {157, constructed, 16, 0x1036b, &list_operations, &recipient_encrypted_keys},
+    {158, constructed, 16, 0x1036d, &structure_operations, &key_agree_recipient_info},
+    {159, constructed, 16, 0x0009f, &structure_operations, &kek_recipient_info},
+    {160, constructed, 16, 0x10373, &structure_operations, &password_recipient_info},
+    {161, constructed, 16, 0x10375, &structure_operations, &other_recipient_info},
+    {162, either, 0, 0x10377, &choice_operations, &recipient_info},
+    {163, constructed, 17, 0x10379, &list_operations, &recipient_infos},
+    {164, constructed, 16, 0x1037b, &structure_operations, &enveloped_data},
+    {165, constructed, 16, 0x1037d, &structure_operations, &authenticated_data},
+    {166, constructed, 16, 0x1037f, &structure_operations, &key_specific_info},
+    {167, constructed, 16, 0x10381, &structure_operations, &dh_other_info},
+    {168, constructed, 16, 0x10383, &structure_operations, &ocsp_cert_id},
+    {169, constructed, 16, 0x10385, &structure_operations, &ocsp_single_request},
+    {170, constructed, 16, 0x10387, &list_operations, &ocsp_request_list},
+    {171, constructed, 16, 0x10389, &structure_operations, &ocsp_tbs_request},
+    {172, constructed, 16, 0x1038d, &structure_operations, &ocsp_signature},
+    {173, constructed, 16, 0x1038f, &structure_operations, &ocsp_request},
+    {174, constructed, 16, 0x10391, &structure_operations, &ocsp_response_bytes},
+    {175, constructed, 16, 0x000af, &structure_operations, &ocsp_response},
+    {176, either, 0, 0x10395, &choice_operations, &ocsp_responder_id},
+    {177, constructed, 16, 0x10397, &structure_operations, &ocsp_revoked_info},
+    {178, either, 0, 0x10397, &choice_operations, &ocsp_cert_status},
+    {179, constructed, 16, 0x1039b, &structure_operations, &ocsp_single_response},
+    {180, constructed, 16, 0x1039d, &list_operations, &ocsp_responses},
+    {181, constructed, 16, 0x1039f, &structure_operations, &ocsp_response_data},
+    {182, constructed, 16, 0x103a1, &structure_operations, &ocsp_basic_response},
+    {183, constructed, 16, 0x103a3, &structure_operations, &ocsp_crl_id},
+    {184, constructed, 16, 0x103a5, &structure_operations, &ocsp_service_locator},
+    {185, constructed, 16, 0x103a7, &structure_operations, &ocsp_preferred_signature_algorithms},
+    {186, constructed, 16, 0x103a9, &structure_operations, &digest_info},
+    {187, constructed, 16, 0x103ab, &structure_operations, &time_stamp_req},
+    {188, constructed, 16, 0x103ad, &list_operations, &pki_free_text},
+    {189, constructed, 16, 0x103af, &structure_operations, &pki_status_info},
+    {190, constructed, 16, 0x103b1, &structure_operations, &time_stamp_resp},
+    {191, constructed, 16, 0x103b3, &structure_operations, &time_stamp_accuracy},
+    {192, constructed, 16, 0x103b5, &structure_operations, &tst_info},
+    {193, constructed, 16, 0x103b7, &structure_operations, &issuer_serial},
+    {194, constructed, 16, 0x103b9, &structure_operations, &ess_cert_id},
+    {195, constructed, 16, 0x103bb, &structure_operations, &ess_cert_id_v2},
+    {196, constructed, 16, 0x103bd, &list_operations, &ess_cert_ids},
+    {197, constructed, 16, 0x103bf, &list_operations, &ess_cert_ids_v2},
     {198, constructed, 16, 0x103c1, &list_operations, &certificate_policies},
-    {199, constructed, 16, 0x103c3, unbuilt, nullptr},
-    {200, constructed, 16, 0x103c3, unbuilt, nullptr},
+    {199, constructed, 16, 0x103c3, &structure_operations, &signing_certificate},
+    {200, constructed, 16, 0x103c3, &structure_operations, &signing_certificate_v2},
     {201, either, 0, 0x103c7, &choice_operations, &ecpk_parameters},
     {202, constructed, 16, 0x103c9, &structure_operations, &ec_private_key},
     {203, constructed, 16, 0x103cb, &structure_operations, &sm2_cipher},

@@ -32,7 +32,7 @@ struct Operations {
     // Reads a whole value. Null: the identifier must be the row's.
     Result (*decode)(Decoder &, const Type &, Value *&out) = nullptr;
     // Reads the content behind the row's own identifier and a definite length whose octets are all there, with what
-    // `decode` does besides. Null: there is no such shorter way.
+    // `decode` does besides. Null: there is no such shorter way, as for types with `begins`.
     Result (*decode_entered)(Decoder &, const Type &, const Element &, Value *&out) = nullptr;
     // Can a value begin with this identifier? Null: it must be the row's.
     bool (*begins)(const Type &, const Identifier &) = nullptr;
@@ -112,7 +112,10 @@ inline Result decode_begun(Decoder &decoder, const Type &type, const Identifier 
 
 // A copy that is independent of the value, by encoding and decoding it. Null, with entries, when that fails.
 Value *duplicate(const Type &type, const Value *value, kovra_err_ctx *ctx);
-// The same between two types, without entries (an INTEGER to an ANY, say); a type that needs no value may have none.
+// A copy for a value that is being built, without entries. Contents in streams that are so long that they are written
+// in segments are not copied: the copy refers to the same streams.
+Value *copy_part(const Type &type, const Value *value);
+// The same between two types (an INTEGER to an ANY, say); a type that needs no value may have none.
 Value *convert(const Type &from, const Value *value, const Type &to);
 
 // The type's own codes.

@@ -193,27 +193,35 @@ public:
         const Component *const last = component + shape_.count;
         const Component *const required_end = component + shape_.required_end;
         Value **slot = record_.slots;
-        // What stands behind a component that may be absent is known by its identifier, whether that was there or not.
-        bool follows_optional = false;
+        uint32_t whole = shape_.read_whole;
         if (shape_.signed_slot == 0) {
             *slot = nullptr;
             if (const Result result = read_signed(*component++, *slot++); result != success)
                 return result;
+            whole >>= 1;
         }
-        for (; component != last; ++component, ++slot) {
+        for (; component != last; ++component, ++slot, whole >>= 1) {
+            const uint32_t start = decoder.position();
+            const Type &type = *component->read_as;
+            const Operations &operations = *type.operations;
+            uint32_t length = 0;
             Result result = success;
             *slot = nullptr;
-            if (state_ != State::between)
+            if (state_ != State::between) {
                 result = state_ == State::ended ? leave_absent(*component, *slot) : read_tested(*component, *slot);
-            else if (decoder.position() == end && component >= required_end)
+            } else if (start == end && component >= required_end) {
                 result = leave_absent(*component, *slot);
-            else if (component->is_read_whole && !(follows_optional && component->type != KOVRA_ASN1_TYPE_ANY))
-                result = read_whole(*component, *slot);
-            else
-                result = read_tested(*component, *slot);
+            } else if (component->tag.tagging == Tagging::none && operations.decode_entered != nullptr &&
+                       decoder.enter(type.usual_identifier, length)) {
+                const auto decode_here = (whole & 1) != 0 ? operations.decode_entered : operations.decode_content;
+                result = decode_here(decoder, type, type.usual_element(length, start), *slot);
+                if (result != success)
+                    return fail_decode(decoder, at(shape_, *component), *component, result);
+            } else {
+                result = (whole & 1) != 0 ? read_whole(*component, *slot) : read_tested(*component, *slot);
+            }
             if (result != success)
                 return result;
-            follows_optional = component->presence != Presence::required;
             if (decoder.position() > end)
                 return decoder.fail(at(shape_, *component), code::incorrect_length);
         }
@@ -242,6 +250,7 @@ private:
                    (identifier_.form == type.form ||
                     (type.form != Form::constructed && component.begins != Begins::in_own_form));
         case Tagging::explicit_:
+        case Tagging::bare:
             return identifier_.is(Class::context, component.tag.number) && identifier_.form == Form::constructed;
         }
         return false;
@@ -257,7 +266,7 @@ private:
     Result read_whole(const Component &component, Value *&slot) {
         const Type &type = decode_row(component);
         if (const Result result = decode(decoder_, type, slot); result != success)
-            return decoder_.fail(at(shape_, component), decode_code(component), result);
+            return fail_decode(decoder_, at(shape_, component), component, result);
         return type.number == KOVRA_ASN1_TYPE_ANY && is_end_of_contents(slot) ? end_of_contents(component, slot)
                                                                               : success;
     }
@@ -273,14 +282,7 @@ private:
 
     Result read_tested(const Component &component, Value *&slot) {
         if (state_ == State::between) {
-            const Type &type = decode_row(component);
-            uint32_t length = 0;
             identifier_start_ = decoder_.position();
-            if (component.tag.tagging == Tagging::none && type.operations->begins == nullptr &&
-                decoder_.enter(type.usual_identifier, length)) {
-                identifier_ = identifier_of(type.usual_identifier);
-                return read_content(component, static_cast<int32_t>(length), slot);
-            }
             if (const Result result = decode_identifier(decoder_, at(shape_, component), identifier_);
                 result != success)
                 return result;
@@ -309,7 +311,7 @@ private:
         const Element element{identifier_.form, length, is_own ? identifier_start_ : Element::no_start};
         const Result result = is_own ? decode_begun(decoder_, type, identifier_, element, place)
                                      : type.operations->decode_content(decoder_, type, element, place);
-        return result == success ? success : decoder_.fail(at(shape_, component), decode_code(component), result);
+        return result == success ? success : fail_decode(decoder_, at(shape_, component), component, result);
     }
 
     // The component is decoded from its exact octets, which stay with the record.
@@ -437,18 +439,23 @@ constexpr Operations kept_structure_operations = {
     .records_reserve = structure_reserve,
 };
 
+Record *new_structure(Arena &arena, const Structure &shape) {
+    Record *record = new_record_of(arena, *shape.shape());
+    if (record != nullptr)
+        std::fill_n(record->slots, record->shape->count, nullptr);
+    return record;
+}
+
 Record *new_structure(const Structure &shape) {
     const Structure &own = *shape.shape();
     Arena *arena = Arena::create(sizeof(Record) + own.count * sizeof(Value *) + 2 * sizeof(Octets));
     if (arena == nullptr)
         return nullptr;
-    Record *record = new_record_of(*arena, own);
-    if (record == nullptr) {
+    Record *record = new_structure(*arena, own);
+    if (record == nullptr)
         Arena::destroy(arena);
-        return nullptr;
-    }
-    std::fill_n(record->slots, own.count, nullptr);
-    arena->root = record;
+    else
+        arena->root = record;
     return record;
 }
 
@@ -467,7 +474,7 @@ bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value) {
         record.slots[slot] = component.fallback->make(*record.arena);
         return record.slots[slot] != nullptr;
     }
-    Value *copy = duplicate(row(component.type), static_cast<const Value *>(value), nullptr);
+    Value *copy = copy_part(*component.copied_as, static_cast<const Value *>(value));
     if (copy == nullptr)
         return false;
     return store(record, slot, copy);

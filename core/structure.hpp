@@ -22,6 +22,7 @@ struct Structure {
     // The first component, when its exact octets are kept because they are what is signed; else no_slot.
     uint8_t signed_slot = no_slot;
     uint8_t required_end = 0; // behind the last required component
+    uint32_t read_whole = 0;  // a bit for each component that is decoded without a look at its identifier first
     // The structure whose records these are, when this one only restricts it; null: its own.
     const Structure *record = nullptr;
     // A record that is not allowed is refused in both directions with `refusal`; null: all are allowed.
@@ -35,11 +36,17 @@ struct Structure {
 };
 
 template <size_t count> constexpr Structure structure(const char *source, const Component (&components)[count]) {
-    static_assert(count < no_slot);
+    static_assert(count <= 32);
     Structure made{source, components, count};
     for (uint8_t i = 0; i < count; ++i) {
-        if (components[i].presence == Presence::required)
+        const bool is_required = components[i].presence == Presence::required;
+        if (is_required)
             made.required_end = i + 1;
+        // What stands behind a component that may be absent is known by its identifier, whether that was there or not.
+        const bool is_next = i == 0 || components[i - 1].presence == Presence::required;
+        if (components[i].tag.tagging == Tagging::none &&
+            ((is_required && is_next) || components[i].type == KOVRA_ASN1_TYPE_ANY))
+            made.read_whole |= uint32_t{1} << i;
     }
     return made;
 }
@@ -77,8 +84,11 @@ template <size_t count> constexpr Structure signed_structure(const char *source,
 
 // A new, empty record in an arena of its own; null when memory is short.
 Record *new_structure(const Structure &shape);
-// Stores an independent copy of `value`, as a value of the component's type, in a slot; an absent value leaves an
-// optional slot empty and fills a defaulted one. False when a required value is absent or something cannot be copied.
+// The same in an arena that is there.
+Record *new_structure(Arena &arena, const Structure &shape);
+// Stores an independent copy of `value`, as a value of the type that the component is copied as, in a slot; an absent
+// value leaves an optional slot empty and fills a defaulted one. False when a required value is absent or something
+// cannot be copied.
 bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value);
 // Stores a value that is the root of its own arena, and takes it over. False when that cannot be; null is refused.
 bool store(Record &record, uint8_t slot, Value *value);

@@ -102,6 +102,7 @@ struct Any : Value {
     Class tag_class;
     Form form;
     bool end_of_contents;
+    kovra_stream *segments_of; // what the content shows as segments; null when the content is what it is
 };
 
 // SEQUENCE OF and SET OF. Elements of a long decoded list are built when they are first asked for: until then only

@@ -8,7 +8,10 @@ namespace kovra::test {
 namespace {
 
 TEST(Tables, Decodings) {
-    for (std::vector<std::string> row : table("decodings.txt")) {
+    std::vector<std::vector<std::string>> rows = table("decodings.txt");
+    for (std::vector<std::string> &row : table("messages.txt"))
+        rows.push_back(std::move(row));
+    for (std::vector<std::string> &row : rows) {
         row.resize(4);
         auto type = static_cast<uint32_t>(std::stoul(row[0]));
         const std::string &in = row[1], &out = row[2];

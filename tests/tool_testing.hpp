@@ -5,6 +5,7 @@
 
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <iterator>
@@ -65,6 +66,52 @@ inline std::string pem(std::string_view data, const char *label) {
     char *text = kovra_pemencode(data.data(), static_cast<int32_t>(data.size()), label, &length);
     return taken(text, length);
 }
+
+// An element in DER.
+inline std::string der(int tag, std::string_view content) {
+    const size_t length = content.size();
+    std::string result(1, static_cast<char>(tag));
+    if (length > 0xFF)
+        result += octets("82") + static_cast<char>(length >> 8);
+    else if (length > 0x7F)
+        result += octets("81");
+    return result + static_cast<char>(length) + std::string(content);
+}
+
+inline std::string oid(const char *dotted) {
+    const Value value(KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER, kovra_asn1_oid_new(dotted));
+    return octets(encoding(value));
+}
+
+// Everything but line feeds, and characters in UTF-8, is harmless to a terminal.
+inline bool is_harmless(const std::string &text) {
+    kovra_ustring *characters = kovra_ustring_newutf8(text.data(), static_cast<int32_t>(text.size()));
+    const bool is_text = characters != nullptr;
+    kovra_ustring_free(characters);
+    return is_text && std::none_of(text.begin(), text.end(), [](char c) {
+               return (static_cast<unsigned char>(c) < 0x20 && c != '\n') || c == 0x7F;
+           });
+}
+
+inline size_t count(const std::string &text, std::string_view part) {
+    size_t found = 0;
+    for (size_t at = text.find(part); at != text.npos; at = text.find(part, at + 1))
+        ++found;
+    return found;
+}
+
+class ShowTest : public ToolTest {
+protected:
+    // What is shown of a value, without the blanks in front of values.
+    [[nodiscard]] std::string shown(const std::string &type, std::string_view input) const {
+        const ToolResult result = run("show --type " + type, input);
+        EXPECT_EQ(result.code, 0) << result.error;
+        std::string text = result.out;
+        for (size_t at = text.find(":  "); at != text.npos; at = text.find(":  ", at))
+            text.erase(at + 1, text.find_first_not_of(' ', at + 1) - at - 2);
+        return text;
+    }
+};
 
 } // namespace kovra::test
 

@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <iterator>
 
+#include "content.hpp"
 #include "detect.hpp"
 #include "paths.hpp"
 #include "progress.hpp"
+#include "show_fields.hpp"
+#include "type_names.hpp"
 
 namespace kovra::tool {
 
@@ -24,15 +27,22 @@ bool keeps_encoding(uint32_t type) {
 }
 
 // Does the value of the octets have these octets as its encoding?
-bool is_stable(uint32_t type, const kovra_data_blob *encoding) {
+bool is_stable(uint32_t type, std::string_view encoding) {
     Value value(type);
-    const int32_t length = kovra_data_blob_getlength(encoding);
-    const uint8_t *octets = kovra_data_blob_getdata(encoding);
-    if (length < 1 || kovra_asn1_mem_decode(octets, length, type, value.place()) != length)
-        return false;
-    const Blob again(kovra_asn1_mem_encode(type, value.get()));
-    return again != nullptr && kovra_data_blob_getlength(again.get()) == length &&
-           std::equal(octets, octets + length, kovra_data_blob_getdata(again.get()));
+    return read_octets(encoding, type, value) && encoding_of(type, value.get()) == encoding;
+}
+
+// From the best to the worst; of an element and the structures in it the worst counts.
+enum class Outcome { identical, reencoded, malformed, different };
+
+// How the value of the octets comes back, and at which octet it is the first time another.
+Outcome compare(uint32_t type, const kovra_asn1_value *value, std::string_view octets, size_t &difference) {
+    const std::string again = encoding_of(type, value);
+    difference = static_cast<size_t>(std::mismatch(octets.begin(), octets.end(), again.begin(), again.end()).first -
+                                     octets.begin());
+    if (again == octets)
+        return Outcome::identical;
+    return !keeps_encoding(type) && is_stable(type, again) ? Outcome::reencoded : Outcome::different;
 }
 
 class Check {
@@ -99,31 +109,68 @@ private:
     }
 
     void check(const Item &item, const std::string &file) {
+        const std::string place = file + "[" + std::to_string(item.number) + "]";
         if (item.is_bad_armour)
-            return report(malformed_, item, file, bad_armour());
+            return count(report(Outcome::malformed, place, bad_armour()));
         const Detected detected = detect(item, session_.options);
         if (!detected.is_good)
-            return report(malformed_, item, file, explain(item, detected.type));
-        const Blob again(kovra_asn1_mem_encode(detected.type, detected.value));
-        kovra_asn1_value_free(detected.type, detected.value);
-        const uint8_t *begin = item.octets + item.begin;
-        const uint8_t *end = item.octets + item.end;
-        const uint8_t *other = kovra_data_blob_getdata(again.get());
-        const uint8_t *other_end = other + kovra_data_blob_getlength(again.get());
-        const uint8_t *difference = std::mismatch(begin, end, other, other_end).first;
-        if (difference == end && other_end - other == end - begin)
-            ++identical_;
-        else if (!keeps_encoding(detected.type) && is_stable(detected.type, again.get()))
-            ++reencoded_;
+            return count(report(Outcome::malformed, place, explain(item, detected.type)));
+        const std::string_view octets(reinterpret_cast<const char *>(item.octets) + item.begin, item.end - item.begin);
+        size_t difference = 0;
+        Outcome outcome = compare(detected.type, detected.value, octets, difference);
+        if (outcome == Outcome::different)
+            report(outcome, place, differs(item.begin + difference));
         else
-            report(different_, item, file,
-                   {static_cast<size_t>(difference - item.octets), {{0, "encoded again it differs", ""}}});
+            outcome = std::max(outcome, check_inner(detected.type, detected.value, {}, place, 0));
+        count(outcome);
+        kovra_asn1_value_free(detected.type, detected.value);
     }
 
-    void report(size_t &count, const Item &item, const std::string &file, const Trouble &trouble) {
-        ++count;
+    // Checks what stands in a value as octets, and what stands in that, as far as a message is nested in earnest.
+    Outcome check_inner(uint32_t type, kovra_asn1_value *value, const Inner &outer, const std::string &place,
+                        size_t level) {
+        constexpr size_t deepest = 32;
+        Outcome worst = Outcome::identical;
+        if (level == deepest)
+            return worst;
+        for_each_inner(type, value, outer.type_of_data, [&](const Inner &inner) {
+            if (!inner.rows.empty())
+                worst = std::max(worst, check(inner, place, level));
+        });
+        return worst;
+    }
+
+    Outcome check(const Inner &inner, const std::string &place, size_t level) {
+        for (const OidRow &row : inner.rows) {
+            Value value(row.type);
+            if (!read_octets(inner.octets, row.type, value))
+                continue;
+            size_t difference = 0;
+            const Outcome outcome = compare(row.type, value.get(), inner.octets, difference);
+            if (outcome == Outcome::different)
+                return report(outcome, within(place, row.type), differs(difference));
+            return std::max(outcome, check_inner(row.type, value.get(), inner, place, level + 1));
+        }
+        const uint32_t type = inner.rows.front().type;
+        const auto *octets = reinterpret_cast<const uint8_t *>(inner.octets.data());
+        return report(Outcome::malformed, within(place, type), explain({octets, 0, inner.octets.size(), true}, {type}));
+    }
+
+    static std::string within(const std::string &place, uint32_t type) {
+        return place + " " + std::string(type_name(type));
+    }
+
+    static Trouble differs(size_t octet) { return {octet, {{0, "encoded again it differs", ""}}}; }
+
+    void count(Outcome outcome) {
+        size_t *const counts[] = {&identical_, &reencoded_, &malformed_, &different_};
+        ++*counts[static_cast<size_t>(outcome)];
+    }
+
+    Outcome report(Outcome outcome, const std::string &place, const Trouble &trouble) {
         progress_.erase();
-        session_.report(file + "[" + std::to_string(item.number) + "]", trouble);
+        session_.report(place, trouble);
+        return outcome;
     }
 
     Session &session_;

@@ -22,6 +22,7 @@ struct Options {
     bool is_colored = false;
     bool is_quiet = false;
     bool is_full = false;                  // dump: long values are not cut
+    bool has_secrets = false;              // show: private keys are printed
     int32_t indent = 2;                    // json: blanks a level, 0 for one line
     uint32_t type = KOVRA_ASN1_TYPE_COUNT; // show, check: what the elements are; the count of types when not told
 };

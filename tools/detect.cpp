@@ -10,14 +10,6 @@ namespace kovra::tool {
 
 namespace {
 
-constexpr uint32_t ocsp_request = 173;
-constexpr uint32_t ocsp_response = 175;
-constexpr uint32_t time_stamp_request = 187;
-constexpr uint32_t time_stamp_response = 190;
-constexpr uint32_t time_stamp_info = 192;
-constexpr uint32_t ec_parameters = 201;
-constexpr uint32_t ec_private_key = 202;
-
 // A pattern is a sequence of marks for elements, in parentheses those inside the one before:
 //   S SEQUENCE, T SET, I INTEGER, B BIT STRING, O OCTET STRING, o OBJECT IDENTIFIER, E ENUMERATED, t a time,
 //   0 to 9 constructed and a to d primitive context tags, . anything, * whatever follows at this level,
@@ -28,28 +20,49 @@ struct Shape {
     bool is_certain = false; // nothing else looks like this
 };
 
-// From the most specific to the least; a shape that others share comes behind them.
+// From the most specific to the least; a shape that others share comes behind them. Two or three INTEGERs are many
+// things, and none of them here.
 constexpr Shape shapes[] = {
     {KOVRA_ASN1_TYPE_CERTIFICATE, "S(S(?0(I)ISSS(tt)SS(SB)*)S(o*)B)", true},
     {KOVRA_ASN1_TYPE_CERTIFICATE_LIST, "S(S(?ISSt*)S(o*)B)", true},
     {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST, "S(S(ISS(SB)0)S(o*)B)", true},
     {KOVRA_ASN1_TYPE_CONTENT_INFO, "S(o0(*))"},
-    {KOVRA_ASN1_TYPE_PFX, "S(IS(o0(*))?S)"},
-    {KOVRA_ASN1_TYPE_PRIVATE_KEY_INFO, "S(IS(o*)O*)"},
-    {KOVRA_ASN1_TYPE_RSA_PRIVATE_KEY, "S(IIIIIIIII*)"},
-    {ec_private_key, "S(IO?0(*)?1(B))"},
+    {KOVRA_ASN1_TYPE_PFX, "S(IS(o0(*))?S)", true},
+    {KOVRA_ASN1_TYPE_PRIVATE_KEY_INFO, "S(IS(o*)O*)", true},
+    {KOVRA_ASN1_TYPE_RSA_PRIVATE_KEY, "S(IIIIIIIII*)", true},
+    {KOVRA_ASN1_TYPE_EC_PRIVATE_KEY, "S(IO?0(*)?1(B))", true},
+    // A key of DSA has no type of its own.
+    {KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, "S(IIIIII)"},
     {KOVRA_ASN1_TYPE_ENCRYPTED_PRIVATE_KEY_INFO, "S(S(oS*)O)"},
     {KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO, "S(S(o*)B)"},
     {KOVRA_ASN1_TYPE_CERTIFICATE_PAIR, "S(0(S(S(*)SB))?1(S(S(*)SB)))"},
     {KOVRA_ASN1_TYPE_CERTIFICATE_PAIR, "S(1(S(S(*)SB)))"},
-    {ocsp_response, "S(E?0(S(oO)))"},
-    {ocsp_request, "S(S(*)?0(S(*)))"},
-    {time_stamp_request, "S(IS(S(o*)O)*)"},
-    {time_stamp_response, "S(S(I*)?S(o0(*)))"},
-    {time_stamp_info, "S(IoS(S(o*)O)It*)"},
+    {KOVRA_ASN1_TYPE_OCSP_RESPONSE, "S(E?0(S(oO)))"},
+    {KOVRA_ASN1_TYPE_OCSP_BASIC_RESPONSE, "S(S(?0(I)1(S)tS*)S(o*)B*)"},
+    {KOVRA_ASN1_TYPE_OCSP_BASIC_RESPONSE, "S(S(?0(I)2(O)tS*)S(o*)B*)"},
+    {KOVRA_ASN1_TYPE_OCSP_REQUEST, "S(S(?0(I)?1(.)S(S(S(S(o*)OOI)*)*)*)?0(S(S(o*)B*)))"},
+    {KOVRA_ASN1_TYPE_TIME_STAMP_REQ, "S(IS(S(o*)O)*)"},
+    {KOVRA_ASN1_TYPE_TIME_STAMP_RESP, "S(S(I?S?B)?S(o0(*)))"},
+    {KOVRA_ASN1_TYPE_TST_INFO, "S(IoS(S(o*)O)It*)"},
+    {KOVRA_ASN1_TYPE_PKCS7_SIGNED_DATA, "S(IT(*)S(o?0(*))?0(*)?1(*)T(*))"},
+    {KOVRA_ASN1_TYPE_SIGNER_INFO, "S(IS(S(*)I)S(o*)?0(*)S(o*)O?1(*))"},
+    {KOVRA_ASN1_TYPE_ENVELOPED_DATA, "S(I?0(*)T(*)S(oS(o*)*)?1(*))"},
+    {KOVRA_ASN1_TYPE_ENCRYPTED_DATA, "S(IS(oS(o*)*)?1(*))"},
+    {KOVRA_ASN1_TYPE_AUTHENTICATED_DATA, "S(I?0(*)T(*)S(o*)?1(o*)S(o*)*)"},
+    {KOVRA_ASN1_TYPE_DIGESTED_DATA, "S(IS(o*)S(o?0(*))O)"},
+    // Contents of a store, in data first or encrypted first; bags.
+    {KOVRA_ASN1_TYPE_AUTHENTICATED_SAFE, "S(S(o0(O))*)"},
+    {KOVRA_ASN1_TYPE_AUTHENTICATED_SAFE, "S(S(o0(S(IS(oS*)*)))*)"},
+    {KOVRA_ASN1_TYPE_SAFE_CONTENTS, "S(S(o0(S(*))?T(*))*)"},
+    {KOVRA_ASN1_TYPE_CERT_STORE, "S(S(S(S(?0(I)ISSS*)S(o*)B)?S(S(I.)*))*)"},
+    {KOVRA_ASN1_TYPE_CERT_WITH_ATTRIBUTES, "S(S(S(?0(I)ISSS*)S(o*)B)S(S(I.)*))"},
+    {KOVRA_ASN1_TYPE_SM2_CIPHER, "S(IIOO)"},
+    {KOVRA_ASN1_TYPE_OCSP_CERT_ID, "S(S(o*)OOI)"},
     {KOVRA_ASN1_TYPE_TBS_CERTIFICATE, "S(?0(I)ISSS(tt)SS(SB)*)"},
     {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST_INFO, "S(ISS(SB)0)"},
+    {KOVRA_ASN1_TYPE_ECPK_PARAMETERS, "S(IS(o*)S(OO*)OI*)"},
     {KOVRA_ASN1_TYPE_DIGEST_INFO, "S(S(o*)O)"},
+    {KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTE, "S(oT(*))"},
     {KOVRA_ASN1_TYPE_NAME, "S(T(S(o.))*)"},
     {KOVRA_ASN1_TYPE_EXTENSIONS, "S(S(o*)*)"},
 };
@@ -72,8 +85,11 @@ constexpr Label labels[] = {
     {"PRIVATE KEY", KOVRA_ASN1_TYPE_PRIVATE_KEY_INFO},
     {"ENCRYPTED PRIVATE KEY", KOVRA_ASN1_TYPE_ENCRYPTED_PRIVATE_KEY_INFO},
     {"RSA PRIVATE KEY", KOVRA_ASN1_TYPE_RSA_PRIVATE_KEY},
-    {"EC PRIVATE KEY", ec_private_key},
-    {"EC PARAMETERS", ec_parameters},
+    {"EC PRIVATE KEY", KOVRA_ASN1_TYPE_EC_PRIVATE_KEY},
+    {"DSA PRIVATE KEY", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY},
+    {"SM2 PRIVATE KEY", KOVRA_ASN1_TYPE_EC_PRIVATE_KEY},
+    {"EC PARAMETERS", KOVRA_ASN1_TYPE_ECPK_PARAMETERS},
+    {"SM2 PARAMETERS", KOVRA_ASN1_TYPE_ECPK_PARAMETERS},
     {"DSA PARAMETERS", KOVRA_ASN1_TYPE_DSS_PARMS},
     {"DH PARAMETERS", KOVRA_ASN1_TYPE_DH_PARAMETER},
 };
@@ -227,18 +243,6 @@ bool decode(const Item &item, uint32_t type, Detected &out) {
     return out.is_good;
 }
 
-// Does the library know the type? Rows without a structure only refuse.
-bool is_known(uint32_t type) {
-    constexpr int32_t unsupported = 0x1026d;
-    const Context context(kovra_err_ctx_new());
-    const Stream stream(kovra_stream_new_romem("\xFF\xFF", 2, 0, nullptr));
-    Value value(type);
-    int32_t code = 0;
-    kovra_asn1_decode(stream.get(), type, value.place(), nullptr, context.get());
-    kovra_err_ctx_getentry(context.get(), 0, nullptr, nullptr, &code, nullptr);
-    return code != unsupported;
-}
-
 } // namespace
 
 Detected detect(const Item &item, const Options &options) {
@@ -250,7 +254,7 @@ Detected detect(const Item &item, const Options &options) {
     uint32_t promised = KOVRA_ASN1_TYPE_COUNT;
     const auto *label =
         std::find_if(std::begin(labels), std::end(labels), [&](const Label &row) { return row.label == item.label; });
-    if (label != std::end(labels) && is_known(label->type)) {
+    if (label != std::end(labels)) {
         if (decode(item, label->type, result))
             return result;
         promised = label->type;

@@ -18,7 +18,7 @@ constexpr Command commands[] = {
      "Print the tree of any BER or DER: offset, header length, length, tag, "
      "value",
      true, dump},
-    {"show", "Print certificates, CRLs, requests and other structures in words", true, show},
+    {"show", "Print certificates, messages, time stamps, keys and other structures in words", true, show},
     {"json", "Print the JSON description of any BER or DER", true, json},
     {"der", "Write the octets of JSON descriptions", true, der},
     {"check", "Decode, encode again and compare: one line for each bad element, a summary at the end", true, check},
@@ -58,6 +58,8 @@ void describe(CLI::App &app, Session &session, Arguments &arguments, const Comma
         if (command.run == show || command.run == check)
             sub->add_option("--type", arguments.type, "Name or number of the type; recognised when not given")
                 ->check(check_type);
+        if (command.run == show)
+            sub->add_flag("--secrets", options.has_secrets, "Print private keys too, not only their sizes");
         if (command.run == dump || command.run == show)
             sub->add_flag("--full", options.is_full, "Print long values whole");
         if (command.run == json) {

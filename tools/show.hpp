@@ -38,6 +38,19 @@ public:
 
     // A line with octets that are not of the type, which standard error explains. `what` says in words what they are.
     void malformed(std::string_view what, uint32_t type, std::string_view octets);
+    // The same of octets that may be private.
+    void malformed_secret(std::string_view what, uint32_t type, std::string_view octets);
+
+    // Are private keys shown? Else their sizes are.
+    [[nodiscard]] bool has_secrets() const { return session_.options.has_secrets; }
+    // A line with octets that are private.
+    void secret(std::string_view label, std::string_view octets);
+    [[nodiscard]] bool is_full() const { return session_.options.is_full; }
+
+    // The type of what stands in content of type data, where that is known: in stores of keys.
+    uint32_t type_of_data = KOVRA_ASN1_TYPE_COUNT;
+    // There, what is not what it should be may be private.
+    [[nodiscard]] bool is_in_store() const { return type_of_data != KOVRA_ASN1_TYPE_COUNT; }
 
     // Lines are indented further while one of these lives.
     class Deeper {
@@ -58,6 +71,7 @@ private:
     static constexpr size_t value_column = 28;
 
     void begin(std::string_view label, size_t column);
+    void report(std::string_view what, uint32_t type, std::string_view octets);
 
     Session &session_;
     std::string place_;
@@ -67,7 +81,12 @@ private:
 // Prints a value as lines.
 using Show = void (*)(Printer &, kovra_asn1_value *);
 
-// Prints a value of any type: as the table has it, else as a tree.
+struct TypeRow {
+    uint32_t type;
+    Show show;
+};
+
+// Prints a value of any type: as the tables have it, else as a tree.
 void show_value(Printer &printer, uint32_t type, kovra_asn1_value *value);
 
 // What the octets or the element that stands with an object identifier are.
@@ -78,6 +97,7 @@ struct OidRow {
 };
 const OidRow *find_extension(std::string_view oid);
 const OidRow *find_attribute(std::string_view oid);
+const OidRow *find_parameters(std::string_view algorithm);
 
 // Reading values. Octets of strings and integers; the whole encoding; the name of an object identifier, or its text.
 std::string octets_of(kovra_asn1_value *string);
@@ -110,10 +130,10 @@ void put_general_name(Printer &printer, const kovra_asn1_value *name);
 std::string_view kind_of_general_name(const kovra_asn1_value *name);
 
 // Lines with a label, nothing for null.
-void show_integer(Printer &printer, std::string_view label, const kovra_asn1_value *integer);
-void show_serial(Printer &printer, std::string_view label, const kovra_asn1_value *integer);
-void show_time(Printer &printer, std::string_view label, const kovra_asn1_value *time);
-void show_name(Printer &printer, std::string_view label, const kovra_asn1_value *name);
+void show_integer(Printer &printer, std::string_view label, kovra_asn1_value *integer);
+void show_serial(Printer &printer, std::string_view label, kovra_asn1_value *integer);
+void show_time(Printer &printer, std::string_view label, kovra_asn1_value *time);
+void show_name(Printer &printer, std::string_view label, kovra_asn1_value *name);
 void show_any(Printer &printer, std::string_view label, kovra_asn1_value *any);
 void show_bits(Printer &printer, std::string_view label, kovra_asn1_value *bit_string,
                std::span<const std::string_view> names);
@@ -124,6 +144,9 @@ void show_general_names(Printer &printer, std::string_view label, kovra_asn1_val
 // Names of the bits of ReasonFlags and of the numbers of CRLReason.
 std::span<const std::string_view> reason_flags();
 std::span<const std::string_view> crl_reasons();
+
+// Versions are counted from 0; one that is absent is version 1.
+void show_version(Printer &printer, const kovra_asn1_value *version);
 
 // Structures, as rows of the tables have them.
 void show_certificate(Printer &printer, kovra_asn1_value *certificate);

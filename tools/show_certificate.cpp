@@ -1,30 +1,10 @@
 // Certificates, CRLs and certification requests.
 
-#include "show.hpp"
-#include "tool_handles.hpp"
+#include "show_fields.hpp"
 
 namespace kovra::tool {
 
 namespace {
-
-// Versions are counted from 0; one that is absent is version 1.
-void show_version(Printer &printer, const kovra_asn1_value *version) {
-    int32_t number = 0;
-    printer.begin("version");
-    if (version != nullptr && (kovra_asn1_integer_getlong(version, &number) != 1 || number < 0 || number > 99)) {
-        put_integer(printer, version);
-        printer.out.put(" as encoded");
-    } else {
-        printer.out.put_number(static_cast<uint64_t>(number) + 1);
-    }
-    printer.end();
-}
-
-void show_count(Printer &printer, std::string_view label, kovra_asn1_value *list) {
-    printer.begin(label);
-    printer.out.put_number(static_cast<uint64_t>(kovra_asn1_list_getsize(list)));
-    printer.end();
-}
 
 void show_signature(Printer &printer, kovra_asn1_value *inner, kovra_asn1_value *algorithm, kovra_asn1_value *value) {
     show_algorithm(printer, "signature algorithm", algorithm);
@@ -64,6 +44,18 @@ bool put_plain_reason(Printer &printer, kovra_asn1_value *extension) {
 }
 
 } // namespace
+
+void show_version(Printer &printer, const kovra_asn1_value *version) {
+    int32_t number = 0;
+    printer.begin("version");
+    if (version != nullptr && (kovra_asn1_integer_getlong(version, &number) != 1 || number < 0 || number > 99)) {
+        put_integer(printer, version);
+        printer.out.put(" as encoded");
+    } else {
+        printer.out.put_number(static_cast<uint64_t>(number) + 1);
+    }
+    printer.end();
+}
 
 std::span<const std::string_view> crl_reasons() {
     static constexpr std::string_view reasons[] = {

@@ -1,11 +1,9 @@
 // Algorithm identifiers with their parameters, and public keys.
 
 #include <algorithm>
-#include <bit>
 #include <iterator>
 
-#include "show.hpp"
-#include "tool_handles.hpp"
+#include "show_fields.hpp"
 
 namespace kovra::tool {
 
@@ -115,13 +113,6 @@ bool put_parameters(Printer &printer, kovra_asn1_value *algorithm) {
     return found != std::end(known_parameters) && found->put(printer, parameters);
 }
 
-size_t bit_length(const std::string &octets) {
-    const size_t first = octets.find_first_not_of('\0');
-    return first == octets.npos ? 0
-                                : (octets.size() - first - 1) * 8 +
-                                      static_cast<size_t>(std::bit_width(static_cast<uint8_t>(octets[first])));
-}
-
 void put_size(Printer &printer, size_t bits) {
     if (bits == 0)
         return;
@@ -146,7 +137,14 @@ void end_line(Printer &printer, kovra_asn1_value *algorithm, bool has_all) {
     if (has_all)
         return;
     const Printer::Deeper deeper(printer);
-    show_any(printer, "parameters", kovra_x509algoid_getparam(algorithm));
+    kovra_asn1_value *parameters = kovra_x509algoid_getparam(algorithm);
+    const OidRow *row = printer.is_deep() ? nullptr : find_parameters(text_of_oid(kovra_x509algoid_getalgo(algorithm)));
+    if (row != nullptr) {
+        Value value(row->type);
+        if (read_any(parameters, row->type, value))
+            return row->show != nullptr ? row->show(printer, value.get()) : show_value(printer, row->type, value.get());
+    }
+    show_any(printer, "parameters", parameters);
 }
 
 bool show_rsa_key(Printer &printer, kovra_asn1_value *algorithm, kovra_asn1_value *key, bool has_all) {

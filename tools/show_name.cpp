@@ -209,7 +209,7 @@ void put_general_name(Printer &printer, const kovra_asn1_value *name) {
     }
 }
 
-void show_name(Printer &printer, std::string_view label, const kovra_asn1_value *name) {
+void show_name(Printer &printer, std::string_view label, kovra_asn1_value *name) {
     if (name == nullptr)
         return;
     printer.begin(label);

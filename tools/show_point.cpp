@@ -1,6 +1,6 @@
 // Extensions that say where something is: distribution points and access descriptions.
 
-#include "show.hpp"
+#include "show_fields.hpp"
 
 namespace kovra::tool {
 
@@ -13,10 +13,6 @@ void show_point_name(Printer &printer, kovra_asn1_value *name) {
         put_relative_name(printer, relative);
         printer.end();
     }
-}
-
-void show_flag(Printer &printer, std::string_view label, const kovra_asn1_value *flag) {
-    printer.field(label, kovra_asn1_boolean_istrue(flag) == 1 ? "yes" : "no");
 }
 
 } // namespace

@@ -85,7 +85,18 @@ void Printer::tree(std::string_view octets) {
 }
 
 void Printer::malformed(std::string_view what, uint32_t type, std::string_view octets) {
+    if (is_in_store())
+        return malformed_secret(what, type, octets);
     hex("malformed", octets);
+    report(what, type, octets);
+}
+
+void Printer::malformed_secret(std::string_view what, uint32_t type, std::string_view octets) {
+    secret("malformed", octets);
+    report(what, type, octets);
+}
+
+void Printer::report(std::string_view what, uint32_t type, std::string_view octets) {
     session_.report(place_ + " " + std::string(what), explain({octets_in(octets), 0, octets.size(), true}, {type}));
 }
 

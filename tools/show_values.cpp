@@ -54,10 +54,8 @@ std::string_view name_of_oid(const kovra_asn1_value *oid) {
 
 void put_integer(Printer &printer, const kovra_asn1_value *integer) {
     const std::string octets = integer_octets(integer);
-    if (octets.size() > sizeof(uint64_t) || octets.empty()) {
-        printer.out.put("0x");
-        return printer.hex(octets);
-    }
+    if (octets.size() > sizeof(uint64_t) || octets.empty())
+        return put_serial(printer, integer);
     const bool is_negative = static_cast<uint8_t>(octets[0]) >= 0x80;
     uint64_t number = is_negative ? UINT64_MAX : 0;
     for (const char octet : octets)
@@ -119,7 +117,7 @@ void put_bits(Printer &printer, kovra_asn1_value *bit_string, std::span<const st
         printer.out.put(is_first ? "" : ", ");
         is_first = false;
         const auto index = static_cast<size_t>(bit);
-        if (index < names.size()) {
+        if (index < names.size() && !names[index].empty()) {
             printer.out.put(names[index]);
         } else {
             printer.out.put("bit ");
@@ -140,7 +138,7 @@ void put_named(Printer &printer, const kovra_asn1_value *integer, std::span<cons
         put_integer(printer, integer);
 }
 
-void show_integer(Printer &printer, std::string_view label, const kovra_asn1_value *integer) {
+void show_integer(Printer &printer, std::string_view label, kovra_asn1_value *integer) {
     if (integer == nullptr)
         return;
     printer.begin(label);
@@ -148,7 +146,7 @@ void show_integer(Printer &printer, std::string_view label, const kovra_asn1_val
     printer.end();
 }
 
-void show_serial(Printer &printer, std::string_view label, const kovra_asn1_value *integer) {
+void show_serial(Printer &printer, std::string_view label, kovra_asn1_value *integer) {
     if (integer == nullptr)
         return;
     printer.begin(label);
@@ -161,7 +159,7 @@ void show_serial(Printer &printer, std::string_view label, const kovra_asn1_valu
     printer.end();
 }
 
-void show_time(Printer &printer, std::string_view label, const kovra_asn1_value *time) {
+void show_time(Printer &printer, std::string_view label, kovra_asn1_value *time) {
     if (time == nullptr)
         return;
     printer.begin(label);

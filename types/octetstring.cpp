@@ -18,7 +18,6 @@ Site here(int32_t line = __builtin_LINE()) {
 
 // Contents of this many octets that are not in memory are written in segments.
 constexpr int64_t segmented_from = 0x500000;
-constexpr int32_t segment = 8192;
 
 int32_t string_length(const String *string) {
     if (string == nullptr)
@@ -52,11 +51,15 @@ Result write_segments(Encoder &encoder, const String &string) {
     constexpr int32_t from_start = 1;
     constexpr int32_t go_on = 2;
     Content content = string.content;
+    if (content.stream != nullptr && encoder.leaves_streams()) {
+        const Result result = encoder.note(here(), content.stream);
+        return result == success ? encoder.end_of_contents(here()) : result;
+    }
     for (int32_t mode = from_start;; mode = go_on) {
-        uint8_t octets[segment];
+        uint8_t octets[segment_octets];
         int32_t got = 0;
         if (const Result result =
-                read_piece(content, *string.arena, here(), mode, octets, segment, &got, encoder.ctx());
+                read_piece(content, *string.arena, here(), mode, octets, segment_octets, &got, encoder.ctx());
             result != success)
             return result;
         if (got <= 0)
@@ -121,7 +124,10 @@ Result encode_character_string(Encoder &encoder, const Type &type, Value *value)
     if (string == nullptr)
         return decoder.fail(here(), code::no_memory);
     uint32_t unused_bits = 0;
+    const uint32_t begin = decoder.position();
     const Result result = decode_segments<false>(decoder, here(), element, string->content, unused_bits);
+    if (element.length == indefinite && decoder.arena().stream_contents != nullptr)
+        string->content.stream = find_stream_content(decoder.arena().stream_contents, begin);
     if (result == success)
         out = string;
     return result;

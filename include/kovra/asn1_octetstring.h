@@ -29,7 +29,11 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_octetstring_new(const void *data, in
 KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_string_new(const void *data, int32_t length) KOVRA_NOTHROW;
 
 /* kovra_asn1_octetstring_newstream returns a new string whose octets are all octets of a stream, from its start. The
- * stream stays the caller's and must outlive the value. Null for null and when memory is short. */
+ * stream stays the caller's and must outlive the value. Null for null and when memory is short.
+ *
+ * Contents of 5,242,880 octets and more that are not in a memory stream are not copied when the value becomes a part of
+ * another: what a constructor, or kovra_asn1_objecttoany, makes of it refers to the same stream, which must outlive
+ * that too, and shares its read position. kovra_asn1_dupobject does copy them. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_octetstring_newstream(kovra_stream *stream) KOVRA_NOTHROW;
 
 /* kovra_asn1_octetstring_getlength returns the number of octets: -1 for 5,242,880 and more in a stream that is not a

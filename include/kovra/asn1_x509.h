@@ -3,9 +3,9 @@
  * What holds for every structure, here and in asn1_x500name.h, asn1_attribute.h, asn1_extension.h and asn1_pkcs10.h:
  *
  * A constructor takes one argument for each component, in the order of the ASN.1 definition, each a value of the
- * component's type, and copies it. It returns null for a null argument of a required component, for an argument of
- * another kind, and when memory is short. Null leaves an OPTIONAL component out and stands for the default of a DEFAULT
- * one.
+ * component's type, and copies it, but for long contents in streams (kovra_asn1_octetstring_newstream). It returns null
+ * for a null argument of a required component, for an argument of another kind, and when memory is short. Null leaves
+ * an OPTIONAL component out and stands for the default of a DEFAULT one.
  *
  * A getter gives the component, borrowed; null for null, for a value of another kind, and for a component that is
  * absent. A DEFAULT component is never absent. A `has` function tells with 1 or 0 whether an OPTIONAL component is

@@ -1,0 +1,41 @@
+// Long contents that stay in the caller's streams when the strings that hold them become parts of other values.
+//
+// A string whose content is so long that it is written in segments, from a stream that is not in memory, is copied as
+// an empty constructed string of indefinite length, with a note beside the octets that tells the stream. Decoding the
+// copy finds the note by the offset of the content.
+#pragma once
+
+#include <cstdint>
+
+#include "core/arena.hpp"
+#include "kovra/util_stream.h"
+
+namespace kovra::asn1 {
+
+// Octets of the segments that contents in streams are written in.
+inline constexpr int32_t segment_octets = 8192;
+
+// One note. They live in blocks of their own, which go from the encoder to the arena of the copy.
+struct StreamContent {
+    StreamContent *next;
+    Arena::Block *block;
+    kovra_stream *stream;
+    uint32_t offset; // of the content octets that stand for those of the stream
+    bool is_found;
+};
+
+// A new note in front of others; null when memory is short.
+StreamContent *note_stream_content(StreamContent *others, kovra_stream *stream, uint32_t offset);
+void drop_stream_contents(StreamContent *notes);
+// Gives the notes to an arena, which frees them.
+void link_stream_contents(Arena &arena, StreamContent *notes);
+// The stream that stands for the content at an offset; null when there is none. A copy in which not all were found has
+// taken the octets with the empty string for something else.
+kovra_stream *find_stream_content(StreamContent *notes, uint32_t offset);
+bool all_found(const StreamContent *notes);
+
+// A stream that shows what `source` is written as: segments, and the end-of-contents octets. The source stays the
+// caller's. Null when memory is short.
+kovra_stream *new_segment_stream(kovra_stream *source);
+
+} // namespace kovra::asn1

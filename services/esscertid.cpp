@@ -1,0 +1,129 @@
+// ESSCertID, ESSCertIDv2 and IssuerSerial (RFC 2634, 5.4.1; RFC 5035, 4): which certificate a signer used.
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/descriptors.hpp"
+#include "core/list.hpp"
+#include "core/structure.hpp"
+#include "kovra/asn1_tsp.h"
+#include "kovra/asn1_types.h"
+
+namespace kovra::asn1 {
+
+namespace {
+
+constexpr char source[] = "ASN1_TSP";
+
+// IssuerSerial ::= SEQUENCE {
+//     issuer        GeneralNames,
+//     serialNumber  INTEGER }
+namespace serial {
+enum Slot : uint8_t { issuer, number };
+constexpr Component components[] = {
+    required("issuer", KOVRA_ASN1_TYPE_GENERAL_NAMES),
+    required("serialNumber", KOVRA_ASN1_TYPE_INTEGER),
+};
+} // namespace serial
+
+// ESSCertID ::= SEQUENCE {
+//     certHash      OCTET STRING,
+//     issuerSerial  IssuerSerial OPTIONAL }
+namespace cert_id {
+enum Slot : uint8_t { hash, issuer_serial };
+constexpr Component components[] = {
+    required("certHash", KOVRA_ASN1_TYPE_OCTET_STRING),
+    optional("issuerSerial", KOVRA_ASN1_TYPE_ISSUER_SERIAL),
+};
+} // namespace cert_id
+
+// The content octets of id-sha256, 2.16.840.1.101.3.4.2.1.
+constexpr uint8_t sha256[] = {0x60, 0x86, 0x48, 0x01, 0x65, 0x03, 0x04, 0x02, 0x01};
+
+Value *make_sha256(Arena &arena) {
+    auto *algorithm = new_record<ObjectIdentifier>(arena);
+    Record *record = algorithm != nullptr ? new_structure(arena, algorithm_identifier) : nullptr;
+    if (record == nullptr)
+        return nullptr;
+    algorithm->octets = {sha256, 0, sizeof sha256};
+    record->slots[0] = algorithm;
+    return record;
+}
+
+// The dotted text tells, whatever the parameters: octets of an unfinished arc at the end are no part of it.
+bool is_sha256(const Value &value) {
+    const auto *algorithm = static_cast<const ObjectIdentifier *>(component(algorithm_identifier, &value, 0));
+    const uint8_t *octets = algorithm->octets.data(*algorithm->arena);
+    const uint32_t length = algorithm->octets.length;
+    return length >= sizeof sha256 && std::memcmp(octets, sha256, sizeof sha256) == 0 &&
+           std::all_of(octets + sizeof sha256, octets + length, [](uint8_t octet) { return octet >= 0x80; });
+}
+
+constexpr Default default_sha256 = {make_sha256, is_sha256};
+
+// ESSCertIDv2 ::= SEQUENCE {
+//     hashAlgorithm  AlgorithmIdentifier DEFAULT {algorithm id-sha256},
+//     certHash       OCTET STRING,
+//     issuerSerial   IssuerSerial OPTIONAL }
+namespace cert_id_v2 {
+enum Slot : uint8_t { hash_algorithm, hash, issuer_serial };
+constexpr Component components[] = {
+    defaulted("hashAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, default_sha256),
+    required("certHash", KOVRA_ASN1_TYPE_OCTET_STRING),
+    optional("issuerSerial", KOVRA_ASN1_TYPE_ISSUER_SERIAL),
+};
+} // namespace cert_id_v2
+
+} // namespace
+
+constexpr Structure issuer_serial = structure(source, serial::components);
+constexpr Structure ess_cert_id = structure(source, cert_id::components);
+constexpr Structure ess_cert_id_v2 = structure(source, cert_id_v2::components);
+// SEQUENCE OF ESSCertID, SEQUENCE OF ESSCertIDv2
+constexpr ListShape ess_cert_ids = {KOVRA_ASN1_TYPE_ESS_CERT_ID};
+constexpr ListShape ess_cert_ids_v2 = {KOVRA_ASN1_TYPE_ESS_CERT_ID_V2};
+
+} // namespace kovra::asn1
+
+using namespace kovra::asn1;
+
+kovra_asn1_value *kovra_ess_issuerserial_new(const kovra_asn1_value *issuer, const kovra_asn1_value *number) noexcept {
+    return construct(issuer_serial, issuer, number);
+}
+
+kovra_asn1_value *kovra_ess_issuerserial_getissuer(const kovra_asn1_value *obj) noexcept {
+    return component(issuer_serial, obj, serial::issuer);
+}
+
+kovra_asn1_value *kovra_ess_issuerserial_getsn(const kovra_asn1_value *obj) noexcept {
+    return component(issuer_serial, obj, serial::number);
+}
+
+kovra_asn1_value *kovra_ess_certid_new(const kovra_asn1_value *hash, const kovra_asn1_value *issuer) noexcept {
+    return construct(ess_cert_id, hash, issuer);
+}
+
+kovra_asn1_value *kovra_ess_certid_getcerthash(const kovra_asn1_value *obj) noexcept {
+    return component(ess_cert_id, obj, cert_id::hash);
+}
+
+kovra_asn1_value *kovra_ess_certid_getissuersn(const kovra_asn1_value *obj) noexcept {
+    return component(ess_cert_id, obj, cert_id::issuer_serial);
+}
+
+kovra_asn1_value *kovra_ess_certidv2_new(const kovra_asn1_value *algorithm, const kovra_asn1_value *hash,
+                                         const kovra_asn1_value *issuer) noexcept {
+    return construct(ess_cert_id_v2, algorithm, hash, issuer);
+}
+
+kovra_asn1_value *kovra_ess_certidv2_getcerthashalgo(const kovra_asn1_value *obj) noexcept {
+    return component(ess_cert_id_v2, obj, cert_id_v2::hash_algorithm);
+}
+
+kovra_asn1_value *kovra_ess_certidv2_getcerthash(const kovra_asn1_value *obj) noexcept {
+    return component(ess_cert_id_v2, obj, cert_id_v2::hash);
+}
+
+kovra_asn1_value *kovra_ess_certidv2_getissuersn(const kovra_asn1_value *obj) noexcept {
+    return component(ess_cert_id_v2, obj, cert_id_v2::issuer_serial);
+}
