@@ -29,7 +29,7 @@ std::vector<std::string> table_elements() {
     std::vector<std::string> found;
     for (const auto &entry : fs::directory_iterator(KOVRA_SOURCE_DIR "/tests/data")) {
         const std::string name = entry.path().filename().string();
-        if (name.find("decodings") == name.npos && name != "structures.txt")
+        if (name.find("decodings") == name.npos && name != "structures.txt" && name != "messages.txt")
             continue;
         for (const auto &row : test::table(name)) {
             if (row.size() < 2 || row[0].find_first_not_of("0123456789") != row[0].npos)
@@ -135,7 +135,7 @@ void make(const fs::path &all) {
     for (const std::string &file : files) {
         coding.add(file);
         push.add(octet(file.size()) + octet(KOVRA_ASN1_TYPE_ANY) + file);
-        for (const size_t command : {0, 1, 2, 3})
+        for (const uint8_t command : {0, 1, 2, 3})
             tool.add(octet(command) + octet(KOVRA_ASN1_TYPE_COUNT) + file);
     }
     for (const std::string &octets : elements) {
