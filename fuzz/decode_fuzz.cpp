@@ -52,7 +52,8 @@ void run(Draw input) {
     check(memory.taken == trickle.taken || (memory.result != 1 && memory.taken < trickle.taken),
           "streams of either kind are read as far");
     if (memory.result == 1 && has_record(type)) {
-        check_round_trip(memory, type);
+        if (comes_back(type))
+            check_round_trip(memory, type);
         check(encode(type, memory.value.get()) == encode(type, trickle.value.get()),
               "values from streams of either kind are encoded alike");
     }

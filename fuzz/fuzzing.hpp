@@ -86,7 +86,11 @@ constexpr bool has_record(uint32_t type) {
     return type != KOVRA_ASN1_TYPE_END_OF_CONTENTS && type != KOVRA_ASN1_TYPE_NULL;
 }
 
-// The encoding, which has to succeed and to be what all functions that encode and measure say.
+// Types that are written otherwise than they are read, or not at all, as their headers say, and those around them.
+bool comes_back(uint32_t type);
+
+// The encoding, which has to succeed and to be what all functions that encode and measure say; where it does not come
+// back, whatever it is.
 std::string encode(uint32_t type, const kovra_asn1_value *value);
 
 // All octets of a growable memory stream, which is empty afterwards.
