@@ -7,7 +7,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
 cpack --config "$build/CPackConfig.cmake" -B "$work" >log 2>&1 || { cat log; exit 1; }
-archive=$(ls ./*.zip ./*.tar.gz 2>/dev/null)
+archive=$(find . -maxdepth 1 -name "*.zip" -o -maxdepth 1 -name "*.tar.gz")
 mkdir unpacked
 (cd unpacked && cmake -E tar xf "../$archive")
 root=$(echo "$work"/unpacked/*)

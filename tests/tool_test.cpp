@@ -441,7 +441,7 @@ TEST_F(Tool, NamesNeedNotBeAscii) {
     std::ofstream(path("") / native / native, std::ios::binary) << octets("0C 03 0D0A1A") << octets("05 01");
     const Result result = run("json " + name + "/" + name + " --out " + name + "2");
     EXPECT_EQ(result.code, 1);
-    EXPECT_EQ(result.error.find("kovra-asn1: " + name + "/" + name + "[2]: octet 5: "), 0U) << result.error;
+    EXPECT_EQ(result.error.find("kovra-asn1: " + name + "/" + name + "[2]: octet 7: "), 0U) << result.error;
     const std::string written = kovra::test::read_file(path("") / fs::path(std::u8string(native.u8string()) + u8"2"));
     EXPECT_EQ(written, description(octets("0C 03 0D0A1A"), 2)) << "line ends are not translated";
     const Result checked = run("check " + name);

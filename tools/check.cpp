@@ -105,7 +105,10 @@ private:
         if (!detected.is_good)
             return report(malformed_, item, file, explain(item, detected.type));
         const Blob again(kovra_asn1_mem_encode(detected.type, detected.value));
+        const bool is_short = again == nullptr && kovra_asn1_length(detected.type, detected.value) > 0;
         kovra_asn1_value_free(detected.type, detected.value);
+        if (is_short)
+            return report(unreadable_, item, file, {item.begin, {{KOVRA_ERR_NO_MEMORY, "memory is short", ""}}});
         const uint8_t *begin = item.octets + item.begin;
         const uint8_t *end = item.octets + item.end;
         const uint8_t *other = kovra_data_blob_getdata(again.get());

@@ -42,6 +42,7 @@ std::string check_type(const std::string &text) {
 void describe(CLI::App &app, Session &session, Arguments &arguments, const Command *&chosen) {
     Options &options = session.options;
     app.require_subcommand(1);
+    app.allow_windows_style_options(false); // a path may begin with a slash everywhere
     app.set_help_all_flag("--help-all", "Print this help and that of every command");
     app.footer("Exit codes: 0 all good, 1 malformed input, 2 usage, 3 file or I/O.\n");
     app.add_option("--out", arguments.out, "Write to this file instead of standard output");

@@ -89,6 +89,7 @@ bool is_terminal(int file) {
 
 Terminal::Terminal() {
     for (const int file : {1, 2}) {
+        _setmode(file, _O_BINARY);
         if (!is_terminal(file))
             continue;
         const auto console = reinterpret_cast<HANDLE>(_get_osfhandle(file));

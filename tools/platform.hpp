@@ -21,7 +21,7 @@ int open_to_write(const std::string &utf8_path);
 
 bool is_terminal(int file);
 
-// While it lives the terminal takes UTF-8 and, where it can, escape sequences.
+// While it lives the terminal takes UTF-8 and, where it can, escape sequences. Line ends are the same on all systems.
 class Terminal {
 public:
     Terminal();
