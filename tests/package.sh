@@ -1,6 +1,6 @@
 #!/bin/sh
-# package.sh BUILD SOURCE COMPILER [EMULATOR]: the archive that cpack makes holds what it should, and a C program that is
-# built with nothing else prints the subject of a certificate, from a file whose name is not ASCII.
+# package.sh BUILD SOURCE COMPILER [EMULATOR]: the archive that cpack makes holds what it should, a C program that is
+# built with nothing else prints the subject of a certificate, and the tool shows a file whose name is not ASCII.
 set -eu
 build=$1 source=$2 compiler=$3 emulator=${4:-}
 work=$(mktemp -d)
@@ -38,4 +38,4 @@ grep -q '^2\.5\.4\.3 ' printed || { echo "no subject:"; cat printed; exit 1; }
 # The tool takes its arguments in UTF-8.
 tool=$(ls "$root"/bin/kovra-asn1*)
 $emulator "$tool" show "zertifikat-ä-証.der" | grep -q '^issuer' || { echo "the tool does not show the file"; exit 1; }
-echo "$archive: $(cat printed | head -1) ..."
+echo "$archive: $(head -1 printed) ..."
