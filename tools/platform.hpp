@@ -32,7 +32,7 @@ public:
     [[nodiscard]] bool takes_escapes() const { return takes_escapes_; }
 
 private:
-    unsigned code_page_ = 0; // to be restored; 0 where there is none
+    [[maybe_unused]] unsigned code_page_ = 0; // to be restored; 0 where there is none
     bool takes_escapes_ = true;
 };
 
