@@ -12,12 +12,14 @@ thread_local int64_t room = INT64_MAX;
 thread_local bool failed = false;
 thread_local bool once = false;
 
+#ifndef _WIN32
 bool is_refused() {
     if (room == INT64_MAX || room-- > 0)
         return false;
     room = once ? INT64_MAX : 0;
     return failed = true;
 }
+#endif
 
 } // namespace
 
