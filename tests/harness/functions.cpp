@@ -155,6 +155,8 @@ int64_t call_with(const Function &function, const std::vector<const Kept *> &arg
         call.values.push_back(value);
     }
     const int64_t found = function.call(function, call);
+    call.stream.reset();
+    call.errors.reset();
     if (released_first(function, arguments, found)) {
         copies.erase(copies.begin());
         call.values[0] = nullptr;

@@ -1,10 +1,13 @@
 // What holds for all types, over values made from their tables and over what comes of changing them.
+#include <filesystem>
 #include <set>
 
 #include "core/choice.hpp"
+#include "core/descriptors.hpp"
 #include "core/structure.hpp"
 #include "tests/asn1_testing.hpp"
 #include "tests/failing_memory.hpp"
+#include "tests/harness/functions.hpp"
 #include "tests/harness/samples.hpp"
 
 namespace kovra::test {
@@ -276,6 +279,7 @@ class Changes : public testing::TestWithParam<uint32_t> {};
 
 TEST_P(Changes, AreRefusedOrSound) {
     size_t accepted = 0, refused = 0;
+    read_everything(pool()[0].value.get()); // what it keeps for later is no leak
     for (uint32_t type = GetParam(); type < type_count; type += 4) {
         std::set<std::string> seen;
         for (const Sample &sample : samples(type)) {
@@ -294,8 +298,10 @@ TEST_P(Changes, AreRefusedOrSound) {
                         SCOPED_TRACE("at " + std::to_string(place.begin) + ": " + hex(changed));
                         const Outcome read = outcome(type, changed);
                         ++(read.result == 1 ? accepted : refused);
-                        if (read.value)
+                        if (read.value) {
                             expect_sound(type, read.value.get());
+                            read_everything(read.value.get());
+                        }
                     }
                     ASSERT_TRUE(live_blocks() == before || !is_memory_watched());
                 }
@@ -312,6 +318,52 @@ TEST_P(Changes, AreRefusedOrSound) {
 
 INSTANTIATE_TEST_SUITE_P(Rows, Changes, testing::Range(0u, 4u));
 
+// What every structure and every list says to the same faults.
+TEST(Rows, FormsTagsAndArguments) {
+    for (uint32_t type = 0; type < type_count; ++type) {
+        const core::Type &row = core::row(type);
+        if (!is_structure(row) && !is_list(row) && !is_choice(row))
+            continue;
+        const std::string &data = minimal_sample(type);
+        SCOPED_TRACE("type " + std::to_string(type) + ": " + hex(data));
+        const Value value = decode(type, data).value;
+        kovra_asn1_value *out = nullptr;
+        EXPECT_EQ(kovra_asn1_decode(nullptr, type, &out, nullptr, nullptr), 0);
+        if (has_no_whole(type) || has_no_value(type))
+            continue;
+        EXPECT_EQ(encode_with([&](auto *, auto *written, auto *ctx) {
+                      return kovra_asn1_encode(nullptr, type, value.get(), written, ctx);
+                  }).codes.at(0),
+                  0x10002);
+        EXPECT_EQ(encode(type, nullptr).codes.at(0), 0x10002);
+        EXPECT_EQ(kovra_asn1_length(type, nullptr), -2);
+        if (is_choice(row)) {
+            if (row.operations != &core::any_time_operations) {
+                EXPECT_EQ(decode_content(type, data.substr(2), 0, size_of(data) - 2).codes.at(0), 0x1026d);
+            }
+            continue;
+        }
+        // Refused before anything is read.
+        const Decoded primitive = decode_content(type, data.substr(2), 1, size_of(data) - 2);
+        EXPECT_EQ(primitive.codes, Codes({0x1026a}));
+        EXPECT_EQ(primitive.consumed, 0u);
+        EXPECT_EQ(decode_content(type, data, 0, -2).codes,
+                  Codes({row.operations == &core::any_list_operations ? 0x10203 : 0x10001}));
+        EXPECT_EQ(encode_content(type, value.get(), -2).codes, Codes({0x10001}));
+        EXPECT_EQ(encode_content(type, nullptr, 0).codes, Codes({0x10002}));
+        const bool keeps_octets = row.operations == &core::kept_structure_operations;
+        auto changed = [&](int flip) { return std::string(1, static_cast<char>(data[0] ^ flip)) + data.substr(1); };
+        EXPECT_EQ(decode(type, changed(0x01)).codes, Codes({0x1020a}));
+        EXPECT_EQ(decode(type, changed(0x80)).codes, Codes({0x1020a}));
+        EXPECT_EQ(decode(type, changed(0x20)).codes, keeps_octets ? Codes({0x10201, 0x10236}) : Codes({0x1026a}));
+        if (is_written_as_read(row)) {
+            const std::string content = encode_content(type, value.get(), -1).octets;
+            const std::string open = std::string{data[0], '\x80'} + content;
+            EXPECT_EQ(encoding(decode(type, open).value), hex(keeps_octets ? open : data));
+        }
+    }
+}
+
 TEST(Rows, EveryAllocationMayFail) {
     for (uint32_t type = 0; type < type_count; ++type) {
         for (const Sample &sample : samples(type)) {
@@ -320,11 +372,12 @@ TEST(Rows, EveryAllocationMayFail) {
             SCOPED_TRACE(name_of(type, sample));
             const bool is_written =
                 decode(type, encode(type, decode(type, sample.octets).value.get()).octets).result == 1;
-            for (const bool fails_once : {false, true}) {
+            for (const auto &[fails_once, feed] :
+                 {std::pair(false, Feed::memory), std::pair(true, Feed::memory), std::pair(true, Feed::trickle)}) {
                 fail_each_allocation(
-                    [&] {
+                    [&, feed = feed] {
                         const Errors ctx(kovra_err_ctx_new());
-                        const Input input(sample.octets);
+                        const Input input(sample.octets, feed);
                         kovra_asn1_value *out = nullptr;
                         if (ctx == nullptr || input.stream() == nullptr)
                             return false;
@@ -339,7 +392,12 @@ TEST(Rows, EveryAllocationMayFail) {
                             return true;
                         const Value copy(type, kovra_asn1_dupobject(type, value.get(), nullptr));
                         const Blob encoding(kovra_asn1_mem_encode(type, value.get()));
-                        return (copy && encoding != nullptr) || !is_written;
+                        const Value any(KOVRA_ASN1_TYPE_ANY, kovra_asn1_objecttoany(type, value.get()));
+                        kovra_asn1_value *back = nullptr;
+                        const bool is_back = kovra_asn1_any_toobject(any.get(), type, &back, nullptr) == 1;
+                        EXPECT_EQ(is_back, back != nullptr);
+                        const Value again(type, back);
+                        return (copy && encoding != nullptr && (!any || again)) || !is_written;
                     },
                     fails_once);
             }
@@ -347,6 +405,37 @@ TEST(Rows, EveryAllocationMayFail) {
                 return;
         }
     }
+}
+
+// The examples, read as all that they can be read as: cut, and where memory is short.
+TEST(Rows, FilesAreCutAndReadWithoutMemory) {
+    size_t count = 0;
+    read_everything(pool()[0].value.get());
+    for (const auto &entry : std::filesystem::directory_iterator(KOVRA_SOURCE_DIR "/examples")) {
+        const std::string extension = entry.path().extension().string();
+        if (extension != ".der" && extension != ".ber" && extension != ".p12")
+            continue;
+        std::ifstream file(entry.path(), std::ios::binary);
+        const std::string data{std::istreambuf_iterator<char>(file), {}};
+        for (uint32_t type = KOVRA_ASN1_TYPE_CONTEXT; type < type_count; ++type) {
+            const Decoded whole = decode(type, data);
+            if (whole.result != 1 || !is_structure(core::row(type)))
+                continue;
+            SCOPED_TRACE(entry.path().string() + " as type " + std::to_string(type));
+            ++count;
+            read_everything(whole.value.get());
+            const size_t step = 1 + data.size() / 500;
+            for (size_t end = 0; end < data.size(); end += step)
+                ASSERT_EQ(outcome(type, data.substr(0, end)).result, 0) << "cut at " << end;
+            fail_each_allocation([&] {
+                kovra_asn1_value *out = nullptr;
+                kovra_asn1_mem_decode(data.data(), size_of(data), type, &out);
+                const Value value(type, out), copy(type, kovra_asn1_dupobject(type, out, nullptr));
+                return Blob(kovra_asn1_mem_encode(type, value.get())) != nullptr && copy;
+            });
+        }
+    }
+    EXPECT_GT(count, 80u);
 }
 
 } // namespace
