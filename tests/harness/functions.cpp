@@ -110,10 +110,17 @@ Function function(const char *name, std::string_view letters, Result (*address)(
     return {name, letters, reinterpret_cast<void (*)()>(address), call_of<Result, Parameters...>};
 }
 
-// The one function that releases a value of its caller when it fails: its first one, unless that cannot be copied.
+// Has the call released its first value? Beside what is there for that, one constructor does when it fails, unless it
+// is that value that cannot be copied.
 bool released_first(const Function &function, const std::vector<const Kept *> &arguments, int64_t found) {
-    return std::string_view(function.name) == "kovra_x500attribute_new" && found == 0 && arguments[0] != nullptr &&
-           arguments[1] != nullptr && record_of(arguments[0]->value.get())->kind == core::Kind::object_identifier;
+    const std::string_view name = function.name;
+    if (arguments.empty() || arguments[0] == nullptr)
+        return false;
+    const core::Kind kind = record_of(arguments[0]->value.get())->kind;
+    if (name == "kovra_asn1_list_free")
+        return kind == core::Kind::list;
+    return name == "kovra_asn1_value_free" || (name == "kovra_x500attribute_new" && found == 0 &&
+                                               arguments[1] != nullptr && kind == core::Kind::object_identifier);
 }
 
 } // namespace
@@ -163,8 +170,6 @@ int64_t call_with(const Function &function, const std::vector<const Kept *> &arg
     }
     if (look)
         look(call);
-    if (releases(function))
-        return found;
     std::vector<Handle> ours;
     for (const Handle copy : copies)
         if (is_free(copy))
