@@ -233,7 +233,8 @@ kovra_asn1_value *kovra_asn1_string_new(const void *data, int32_t length) noexce
 }
 
 kovra_asn1_value *kovra_asn1_octetstring_newstream(kovra_stream *stream) noexcept {
-    if (stream == nullptr)
+    // 0 for null too.
+    if (kovra_stream_gettype(stream) == 0)
         return nullptr;
     auto *string = new_root<String>();
     if (string != nullptr)
