@@ -1,4 +1,4 @@
-# 32-bit Windows with MinGW-w64.
+# 32-bit Windows with MinGW-w64; what it builds runs with Wine, where there is one.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR i686)
 set(CMAKE_C_COMPILER i686-w64-mingw32-gcc-posix)
@@ -8,3 +8,13 @@ set(CMAKE_FIND_ROOT_PATH /usr/i686-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
+
+# This file is read again for each thing that CMake tries; the answer stays the same.
+get_filename_component(wine ${CMAKE_CURRENT_LIST_DIR}/../scripts/wine ABSOLUTE)
+if(NOT DEFINED ENV{KOVRA_WINE_STATUS})
+  execute_process(COMMAND ${wine} --check RESULT_VARIABLE status OUTPUT_QUIET ERROR_QUIET)
+  set(ENV{KOVRA_WINE_STATUS} ${status})
+endif()
+if("$ENV{KOVRA_WINE_STATUS}" STREQUAL 0)
+  set(CMAKE_CROSSCOMPILING_EMULATOR ${wine})
+endif()

@@ -38,6 +38,11 @@ Decoder::~Decoder() {
     Arena::destroy(scratch_);
 }
 
+bool Decoder::enter_long(uint32_t &length) {
+    uint8_t identifier = 0;
+    return header(identifier, length);
+}
+
 void Decoder::advance_stream() {
     if (shown_ != nullptr)
         kovra_stream_advance(shown_, position_);
@@ -138,15 +143,13 @@ template <class Decode> Result Decoder::into_own_arena(size_t reserve, Decode de
 }
 
 Result Decoder::decode_root(const Type &type, Value *&out) {
-    // A definite element in memory tells how much there will be.
+    // An element that is all there tells how much there will be.
     size_t expected = 0;
-    if (size_ >= 2) {
-        Decoder look(base_, size_, nullptr);
-        Identifier identifier;
-        int32_t length = 0;
-        if (read_identifier(look, here(), identifier) == success && read_length(look, here(), length) == success &&
-            length >= 0)
-            expected = std::min<size_t>(size_, look.position() + static_cast<size_t>(length));
+    uint8_t octet = 0;
+    uint32_t length = 0;
+    if (header(octet, length)) {
+        expected = position_ + size_t{length};
+        position_ = 0;
     }
     const size_t copy = expected <= one_allocation ? expected : 0;
     return into_own_arena(

@@ -105,8 +105,17 @@ public:
     }
     // The same for one identifier.
     bool enter(uint8_t identifier, uint32_t &length) {
-        uint8_t found = 0;
-        return position_ != size_ && base_[position_] == identifier && header(found, length);
+        const uint32_t left = size_ - position_;
+        const uint8_t *octets = base_ + position_;
+        if (left < 2 || octets[0] != identifier)
+            return false;
+        if (octets[1] >= 0x80)
+            return enter_long(length);
+        if (octets[1] > left - 2)
+            return false;
+        length = octets[1];
+        position_ += 2;
+        return true;
     }
     // Steps over `count` octets of content.
     Result skip(Site site, uint32_t count) {
@@ -194,6 +203,7 @@ public:
     };
 
 private:
+    bool enter_long(uint32_t &length);
     bool pull(uint32_t count);
     Result short_read(Site site);
     template <class Decode> Result into_own_arena(size_t reserve, Decode decode, Value *&out);

@@ -49,20 +49,22 @@ struct Type {
     constexpr Type(uint8_t number_, Form form_, uint8_t tag_, int32_t base_, const Operations *operations_,
                    const void *shape_)
         : number(number_), form(form_), tag(tag_),
-          usual_identifier(static_cast<uint8_t>(form_ == Form::constructed ? tag_ | 0x20 : tag_)), base(base_),
+          usual_identifier(static_cast<uint8_t>(form_ == Form::constructed ? tag_ | 0x20 : tag_)),
+          usual_form(form_ == Form::constructed ? Form::constructed : Form::primitive), base(base_),
           operations(operations_), shape(shape_) {}
 
     uint8_t number;
     Form form;
     uint8_t tag;              // universal
-    uint8_t usual_identifier; // octet of the tag in the form, which is primitive where either will do
+    uint8_t usual_identifier; // octet of the tag in the usual form
+    Form usual_form;          // primitive where either will do
     int32_t base;             // code of a failed encode; that of a failed decode is one above
     const Operations *operations;
     const void *shape; // the declaration that shared operations work from; null for the leaves
 
     // An element under the usual identifier.
     [[nodiscard]] Element usual_element(uint32_t length, uint32_t start) const {
-        return {form == Form::constructed ? Form::constructed : Form::primitive, static_cast<int32_t>(length), start};
+        return {usual_form, static_cast<int32_t>(length), start};
     }
 };
 

@@ -490,12 +490,6 @@ Value *component(const Structure &shape, const kovra_asn1_value *handle, uint8_t
     return record != nullptr ? record->slots[slot] : nullptr;
 }
 
-Octets &kept_encoding(Record &record) {
-    return kept_of(record)[0];
-}
-Octets &kept_signed_octets(Record &record) {
-    return kept_of(record)[1];
-}
 void drop_kept_encoding(Record &record) {
     kept_of(record)[0] = {};
 }

@@ -117,9 +117,7 @@ inline const Value *in_slot(const Record &record, uint8_t slot) {
     return record.slots[slot];
 }
 
-// Exact octets that a record keeps.
-Octets &kept_encoding(Record &record);
-Octets &kept_signed_octets(Record &record);
+// Are there octets that a record keeps?
 inline bool is_kept(const Octets &octets) {
     return octets.length != 0;
 }

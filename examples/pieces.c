@@ -1,6 +1,11 @@
 /* Reads a certificate from standard input piece by piece, without knowing its size, and prints its serial number. */
 #include <stdio.h>
 
+#if defined(_WIN32)
+#include <fcntl.h>
+#include <io.h>
+#endif
+
 #include "kovra/asn1.h"
 #include "kovra/util.h"
 
@@ -20,6 +25,9 @@ static kovra_asn1_value *receive_certificate(FILE *from, kovra_err_ctx *errors) 
 }
 
 int main(void) {
+#if defined(_WIN32)
+    _setmode(0, _O_BINARY); /* octets, not lines of text */
+#endif
     kovra_err_ctx *errors = kovra_err_ctx_new();
     kovra_asn1_value *certificate = receive_certificate(stdin, errors);
     kovra_data_blob *serial =

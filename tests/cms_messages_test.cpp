@@ -127,29 +127,5 @@ TEST(Messages, EveryNestedValueComesBack) {
     }
 }
 
-TEST(Messages, TruncationsAreRefusedAndAllocationsMayFail) {
-    for (const Message &message : messages()) {
-        SCOPED_TRACE(message.name);
-        Value inner = content(decode(111, message.octets).value.get());
-        if (!inner || inner.type() == 23)
-            continue;
-        uint32_t type = inner.type();
-        std::string data = encode(type, inner.get()).octets;
-        size_t step = data.size() > 4000 ? 97 : 1;
-        for (size_t size = 0; size < data.size(); size += step) {
-            Input input(std::string_view(data).substr(0, size));
-            kovra_asn1_value *value = nullptr;
-            EXPECT_NE(kovra_asn1_decode(input.stream(), type, &value, nullptr, nullptr), 1) << size;
-            EXPECT_EQ(value, nullptr);
-        }
-        fail_each_allocation([&] {
-            kovra_asn1_value *value = nullptr;
-            kovra_asn1_mem_decode(data.data(), size_of(data), type, &value);
-            Value owner(type, value), copy(type, kovra_asn1_dupobject(type, value, nullptr));
-            return Blob(kovra_asn1_mem_encode(type, copy.get())) != nullptr;
-        });
-    }
-}
-
 } // namespace
 } // namespace kovra::test

@@ -109,28 +109,6 @@ TEST(CmsStructures, EveryCombinationOfPartsIsMadeWrittenAndReadBack) {
     }
 }
 
-TEST(CmsStructures, AbsentAndForeignArgumentsGiveNothing) {
-    Value foreign(1, kovra_asn1_boolean_true());
-    for (const Layout &layout : layouts()) {
-        for (size_t i = 0; layout.make && i < layout.parts.size(); ++i) {
-            SCOPED_TRACE("type " + std::to_string(layout.type) + ", part " + std::to_string(i));
-            std::vector<Value> values;
-            std::vector<Handle> arguments;
-            for (const Part &part : layout.parts) {
-                values.push_back(sample_value(part.type));
-                arguments.push_back(values.back().get());
-            }
-            arguments[i] = foreign.get();
-            EXPECT_EQ(layout.make(arguments), nullptr);
-            arguments[i] = nullptr;
-            EXPECT_EQ(static_cast<bool>(Value(layout.type, layout.make(arguments))), layout.parts[i].is_optional());
-        }
-    }
-    for (const Alternative &row : alternatives()) {
-        EXPECT_TRUE(row.make == nullptr || (row.make(nullptr) == nullptr && row.make(foreign.get()) == nullptr));
-    }
-}
-
 TEST(CmsStructures, AChoiceGivesItsNumberAndItsValueWhoeverAsks) {
     for (const Alternative &row : alternatives()) {
         SCOPED_TRACE("type " + std::to_string(row.type) + ", alternative " + std::to_string(row.number));
@@ -150,33 +128,6 @@ TEST(CmsStructures, AChoiceGivesItsNumberAndItsValueWhoeverAsks) {
             }
         }
         EXPECT_EQ(decode_content(row.type, expected, 0, size_of(expected)).codes, Codes({0x1026d}));
-    }
-}
-
-TEST(CmsStructures, AValueOfAnotherKindHasNoParts) {
-    std::vector<std::pair<uint32_t, Value>> values;
-    for (const auto &row : table("messages.txt"))
-        if (auto type = static_cast<uint32_t>(std::stoul(row[0])); row.size() > 2 && row[2] == "=")
-            values.emplace_back(type == 133 ? 134 : type, decoded(type, row[1]));
-    for (uint32_t type : {1u, 2u, 4u, 6u, 23u, 33u, 39u})
-        values.emplace_back(type, type == 1 ? decoded(1, "01 01 FF") : sample_value(type));
-    values.emplace_back(0, Value());
-    auto expect_nothing = [&](uint32_t type, const Part &part) {
-        for (const auto &[other, value] : values) {
-            if (other == type)
-                continue;
-            EXPECT_EQ(part.get(value.get()), nullptr) << type << " of " << other;
-            EXPECT_TRUE(part.has == nullptr || part.has(value.get()) == 0) << type << " of " << other;
-        }
-    };
-    for (const Layout &layout : layouts())
-        for (const Part &part : layout.parts)
-            expect_nothing(layout.type, part);
-    for (const Alternative &row : alternatives()) {
-        expect_nothing(row.type, row.part);
-        for (const auto &[other, value] : values) {
-            EXPECT_TRUE(other == row.type || row.get_number(value.get()) == 0);
-        }
     }
 }
 
@@ -235,53 +186,6 @@ TEST(CmsStructures, IrregularOnes) {
     EXPECT_EQ(encoding(many.value), hex(of_length(set)));
     EXPECT_EQ(decode(131, of_length(set + octets("A1 00"))).codes, Codes({0x1020c, 0x10346}));
     EXPECT_EQ(decode(131, of_length(set + octets("A4 00"))).codes, Codes({0x1020a}));
-}
-
-TEST(CmsStructures, EveryAllocationOfAConstructorFailsOnce) {
-    for (const Layout &layout : layouts()) {
-        if (!layout.make)
-            continue;
-        std::vector<Value> values;
-        std::vector<Handle> arguments;
-        for (const Part &part : layout.parts) {
-            values.push_back(sample_value(part.type));
-            arguments.push_back(values.back().get());
-        }
-        fail_each_allocation([&] { return static_cast<bool>(Value(layout.type, layout.make(arguments))); });
-    }
-    for (const Alternative &row : alternatives()) {
-        Value argument = sample_value(row.part.type);
-        if (row.make != nullptr) {
-            fail_each_allocation([&] { return static_cast<bool>(Value(row.type, row.make(argument.get()))); });
-        }
-    }
-}
-
-// Cut short or changed anywhere, a message is refused or read, alike from any stream, and what is read is stable.
-TEST(CmsStructures, TruncationsAndChangesOfEveryOctet) {
-    for (const auto &row : table("messages.txt")) {
-        auto type = static_cast<uint32_t>(std::stoul(row[0]));
-        std::string data = octets(row[1]);
-        bool is_accepted = row.size() > 2 && row[2] != "-";
-        for (size_t at = 0; is_accepted && at < data.size(); ++at) {
-            SCOPED_TRACE(row[0] + ": " + hex(data) + " at " + std::to_string(at));
-            for (Feed feed : {Feed::memory, Feed::trickle}) {
-                EXPECT_NE(decode(type, Input(data.substr(0, at), feed)).result, 1);
-            }
-            for (int flip : {0x01, 0x20, 0x80, 0xFF}) {
-                std::string changed = data;
-                changed[at] = static_cast<char>(changed[at] ^ flip);
-                Decoded memory = decode(type, changed), trickle = decode(type, changed, Feed::trickle);
-                EXPECT_EQ(memory.codes, trickle.codes);
-                Encoded once = encode(type, memory.value.get()), other = encode(type, trickle.value.get());
-                EXPECT_EQ(hex(once.octets), hex(other.octets));
-                Decoded again = decode(type, once.octets);
-                if (again.result == 1) {
-                    EXPECT_EQ(hex(encode(type, again.value.get()).octets), hex(once.octets));
-                }
-            }
-        }
-    }
 }
 
 } // namespace

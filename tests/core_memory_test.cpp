@@ -1,8 +1,4 @@
 // Allocations that fail, and lengths that are only announced.
-#if defined(__linux__) && !defined(__SANITIZE_ADDRESS__)
-#include <sys/resource.h>
-#endif
-
 #include <functional>
 
 #include "tests/asn1_testing.hpp"
@@ -10,49 +6,6 @@
 
 namespace kovra::test {
 namespace {
-
-// Decodes, and copies the value in all ways there are; whether everything succeeded.
-bool decode_and_copy(uint32_t type, const std::string &data, Feed feed) {
-    Input input(data, feed);
-    Errors ctx(kovra_err_ctx_new());
-    if (input.stream() == nullptr || ctx == nullptr)
-        return false;
-    kovra_asn1_value *out = nullptr;
-    int32_t result = kovra_asn1_decode(input.stream(), type, &out, nullptr, ctx.get());
-    Value value(type, out);
-    if (result != 1) {
-        EXPECT_EQ(out, nullptr);
-        if (ScarceMemory::has_failed()) {
-            EXPECT_EQ(Codes(ctx.get()).empty() ? 0 : Codes(ctx.get())[0], 0x10000) << type << ": " << hex(data);
-        }
-        return false;
-    }
-    if (type == 0 || type == 5)
-        return true;
-    Blob encoding(kovra_asn1_mem_encode(type, value.get()));
-    Value copy(type, kovra_asn1_dupobject(type, value.get(), nullptr));
-    Value element(23, kovra_asn1_objecttoany(type, value.get()));
-    kovra_asn1_value *whole = nullptr;
-    bool again = element && kovra_asn1_any_toobject(element.get(), type, &whole, ctx.get()) == 1;
-    Value back(type, whole);
-    EXPECT_EQ(again, static_cast<bool>(back));
-    bool is_marker = type == 23 && kovra_asn1_any_iseoc(value.get()) == 1;
-    return encoding != nullptr && copy && ((element && again) || is_marker || type == 90 || type == 25 || type == 27);
-}
-
-TEST(Memory, EveryAllocationOfDecodingAndEncodingMayFail) {
-    for (const auto &row : table("decodings.txt")) {
-        auto type = static_cast<uint32_t>(std::stoul(row[0]));
-        std::string data = octets(row[1]);
-        SCOPED_TRACE("type " + row[0] + ": " + row[1]);
-        for (Feed feed : {Feed::memory, Feed::trickle}) {
-            bool is_good = row[2] != "-";
-            fail_each_allocation([&] { return decode_and_copy(type, data, feed) || !is_good; });
-            if (testing::Test::HasFatalFailure())
-                return;
-        }
-    }
-}
 
 TEST(Memory, EveryAllocationOfConstructorsAndAccessorsMayFail) {
     auto made = [](uint32_t type, kovra_asn1_value *value) { return static_cast<bool>(Value(type, value)); };
@@ -136,34 +89,6 @@ TEST(Memory, EveryAllocationOfConstructorsAndAccessorsMayFail) {
         SCOPED_TRACE(index++);
         fail_each_allocation(action);
     }
-}
-
-// Six octets that announce 2 GiB fail because the octets are missing, also where there is no room for them.
-TEST(Memory, AnnouncedLengthsAllocateNothing) {
-#if defined(__linux__) && !defined(__SANITIZE_ADDRESS__)
-    rlimit usual = {};
-    ASSERT_EQ(getrlimit(RLIMIT_AS, &usual), 0);
-    long pages = 0;
-    std::ifstream("/proc/self/statm") >> pages;
-    rlimit tight = usual;
-    tight.rlim_cur = static_cast<rlim_t>(pages) * 4096 + (16u << 20);
-    ASSERT_EQ(setrlimit(RLIMIT_AS, &tight), 0);
-#endif
-    for (int tag = 1; tag < 31; ++tag) {
-        for (int bits : {0x00, 0x20, 0x80, 0xA0}) {
-            std::string data = std::string(1, static_cast<char>(tag | bits)) + octets("84 7F FF FF FF 00");
-            for (uint32_t type : {1u, 2u, 3u, 4u, 6u, 7u, 9u, 14u, 19u, 20u, 21u, 22u, 23u, 24u, 25u, 26u, 27u, 90u}) {
-                for (Feed feed : {Feed::memory, Feed::trickle}) {
-                    Codes codes = decode(type, data, feed).codes;
-                    ASSERT_FALSE(codes.empty());
-                    EXPECT_NE(codes[0], 0x10000) << type << ": " << hex(data);
-                }
-            }
-        }
-    }
-#if defined(__linux__) && !defined(__SANITIZE_ADDRESS__)
-    setrlimit(RLIMIT_AS, &usual);
-#endif
 }
 
 } // namespace

@@ -5,19 +5,41 @@
 
 #include "kovra/util_memory.h"
 
+#ifndef _WIN32
+#include <malloc.h>
+#endif
+
 namespace {
 
 std::atomic<int64_t> live = 0;
 thread_local int64_t room = INT64_MAX;
 thread_local bool failed = false;
 thread_local bool once = false;
+thread_local int64_t allocated = 0;
+thread_local int64_t held = 0;
+thread_local int64_t peak = 0;
 
+#ifndef _WIN32
 bool is_refused() {
     if (room == INT64_MAX || room-- > 0)
         return false;
     room = once ? INT64_MAX : 0;
     return failed = true;
 }
+#endif
+
+#ifndef _WIN32
+
+// Counts memory that was `before` octets large and has been changed; returns it.
+void *counted(void *memory, size_t before) {
+    const size_t now = memory != nullptr ? malloc_usable_size(memory) : 0;
+    allocated += now > before ? static_cast<int64_t>(now - before) : 0;
+    held += static_cast<int64_t>(now) - static_cast<int64_t>(before);
+    peak = held > peak ? held : peak;
+    return memory;
+}
+
+#endif
 
 } // namespace
 
@@ -27,18 +49,20 @@ extern "C" void *kovra_malloc(size_t size, const char * /*source*/, int32_t /*li
     if (is_refused())
         return nullptr;
     ++live;
-    return std::malloc(size == 0 ? 1 : size);
+    return counted(std::malloc(size == 0 ? 1 : size), 0);
 }
 
 extern "C" void *kovra_realloc(void *memory, size_t size, const char * /*source*/, int32_t /*line*/) noexcept {
     if (is_refused())
         return nullptr;
     live += memory == nullptr ? 1 : 0;
-    return std::realloc(memory, size == 0 ? 1 : size);
+    const size_t before = memory != nullptr ? malloc_usable_size(memory) : 0;
+    return counted(std::realloc(memory, size == 0 ? 1 : size), before);
 }
 
 extern "C" void kovra_free(void *memory) noexcept {
     live -= memory != nullptr ? 1 : 0;
+    held -= memory != nullptr ? static_cast<int64_t>(malloc_usable_size(memory)) : 0;
     std::free(memory);
 }
 
@@ -56,6 +80,14 @@ bool is_memory_watched() {
 #else
     return true;
 #endif
+}
+
+MemoryMeter::MemoryMeter() : allocated_(allocated), held_(held) {
+    peak = held;
+}
+
+MemoryUse MemoryMeter::use() const {
+    return {allocated - allocated_, peak - held_};
 }
 
 ScarceMemory::ScarceMemory(int64_t good, bool fails_once) {

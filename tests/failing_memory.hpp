@@ -10,6 +10,23 @@ namespace kovra::test {
 // Blocks that were allocated and not yet freed.
 int64_t live_blocks();
 
+// What this thread asked for: octets in all, where growing counts as what is added, and the most it held at one time.
+struct MemoryUse {
+    int64_t allocated;
+    int64_t peak;
+};
+
+// Counts from its beginning.
+class MemoryMeter {
+public:
+    MemoryMeter();
+    [[nodiscard]] MemoryUse use() const;
+
+private:
+    int64_t allocated_;
+    int64_t held_;
+};
+
 // False where the libraries cannot be given another allocator, which is so for a DLL.
 bool is_memory_watched();
 

@@ -69,13 +69,5 @@ TEST(KeysExamples, EveryStructureComesBack) {
     }
 }
 
-TEST(KeysExamples, TruncationsAndMissingMemory) {
-    for (const Example &example : examples()) {
-        SCOPED_TRACE(example.text);
-        expect_no_truncation(example.type, example.data);
-        expect_clean_without_memory(example.type, example.data);
-    }
-}
-
 } // namespace
 } // namespace kovra::test

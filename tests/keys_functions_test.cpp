@@ -328,35 +328,6 @@ TEST(KeysFunctions, EveryPresenceOfEveryPart) {
     }
 }
 
-TEST(KeysFunctions, OtherKindsAndMissingMemory) {
-    Value boolean = decoded(1, "01 01 FF"), other = decoded(34, "30 1E 17 0D 32 35 30 31 30 32 30 33 30 34 30 35 5A 17"
-                                                                "0D 32 35 30 31 30 32 30 33 30 34 30 35 5A");
-    ASSERT_TRUE(boolean && other);
-    for (const Family &family : families()) {
-        SCOPED_TRACE(family.type);
-        if (!works(family.type))
-            continue;
-        std::vector<Value> values;
-        Arguments arguments;
-        for (const Part &part : family.parts) {
-            values.push_back(argument(part.kind, values.size()));
-            arguments.push_back(values.back().get());
-            for (const kovra_asn1_value *wrong : Arguments{nullptr, boolean.get(), other.get()}) {
-                EXPECT_EQ(part.get(wrong), nullptr);
-                EXPECT_TRUE(part.has == nullptr || part.has(wrong) == 0);
-            }
-        }
-        for (const kovra_asn1_value *&one_of_them : arguments) {
-            for (const Value *wrong : {&boolean, &other}) {
-                const kovra_asn1_value *right = std::exchange(one_of_them, wrong->get());
-                EXPECT_EQ(family.make(arguments), nullptr);
-                one_of_them = right;
-            }
-        }
-        fail_each_allocation([&] { return static_cast<bool>(Value(family.type, family.make(arguments))); });
-    }
-}
-
 TEST(KeysFunctions, Choices) {
     struct Row {
         uint32_t type;

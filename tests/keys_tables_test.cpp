@@ -62,39 +62,5 @@ TEST(KeysTables, Decodings) {
     EXPECT_EQ(accepted.size(), 5u + 1u + 18u + (works(KOVRA_ASN1_TYPE_PFX) ? 9u : 7u) + 3u + 7u);
 }
 
-TEST(KeysTables, TruncationsAndMissingMemory) {
-    for (const Row &row : rows()) {
-        SCOPED_TRACE(row.text);
-        if (!row.is_accepted)
-            continue;
-        expect_no_truncation(row.type, row.data);
-        expect_clean_without_memory(row.type, row.data);
-    }
-}
-
-TEST(KeysTables, FormsTagsAndStreams) {
-    for (const Row &row : rows()) {
-        SCOPED_TRACE(row.text);
-        const uint32_t type = row.type;
-        if (!row.is_accepted || row.data[0] != '\x30' || type == 146 || type == 201)
-            continue;
-        for (char first : {'\x10', '\x31', '\xA0', '\xB0'}) {
-            std::string changed = first + row.data.substr(1);
-            EXPECT_EQ(decode(type, changed).codes, Codes({first == '\x10' ? 0x1026a : 0x1020a}));
-        }
-        EXPECT_EQ(decode_content(type, "", 1, 0).codes, Codes({0x1026a}));
-        EXPECT_EQ(decode_content(type, "", 0, -2).codes, Codes({0x10001}));
-        EXPECT_EQ(encode(type, nullptr).codes, Codes({0x10002}));
-        EXPECT_EQ(kovra_asn1_length(type, nullptr), -2);
-        Value value = decoded(type, hex(row.data));
-        Encoded content = encode_content(type, value.get(), -1);
-        ASSERT_EQ(content.result, 1);
-        EXPECT_EQ(content.octets.substr(content.octets.size() - 2), std::string(2, '\0'));
-        EXPECT_EQ(decode_content(type, content.octets, 0, -1).result, 1);
-    }
-    for (uint32_t type : {98u, 146u, 201u, 206u})
-        EXPECT_EQ(decode_content(type, octets("02 01 05"), 0, 3).codes, Codes({0x1026d}));
-}
-
 } // namespace
 } // namespace kovra::test

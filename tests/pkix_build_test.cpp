@@ -246,27 +246,6 @@ TEST(PkixBuild, EveryConstructorCopiesWhatItIsGiven) {
     }
 }
 
-TEST(PkixBuild, EveryAllocationOfConstructorsMayFail) {
-    for (const Row &row : rows()) {
-        SCOPED_TRACE("type " + std::to_string(row.type) + ": " + row.full);
-        std::vector<Value> values;
-        Arguments all;
-        for (const Argument &argument : row.arguments) {
-            values.push_back(noted_value(argument.type, argument.data));
-            all.push_back(values.back().get());
-        }
-        fail_each_allocation([&] {
-            Value made(row.type, row.make(all));
-            for (const Argument &argument : row.arguments)
-                if (made && argument.get != nullptr && argument.get(made.get()) == nullptr)
-                    return false;
-            return made && Blob(kovra_asn1_mem_encode(row.type, made.get())) != nullptr;
-        });
-        if (testing::Test::HasFatalFailure())
-            return;
-    }
-}
-
 Value list_of(std::initializer_list<kovra_asn1_value *> elements) {
     Value list(24, kovra_asn1_list_new());
     for (kovra_asn1_value *element : elements)

@@ -7,25 +7,6 @@
 namespace kovra::test {
 namespace {
 
-// Where an element begins, and how long its header and its content are.
-struct Place {
-    size_t begin, header, length;
-};
-
-// All elements, also those within octet strings whose content is an element.
-void find_places(const std::string &data, size_t begin, size_t end, std::vector<Place> &places) {
-    for (size_t at = begin; at < end;) {
-        const std::string whole = elements(data.substr(at, end - at))[0];
-        const size_t header = whole[1] == '\x82' ? 4 : whole[1] == '\x81' ? 3 : 2;
-        places.push_back({at, header, whole.size() - header});
-        const bool is_wrapper = whole[0] == '\x04' && whole.size() > 4 && whole[2] == '\x30' &&
-                                static_cast<size_t>(whole[3]) + 4 == whole.size();
-        if ((whole[0] & 0x20) != 0 || is_wrapper)
-            find_places(data, at + header, at + whole.size(), places);
-        at += whole.size();
-    }
-}
-
 bool read_list(Handle list, bool (*read)(Handle)) {
     for (int32_t i = 0; i < kovra_asn1_list_getsize(list); ++i) {
         Handle element = nullptr;
@@ -71,68 +52,6 @@ bool read_everything(const Kind &kind, Handle obj) {
     return done && can_write(32, kovra_pkcs10certreq_getsubject(obj)) &&
            can_write(35, kovra_pkcs10certreq_getpubkey(obj)) &&
            read_list(kovra_pkcs10certreq_getattrs(obj), [](Handle attribute) { return can_write(43, attribute); });
-}
-
-TEST(PkixHostile, TruncationAtEveryOctet) {
-    for (const Kind &kind : kinds) {
-        for (const std::string &data : objects(kind)) {
-            for (size_t end = 1; end < data.size(); ++end) {
-                Codes codes;
-                ASSERT_FALSE(load(kind, data.substr(0, end), &codes)) << end;
-                ASSERT_EQ(codes.at(0), 0x10105) << end;
-                ASSERT_EQ(codes.back(), 0x10236) << end << ": all of it is read before any of it is decoded";
-            }
-        }
-    }
-}
-
-// What is accepted can be read; what is refused says why, and the same however the octets come in.
-TEST(PkixHostile, ChangesOfEveryElement) {
-    size_t accepted = 0, refused = 0;
-    for (const Kind &kind : kinds) {
-        for (const std::string &data : objects(kind)) {
-            std::vector<Place> places;
-            find_places(data, 0, data.size(), places);
-            for (const Place &place : places) {
-                std::vector<std::string> changes;
-                auto change = [&](size_t at, int octet) {
-                    changes.push_back(data);
-                    changes.back()[at] = static_cast<char>(octet);
-                };
-                const int identifier = data[place.begin], length = data[place.begin + place.header - 1];
-                for (int octet :
-                     {identifier ^ 0x20, identifier ^ 0x80, identifier ^ 1, identifier + 2, 0x00, 0x1F, 0xFF})
-                    change(place.begin, octet);
-                for (int octet : {length + 1, length - 1, length ^ 0x80, 0x00, 0x80, 0x84, 0xFF})
-                    change(place.begin + place.header - 1, octet);
-                // Taken out, and there twice.
-                changes.push_back(data.substr(0, place.begin) + data.substr(place.begin + place.header + place.length));
-                changes.push_back(data.substr(0, place.begin + place.header + place.length) + data.substr(place.begin));
-                for (const std::string &changed : changes) {
-                    const int64_t before = live_blocks();
-                    if (changed.empty() || changed[0] != '\x30' || changed == data)
-                        continue;
-                    Codes codes;
-                    {
-                        const Value value = load(kind, changed, &codes);
-                        ASSERT_EQ(!value, !codes.empty() && codes != Codes({0x102e3}));
-                        ++(value ? accepted : refused);
-                        if (value) {
-                            ASSERT_EQ(hex(encode(kind.type, value.get()).octets), hex(changed));
-                            read_everything(kind, value.get());
-                        } else if (data.size() < 520) {
-                            Decoded trickled = decode(kind.type, changed, Feed::trickle);
-                            ASSERT_EQ(trickled.codes,
-                                      codes == Codes({0x1020b}) && trickled.result == 1 ? Codes() : codes);
-                        }
-                    }
-                    ASSERT_TRUE(live_blocks() == before || !is_memory_watched());
-                }
-            }
-        }
-    }
-    EXPECT_GT(accepted, 1000u);
-    EXPECT_GT(refused, 10000u);
 }
 
 TEST(PkixHostile, EveryAllocationMayFail) {

@@ -190,21 +190,6 @@ TEST(ServiceValues, ConstructorsCopyAndGettersGive) {
     }
 }
 
-TEST(ServiceValues, EveryAllocationOfConstructorsMayFail) {
-    for (const Case &row : cases()) {
-        SCOPED_TRACE(row.name);
-        std::vector<Value> values;
-        Arguments all;
-        for (const Argument &argument : row.arguments) {
-            values.push_back(value_of(argument.type, argument.encoding));
-            all.push_back(values.back().get());
-        }
-        fail_each_allocation([&] { return static_cast<bool>(Value(row.type, row.make.call(all))); });
-    }
-    fail_each_allocation([] { return static_cast<bool>(Value(178, kovra_ocsp_certstatus_newgood())); });
-    fail_each_allocation([] { return static_cast<bool>(Value(178, kovra_ocsp_certstatus_newunknown())); });
-}
-
 TEST(ServiceValues, DefaultsAreHeld) {
     const Value tbs = value_of(171, "@tbsreq"), data = value_of(181, "@data");
     const Value request = value_of(187, "30{ 02 01 01 @imp }"), token = value_of(192, "30{ @stamp }");

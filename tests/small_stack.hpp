@@ -13,13 +13,17 @@ namespace kovra::test {
 
 constexpr size_t small_stack = size_t{64} * 1024;
 
+#ifdef _WIN32
+template <class Action> DWORD WINAPI enter(void *argument) {
+    (*static_cast<Action *>(argument))();
+    return 0;
+}
+#endif
+
 template <class Action> void run_on_small_stack(Action action) {
 #ifdef _WIN32
-    const auto enter = [](void *argument) -> DWORD {
-        (*static_cast<Action *>(argument))();
-        return 0;
-    };
-    HANDLE thread = CreateThread(nullptr, small_stack, enter, &action, STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
+    HANDLE thread =
+        CreateThread(nullptr, small_stack, enter<Action>, &action, STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
     ASSERT_NE(thread, nullptr);
     WaitForSingleObject(thread, INFINITE);
     CloseHandle(thread);

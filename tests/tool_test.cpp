@@ -2,7 +2,7 @@
 
 #include "tests/tool_testing.hpp"
 
-#if defined(KOVRA_TOOL_PATH) && !defined(_WIN32)
+#if defined(KOVRA_TOOL_PATH)
 
 #include <chrono>
 #include <random>
@@ -18,6 +18,7 @@ using Result = kovra::test::ToolResult;
 
 class Tool : public kovra::test::ToolTest {
 protected:
+#if !defined(_WIN32)
     // The same with what a shell command writes as standard input, through a pipe.
     [[nodiscard]] Result run_on_pipe(const std::string &writer, const std::string &arguments) const {
         file("out", "");
@@ -26,6 +27,7 @@ protected:
         EXPECT_EQ(std::system(command.c_str()), 0);
         return {std::atoi(content("code").c_str()), content("out"), content("err")};
     }
+#endif
 
     // What `der` makes of what `json` prints.
     [[nodiscard]] std::string there_and_back(std::string_view input, const std::string &style) const {
@@ -246,6 +248,11 @@ TEST_F(Tool, EveryItemIsShown) {
     EXPECT_EQ(damaged.code, 1);
 }
 
+#if defined(_WIN32)
+TEST_F(Tool, Pipes) {
+    GTEST_SKIP() << "SKIPPED: pipes and full devices need a POSIX shell; they are tested on Linux, 64 and 32 bit";
+}
+#else
 TEST_F(Tool, PipesAreReadLikeFiles) {
     const std::string two = octets("02 01 05 30 80 05 00 00 00");
     const std::string inputs[] = {
@@ -297,6 +304,8 @@ TEST_F(Tool, PipesThatDoNotEndAreShownAsTheyCome) {
     EXPECT_EQ(run_on_pipe("while cat first; do :; done 2> cat", "dump | head -n 2 | tail -n 1").out,
               "     0   2      1  INTEGER                        5\n");
 }
+
+#endif
 
 TEST_F(Tool, DumpPrintsColumnsAndValues) {
     const struct {
@@ -406,18 +415,38 @@ TEST_F(Tool, ExitCodesTellTheWorst) {
     EXPECT_EQ(content("there"), description(octets("05 00"), 0));
 }
 
+#if !defined(_WIN32)
 TEST_F(Tool, OutputThatIsFullOrClosedEnds) {
     const std::string large = repeated(octets("30 03 02 01 05"), 100000);
     file("large", large);
+    file("in", "");
     for (const char *command : {"dump", "json", "types", "version"}) {
         const std::string arguments = std::string(command) + (command[0] == 'd' || command[0] == 'j' ? " large" : "");
-        const Result full = run(arguments, "", "> /dev/full");
+        const Result full = run_in_shell(arguments, "> /dev/full");
         EXPECT_EQ(full.code, 3) << command;
         EXPECT_EQ(full.error, "kovra-asn1: standard output: No space left on device\n") << command;
-        const Result closed = run(arguments, "", "| head -c 1 > /dev/null");
+        const Result closed = run_in_shell(arguments, "| head -c 1 > /dev/null");
         EXPECT_EQ(closed.code, 0) << command;
         EXPECT_EQ(closed.error, "") << command;
     }
+}
+
+#endif
+
+// Names are UTF-8 wherever they stand; on Windows the system's own are UTF-16.
+TEST_F(Tool, NamesNeedNotBeAscii) {
+    const std::string name = "str\xC3\xB6mung-\xE6\xB5\x81-\xF0\x9F\x94\x91";
+    const fs::path native(std::u8string(name.begin(), name.end()));
+    fs::create_directory(path("") / native);
+    std::ofstream(path("") / native / native, std::ios::binary) << octets("0C 03 0D0A1A") << octets("05 01");
+    const Result result = run("json " + name + "/" + name + " --out " + name + "2");
+    EXPECT_EQ(result.code, 1);
+    EXPECT_EQ(result.error.find("kovra-asn1: " + name + "/" + name + "[2]: octet 7: "), 0U) << result.error;
+    const std::string written = kovra::test::read_file(path("") / fs::path(std::u8string(native.u8string()) + u8"2"));
+    EXPECT_EQ(written, description(octets("0C 03 0D0A1A"), 2)) << "line ends are not translated";
+    const Result checked = run("check " + name);
+    EXPECT_EQ(checked.code, 1);
+    EXPECT_NE(checked.error.find(name), std::string::npos) << checked.error;
 }
 
 TEST_F(Tool, DeepNestsTakeLinearTime) {
@@ -425,7 +454,7 @@ TEST_F(Tool, DeepNestsTakeLinearTime) {
     const auto begin = std::chrono::steady_clock::now();
     for (const char *level : {"30 80", "A0 80", "24 80"}) {
         const std::string input = repeated(octets(level), depth) + repeated(octets("00 00"), depth);
-        EXPECT_EQ(run("dump --out /dev/null", input).code, 0) << level;
+        EXPECT_EQ(run(std::string("dump --out ") + kovra::test::null_device, input).code, 0) << level;
         EXPECT_EQ(run("json --compact", input).out, description(input, 0)) << level;
     }
     // Of definite length, with an OCTET STRING at every other level.

@@ -1,16 +1,23 @@
 // What the tests of the tool share: it is run as a process, in a directory of the test's own.
 #pragma once
 
-#if defined(KOVRA_TOOL_PATH) && !defined(_WIN32)
-
-#include <sys/wait.h>
+#if defined(KOVRA_TOOL_PATH)
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <iterator>
+#include <random>
 
 #include "tests/asn1_testing.hpp"
+
+#if defined(_WIN32)
+#define WIN32_LEAN_AND_MEAN
+#if !defined(NOMINMAX)
+#define NOMINMAX
+#endif
+#include <windows.h>
+#endif
 
 namespace kovra::test {
 
@@ -28,9 +35,8 @@ struct ToolResult {
 class ToolTest : public testing::Test {
 protected:
     void SetUp() override {
-        std::string pattern = (std::filesystem::temp_directory_path() / "kovra-tool-XXXXXX").string();
-        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-        directory_ = pattern;
+        directory_ = std::filesystem::temp_directory_path() / ("kovra-tool-" + std::to_string(std::random_device{}()));
+        ASSERT_TRUE(std::filesystem::create_directory(directory_));
     }
     void TearDown() override { std::filesystem::remove_all(directory_); }
 
@@ -40,20 +46,69 @@ protected:
     [[nodiscard]] std::filesystem::path path(const std::string &name) const { return directory_ / name; }
     [[nodiscard]] std::string content(const std::string &name) const { return read_file(directory_ / name); }
 
-    // Runs the tool in the test's directory with `input` as standard input.
-    [[nodiscard]] ToolResult run(const std::string &arguments, std::string_view input = "",
-                                 const std::string &output = "> out") const {
+    // Runs the tool in the test's directory with `input` as standard input. The arguments are UTF-8, separated by
+    // blanks.
+    [[nodiscard]] ToolResult run(const std::string &arguments, std::string_view input = "") const {
         file("in", input);
         file("out", "");
+#if defined(_WIN32)
+        return start(arguments);
+#else
+        return run_in_shell(arguments, "> out");
+#endif
+    }
+
+#if !defined(_WIN32)
+    // The same with the input there already and standard output as the shell is told.
+    [[nodiscard]] ToolResult run_in_shell(const std::string &arguments, const std::string &output) const {
         const std::string command = "cd " + directory_.string() + " && { " KOVRA_TOOL_PATH " " + arguments +
                                     "; echo $? > code; } < in 2> err " + output;
         EXPECT_EQ(std::system(command.c_str()), 0);
         return {std::atoi(content("code").c_str()), content("out"), content("err")};
     }
+#endif
 
 private:
+#if defined(_WIN32)
+    [[nodiscard]] HANDLE open(const char *name, DWORD access, DWORD creation) const {
+        SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+        return CreateFileW(path(name).c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited, creation,
+                           FILE_ATTRIBUTE_NORMAL, nullptr);
+    }
+
+    [[nodiscard]] ToolResult start(const std::string &arguments) const {
+        const std::string utf8 = "\"" KOVRA_TOOL_PATH "\" " + arguments;
+        std::wstring command = std::filesystem::path(std::u8string(utf8.begin(), utf8.end())).wstring();
+        STARTUPINFOW startup = {};
+        startup.cb = sizeof startup;
+        startup.dwFlags = STARTF_USESTDHANDLES;
+        startup.hStdInput = open("in", GENERIC_READ, OPEN_EXISTING);
+        startup.hStdOutput = open("out", GENERIC_WRITE, CREATE_ALWAYS);
+        startup.hStdError = open("err", GENERIC_WRITE, CREATE_ALWAYS);
+        PROCESS_INFORMATION process = {};
+        DWORD code = 99;
+        EXPECT_NE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, directory_.c_str(),
+                                 &startup, &process),
+                  0)
+            << GetLastError();
+        WaitForSingleObject(process.hProcess, INFINITE);
+        GetExitCodeProcess(process.hProcess, &code);
+        for (const HANDLE handle :
+             {process.hProcess, process.hThread, startup.hStdInput, startup.hStdOutput, startup.hStdError})
+            CloseHandle(handle);
+        return {static_cast<int>(code), content("out"), content("err")};
+    }
+#endif
+
     std::filesystem::path directory_;
 };
+
+// The file that takes everything.
+#if defined(_WIN32)
+constexpr const char *null_device = "NUL";
+#else
+constexpr const char *null_device = "/dev/null";
+#endif
 
 inline std::string taken(char *text, int64_t length) {
     std::string result(text != nullptr ? text : "", text != nullptr ? static_cast<size_t>(length) : 0);

@@ -45,6 +45,11 @@ Outcome compare(uint32_t type, const kovra_asn1_value *value, std::string_view o
     return !keeps_encoding(type) && is_stable(type, again) ? Outcome::reencoded : Outcome::different;
 }
 
+// Is there an encoding that there is no memory for?
+bool lacks_memory(uint32_t type, const kovra_asn1_value *value) {
+    return kovra_asn1_length(type, value) > 0 && encoding_of(type, value).empty();
+}
+
 class Check {
 public:
     Check(Session &session, std::vector<FoundFile> files)
@@ -118,6 +123,12 @@ private:
         const std::string_view octets(reinterpret_cast<const char *>(item.octets) + item.begin, item.end - item.begin);
         size_t difference = 0;
         Outcome outcome = compare(detected.type, detected.value, octets, difference);
+        if (outcome == Outcome::different && lacks_memory(detected.type, detected.value)) {
+            kovra_asn1_value_free(detected.type, detected.value);
+            progress_.erase();
+            ++unreadable_;
+            return session_.report(place, {item.begin, {{KOVRA_ERR_NO_MEMORY, "memory is short", ""}}});
+        }
         if (outcome == Outcome::different)
             report(outcome, place, differs(item.begin + difference));
         else

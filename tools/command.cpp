@@ -65,7 +65,9 @@ std::string harmless(std::string text) {
 
 void Session::report(const std::string &place, const Trouble &trouble) {
     out.flush();
-    status_ = std::max(status_, Status::malformed);
+    // Want of memory says nothing about the input.
+    const bool is_short = trouble.chain.front().code == KOVRA_ERR_NO_MEMORY;
+    status_ = std::max(status_, is_short ? Status::io : Status::malformed);
     const Trouble::Cause &outermost = trouble.chain.back();
     std::string text =
         "kovra-asn1: " + place + ": octet " + std::to_string(origin_ + trouble.octet) + ": " + outermost.text;

@@ -11,6 +11,7 @@
 #include "element.hpp"
 #include "kovra/asn1.h"
 #include "kovra/util.h"
+#include "platform.hpp"
 
 #if defined(_WIN32)
 #include <fcntl.h>
@@ -108,8 +109,7 @@ std::string read_file(const std::string &path, std::vector<uint8_t> &out) {
 #endif
     errno = 0;
     const auto close = [](FILE *file) { return file != stdin ? std::fclose(file) : 0; };
-    const std::unique_ptr<FILE, decltype(close)> file(is_standard_input ? stdin : std::fopen(path.c_str(), "rb"),
-                                                      close);
+    const std::unique_ptr<FILE, decltype(close)> file(is_standard_input ? stdin : open_to_read(path), close);
     if (file == nullptr)
         return std::strerror(errno);
     // Room for the whole file and an octet more, which shows that it ends; what cannot be positioned grows.

@@ -2,11 +2,13 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
 #include "command.hpp"
+#include "platform.hpp"
 #include "type_names.hpp"
 
 namespace {
@@ -40,6 +42,7 @@ std::string check_type(const std::string &text) {
 void describe(CLI::App &app, Session &session, Arguments &arguments, const Command *&chosen) {
     Options &options = session.options;
     app.require_subcommand(1);
+    app.allow_windows_style_options(false); // a path may begin with a slash everywhere
     app.set_help_all_flag("--help-all", "Print this help and that of every command");
     app.footer("Exit codes: 0 all good, 1 malformed input, 2 usage, 3 file or I/O.\n");
     app.add_option("--out", arguments.out, "Write to this file instead of standard output");
@@ -70,20 +73,26 @@ void describe(CLI::App &app, Session &session, Arguments &arguments, const Comma
     }
 }
 
-bool is_colored(const Arguments &arguments, const Output &out) {
+bool is_colored(const Arguments &arguments, const Output &out, const Terminal &terminal) {
     const char *no_color = std::getenv("NO_COLOR");
     const bool is_unwanted = no_color != nullptr && *no_color != '\0';
-    return arguments.color == "always" || (arguments.color == "auto" && !is_unwanted && out.is_terminal());
+    return arguments.color == "always" ||
+           (arguments.color == "auto" && !is_unwanted && out.is_terminal() && terminal.takes_escapes());
 }
 
-int run(int argc, char **argv) {
+int run(std::vector<std::string> given) {
+    const Terminal terminal;
     Session session;
     Arguments arguments;
     const Command *chosen = nullptr;
     CLI::App app("Looks into files of ASN.1 values in BER and DER.", "kovra-asn1");
     describe(app, session, arguments, chosen);
     try {
-        app.parse(argc, argv);
+        // Without the name of the program, the last one first.
+        if (!given.empty())
+            given.erase(given.begin());
+        std::reverse(given.begin(), given.end());
+        app.parse(std::move(given));
     } catch (const CLI::ParseError &error) {
         return static_cast<int>(app.exit(error) == 0 ? Status::good : Status::usage);
     }
@@ -94,7 +103,7 @@ int run(int argc, char **argv) {
     if (session.options.files.empty())
         session.options.files.emplace_back("-");
     session.out.set_path(arguments.out);
-    session.options.is_colored = is_colored(arguments, session.out);
+    session.options.is_colored = is_colored(arguments, session.out, terminal);
     chosen->run(session);
     session.out.finish(session.status() == Status::good);
     if (!session.out.failure().empty())
@@ -110,7 +119,7 @@ int main(int argc, char **argv) {
     std::signal(SIGPIPE, SIG_IGN);
 #endif
     try {
-        return run(argc, argv);
+        return run(utf8_arguments(argc, argv));
     } catch (const std::bad_alloc &) {
         std::fputs("kovra-asn1: memory is short\n", stderr);
         return static_cast<int>(Status::io);

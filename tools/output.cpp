@@ -4,10 +4,11 @@
 #include <cerrno>
 #include <charconv>
 
+#include "platform.hpp"
+
 #include <fcntl.h>
 #if defined(_WIN32)
 #include <io.h>
-#include <sys/stat.h>
 #else
 #include <unistd.h>
 #endif
@@ -17,33 +18,21 @@ namespace kovra::tool {
 namespace {
 
 #if defined(_WIN32)
-int open_file(const char *path) {
-    return _open(path, _O_WRONLY | _O_CREAT | _O_TRUNC | _O_BINARY, _S_IREAD | _S_IWRITE);
-}
 int close_file(int file) {
     return _close(file);
 }
-auto write_file(int file, const char *octets, size_t size) {
+long write_file(int file, const char *octets, size_t size) {
     return _write(file, octets, static_cast<unsigned>(size));
-}
-bool is_terminal_file(int file) {
-    return _isatty(file) != 0;
 }
 void set_binary(int file) {
     _setmode(file, _O_BINARY);
 }
 #else
-int open_file(const char *path) {
-    return ::open(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-}
 int close_file(int file) {
     return ::close(file);
 }
-auto write_file(int file, const char *octets, size_t size) {
-    return ::write(file, octets, size);
-}
-bool is_terminal_file(int file) {
-    return ::isatty(file) != 0;
+long write_file(int file, const char *octets, size_t size) {
+    return static_cast<long>(::write(file, octets, size));
 }
 void set_binary(int) {}
 #endif
@@ -51,10 +40,6 @@ void set_binary(int) {}
 constexpr size_t number_digits = 20;
 
 } // namespace
-
-bool is_terminal(int file) {
-    return is_terminal_file(file);
-}
 
 Output::~Output() {
     if (file_ > standard_output)
@@ -122,11 +107,12 @@ void Output::finish(bool may_be_empty) {
 void Output::open() {
     if (is_over_)
         return;
-    file_ = path_.empty() ? standard_output : open_file(path_.c_str());
+    file_ = path_.empty() ? standard_output : open_to_write(path_);
     if (file_ < 0)
         fail();
     else
         set_binary(file_);
+    is_on_terminal_ = file_ >= 0 && is_terminal();
 }
 
 void Output::write(const char *octets, size_t size) {
@@ -135,7 +121,8 @@ void Output::write(const char *octets, size_t size) {
     // The largest piece that every system takes at once.
     constexpr size_t largest_piece = 1 << 30;
     while (size != 0 && !is_over_) {
-        const auto written = write_file(file_, octets, std::min(size, largest_piece));
+        const size_t piece = std::min(size, largest_piece);
+        const long written = is_on_terminal_ ? write_to_terminal(octets, piece) : write_file(file_, octets, piece);
         if (written >= 0) {
             octets += written;
             size -= static_cast<size_t>(written);

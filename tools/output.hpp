@@ -10,8 +10,6 @@
 
 namespace kovra::tool {
 
-bool is_terminal(int file);
-
 class Output {
 public:
     Output() : buffer_(std::make_unique<char[]>(capacity)) {}
@@ -73,6 +71,7 @@ private:
     size_t used_ = 0;
     std::string path_;
     int file_ = -1;
+    bool is_on_terminal_ = false;
     bool is_over_ = false;
     std::string failure_;
 };

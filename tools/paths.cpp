@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform.hpp"
+
 namespace kovra::tool {
 
 namespace {
@@ -16,10 +18,10 @@ public:
 
     void named(const std::string &path) {
         std::error_code error;
-        if (path != "-" && fs::is_directory(path, error))
-            directory(path);
+        if (path != "-" && fs::is_directory(native_path(path), error))
+            directory(native_path(path));
         else
-            file(path, true);
+            file(native_path(path), true);
     }
 
     std::vector<FoundFile> files;
@@ -28,7 +30,7 @@ private:
     void file(const fs::path &path, bool is_named) {
         std::error_code error;
         const auto size = fs::file_size(path, error);
-        files.push_back({path.string(), error ? 0 : size, is_named});
+        files.push_back({utf8_text(path), error ? 0 : size, is_named});
     }
 
     // As deep as directories nest, which the length of a path limits.
@@ -38,7 +40,7 @@ private:
         for (fs::directory_iterator entry(path, error), end; !error && entry != end; entry.increment(error))
             entries.push_back(*entry);
         if (error)
-            fail_(path.string() + ": " + error.message());
+            fail_(utf8_text(path) + ": " + error.message());
         std::sort(entries.begin(), entries.end());
         for (const fs::directory_entry &entry : entries) {
             const bool is_link = entry.is_symlink(error);

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <string>
 
-#include "output.hpp"
+#include "platform.hpp"
 
 namespace kovra::tool {
 

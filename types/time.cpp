@@ -66,7 +66,8 @@ Result encode_time(Encoder &encoder, const Type &type, Value *value) {
     return result == success ? success : encoder.fail(here(), code::write_length, result);
 }
 
-Result decode_text(Decoder &decoder, uint8_t tag, const Element &element, Value *&out) {
+// The record of a text that may stand in segments.
+Result take_text(Decoder &decoder, const Element &element, Time *&out) {
     if (const Result result = enter(decoder, here()); result != success)
         return result;
     auto *time = new_record<Time>(decoder.arena());
@@ -76,11 +77,22 @@ Result decode_text(Decoder &decoder, uint8_t tag, const Element &element, Value 
     uint32_t unused_bits = 0;
     if (const Result result = decode_segments<false>(decoder, here(), element, content, unused_bits); result != success)
         return result;
-    time->tag = tag;
     time->text = content.octets;
-    const uint8_t *text = content.octets.memory != nullptr ? content.octets.memory : decoder.at(content.octets.offset);
+    out = time;
+    return success;
+}
+
+Result decode_text(Decoder &decoder, uint8_t tag, const Element &element, Value *&out) {
+    Octets octets;
+    auto *time = decoder.take<Time>(element, octets);
+    if (time != nullptr)
+        time->text = octets;
+    else if (const Result result = take_text(decoder, element, time); result != success)
+        return result;
+    time->tag = tag;
+    const uint8_t *text = time->text.memory != nullptr ? time->text.memory : decoder.at(time->text.offset);
     TimeFields fields;
-    if (!read_text(tag, text, content.octets.length, fields))
+    if (!read_text(tag, text, time->text.length, fields))
         return decoder.fail(here(), code::bad_time_text);
     if (!is_certain(fields)) {
         kovra_time *calendar_time = time_of(fields);
@@ -106,14 +118,18 @@ Result decode_begun_time(Decoder &decoder, const Type &, const Identifier &ident
 }
 
 Result decode_time(Decoder &decoder, const Type &type, Value *&out) {
-    Identifier identifier;
+    Identifier identifier{Class::universal, Form::primitive, tag::utc_time};
     int32_t length = 0;
-    if (const Result result = decode_identifier(decoder, here(), identifier); result != success)
-        return result;
-    if (!time_begins(type, identifier))
-        return decoder.fail(here(), code::bad_time_type);
-    if (const Result result = decode_length(decoder, here(), length); result != success)
-        return result;
+    if (uint32_t octets = 0; decoder.enter(tag::utc_time, octets)) {
+        length = static_cast<int32_t>(octets);
+    } else {
+        if (const Result result = decode_identifier(decoder, here(), identifier); result != success)
+            return result;
+        if (!time_begins(type, identifier))
+            return decoder.fail(here(), code::bad_time_type);
+        if (const Result result = decode_length(decoder, here(), length); result != success)
+            return result;
+    }
     Value *value = nullptr;
     const Result result = decode_begun_time(decoder, type, identifier, {identifier.form, length}, value);
     if (result != success)

@@ -1,0 +1,41 @@
+# What is installed, and the archive that cpack makes of it.
+include(GNUInstallDirs)
+set(KOVRA_DOC_DIR ${CMAKE_INSTALL_DOCDIR})
+if(WIN32)
+  set(KOVRA_DOC_DIR .)
+endif()
+
+set(installed kovra_util kovra_asn1)
+if(TARGET kovra-asn1)
+  list(APPEND installed kovra-asn1)
+  if(NOT WIN32)
+    set_target_properties(kovra-asn1 PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  endif()
+endif()
+if(NOT WIN32)
+  set_target_properties(kovra_asn1 PROPERTIES INSTALL_RPATH "$ORIGIN")
+endif()
+install(TARGETS ${installed}
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+if(WIN32)
+  install(FILES ${CMAKE_BINARY_DIR}/lib/kovra_util.def ${CMAKE_BINARY_DIR}/lib/kovra_asn1.def
+          DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endif()
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/include/kovra DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN *.h)
+install(FILES ${CMAKE_SOURCE_DIR}/README.md DESTINATION ${KOVRA_DOC_DIR})
+
+set(CPACK_PACKAGE_NAME kovra_asn1)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "ASN.1 in BER and DER, with the structures of public-key infrastructure")
+set(CPACK_PACKAGE_CHECKSUM SHA256)
+set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY ON)
+set(CPACK_STRIP_FILES ON)
+if(WIN32)
+  set(CPACK_GENERATOR ZIP)
+  set(CPACK_SYSTEM_NAME win32)
+else()
+  set(CPACK_GENERATOR TGZ)
+  set(CPACK_SYSTEM_NAME linux-${CMAKE_SYSTEM_PROCESSOR})
+endif()
+include(CPack)

@@ -1,0 +1,37 @@
+# Lists the exported functions that take a value, in the form of harness/functions_test.cpp: cmake -D headers=DIRECTORY
+# -D output=FILE -P functions.cmake
+#
+# A value is a pointer to void for the compiler, so each parameter is told by a letter: v a value, w one that may be
+# changed, o the place of one, b a buffer, - anything else.
+file(GLOB files ${headers}/*.h)
+set(rows "")
+foreach(file ${files})
+  file(READ ${file} text)
+  string(REGEX REPLACE "/\\*([^*]|\\*+[^*/])*\\*+/" "" text "${text}")
+  # What makes lists in this language, and does not matter.
+  string(REGEX REPLACE "[][;]" " " text "${text}")
+  string(REGEX MATCHALL "kovra_[A-Za-z0-9_]+\\([^()]*\\)[ \n]*KOVRA_NOTHROW" declarations "${text}")
+  foreach(declaration ${declarations})
+    string(REGEX MATCH "^kovra_[A-Za-z0-9_]+" name "${declaration}")
+    string(REGEX MATCH "\\(.*" parameters "${declaration}")
+    if(parameters MATCHES "kovra_asn1_value ")
+      string(REPLACE "," ";" parameters "${parameters}")
+      set(letters "")
+      foreach(parameter ${parameters})
+        if(parameter MATCHES "kovra_asn1_value \\*\\*")
+          string(APPEND letters "o")
+        elseif(parameter MATCHES "const kovra_asn1_value ")
+          string(APPEND letters "v")
+        elseif(parameter MATCHES "kovra_asn1_value ")
+          string(APPEND letters "w")
+        elseif(parameter MATCHES "void ")
+          string(APPEND letters "b")
+        else()
+          string(APPEND letters "-")
+        endif()
+      endforeach()
+      string(APPEND rows "function(\"${name}\", \"${letters}\", ${name}),\n")
+    endif()
+  endforeach()
+endforeach()
+file(WRITE ${output} "${rows}")

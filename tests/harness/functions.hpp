@@ -1,0 +1,83 @@
+// Every exported function that takes a value, and calls of it with values of every kind. The list of the functions is
+// made from the public headers, so that none is forgotten.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+#include "core/value.hpp"
+#include "tests/asn1_testing.hpp"
+#include "tests/harness/samples.hpp"
+
+namespace kovra::test {
+
+using Handle = kovra_asn1_value *;
+
+inline const core::Value *record_of(const kovra_asn1_value *handle) {
+    return static_cast<const core::Value *>(handle);
+}
+
+// What a value is: its kind, and the table that it is a value of.
+using Identity = std::tuple<core::Kind, const void *>;
+Identity identity(const kovra_asn1_value *handle);
+
+// Is it the root of its own memory, which nobody has taken over?
+bool is_free(const kovra_asn1_value *handle);
+
+// Values of every kind.
+struct Kept {
+    uint32_t type;
+    std::string octets;
+    Value value;
+};
+const std::vector<Kept> &pool();
+
+// Numbers that are lengths, tags, indices or modes.
+constexpr int32_t numbers[] = {0, 1, 4, 12, -1};
+
+// What a call is made with besides the values, and what came of it.
+struct Call {
+    std::vector<kovra_asn1_value *> values;
+    size_t next = 0;
+    int32_t number = 0;
+    uint32_t type = KOVRA_ASN1_TYPE_OCTET_STRING;
+    Stream stream;
+    Errors errors;
+    std::vector<char> buffer = std::vector<char>(size_t{1} << 16);
+    std::array<kovra_asn1_value *, 2> made = {};
+    std::array<int32_t, 4> numbers = {};
+    size_t next_number = 0;
+};
+
+// A function, and how one of its type is called; each parameter is told by a letter (harness/functions.cmake).
+struct Function {
+    const char *name;
+    std::string_view letters;
+    void (*address)();
+    int64_t (*call)(const Function &, Call &);
+
+    [[nodiscard]] size_t values() const; // how many values it takes
+    [[nodiscard]] bool may_change() const { return letters.find('w') != letters.npos; }
+};
+
+std::span<const Function> functions();
+bool releases(const Function &function);
+
+// Calls with values of the pool (null: none) and a number, and releases what was made. What may be changed is a
+// copy. `look` sees the call before that. Returns an answer by which success and failure are told apart.
+int64_t call_with(const Function &function, const std::vector<const Kept *> &arguments, int32_t number = 0,
+                  const std::function<void(const Call &)> &look = nullptr);
+
+// The kinds of values that a function of one value does something with: those for which its answer is not that for
+// no value.
+const std::vector<Identity> &kinds_of(const Function &function);
+
+// Hands a value to every function of one value that is for its kind and changes nothing.
+void read_everything(kovra_asn1_value *value);
+
+} // namespace kovra::test

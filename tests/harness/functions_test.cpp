@@ -1,0 +1,206 @@
+// Every exported function that takes a value, with values of every kind.
+#include <algorithm>
+#include <map>
+
+#include "core/structure.hpp"
+#include "tests/failing_memory.hpp"
+#include "tests/harness/functions.hpp"
+
+#if defined(__SANITIZE_ADDRESS__)
+// One constructor loses a BOOLEAN, as is documented.
+extern "C" const char *__lsan_default_suppressions() {
+    return "leak:kovra_x509basicconstraints_new";
+}
+#endif
+
+namespace kovra::test {
+namespace {
+
+std::vector<std::string> encodings() {
+    std::vector<std::string> found;
+    for (const Kept &kept : pool())
+        found.push_back(encode(kept.type, kept.value.get()).octets);
+    return found;
+}
+
+// Those that work on more than one kind of value by what they are for.
+const std::map<std::string, size_t> &kinds_taken() {
+    static const std::map<std::string, size_t> all = {
+        {"kovra_asn1_integer_getlength", 2},
+        {"kovra_ess_signingcertificate_getcerts", 2},
+        {"kovra_ess_signingcertificate_getpolicies", 2},
+    };
+    return all;
+}
+
+TEST(Functions, OneValueOfAnyKind) {
+    const std::vector<std::string> before = encodings();
+    std::map<std::string, size_t> several;
+    for (const Function &function : functions()) {
+        if (function.values() != 1)
+            continue;
+        SCOPED_TRACE(function.name);
+        const std::vector<Identity> &taken = kinds_of(function);
+        if (taken.size() > 1)
+            several[function.name] = taken.size();
+        else
+            EXPECT_TRUE(taken.size() == 1 || releases(function)) << "nothing is right for it";
+    }
+    EXPECT_EQ(several, kinds_taken());
+    EXPECT_EQ(encodings(), before);
+}
+
+// The one constructor that is known to lose a BOOLEAN when it fails.
+bool leaks(const Function &function) {
+    return std::string_view(function.name) == "kovra_x509basicconstraints_new";
+}
+
+// Without the arguments that may be absent, in every combination: the record has copies of just those that were given,
+// and no defaulted part is missing. Any allocation may fail.
+void expect_built(const Function &function, const core::Type &type, const std::vector<const Kept *> &arguments) {
+    const auto &shape = *static_cast<const core::Structure *>(type.shape);
+    for (uint32_t absent = 0; absent < uint32_t{1} << shape.count; ++absent) {
+        std::vector<const Kept *> given = arguments;
+        bool can_be = true;
+        const bool is_empty = absent == (uint32_t{1} << shape.count) - 1;
+        for (uint32_t i = 0; i < shape.count; ++i)
+            if ((absent >> i & 1) != 0) {
+                given[i] = nullptr;
+                can_be = can_be && shape.components[i].presence != core::Presence::required;
+            }
+        const auto look = [&](const Call &call) {
+            if (call.made[0] == nullptr) {
+                // Some want one of their parts at least.
+                EXPECT_TRUE(!can_be || shape.allows != nullptr || is_empty) << "not made without " << absent;
+                return;
+            }
+            EXPECT_TRUE(can_be) << "made without " << absent;
+            const auto *made = static_cast<const core::Record *>(record_of(call.made[0]));
+            for (uint8_t i = 0; i < shape.count; ++i) {
+                const core::Component &component = shape.components[i];
+                if (given[i] == nullptr) {
+                    EXPECT_EQ(made->slot(i) != nullptr, component.presence == core::Presence::defaulted)
+                        << component.name;
+                    continue;
+                }
+                ASSERT_NE(made->slot(i), nullptr) << component.name;
+                EXPECT_NE(static_cast<const void *>(made->slot(i)), given[i]->value.get());
+                EXPECT_EQ(hex(encode(given[i]->type, made->slot(i)).octets),
+                          hex(encode(given[i]->type, given[i]->value.get()).octets))
+                    << component.name;
+            }
+        };
+        call_with(function, given, 0, look);
+        if (!function.may_change() && can_be && !is_empty && !leaks(function))
+            fail_each_allocation([&] { return call_with(function, given) == 1 || shape.allows != nullptr; });
+    }
+}
+
+// The values that a constructor is meant for are found by trying the components of each structure that has as many as
+// it has parameters. In each place it takes values of the component's type and no others.
+TEST(Functions, SeveralValuesOfAnyKind) {
+    const std::vector<std::string> before = encodings();
+    std::vector<std::vector<Kept>> components(KOVRA_ASN1_TYPE_COUNT);
+    for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type) {
+        const core::Type &row = core::row(type);
+        const std::vector<Sample> values = component_values(row);
+        for (size_t i = 0; i < values.size(); ++i) {
+            const uint32_t number = static_cast<const core::Structure *>(row.shape)->components[i].copied_as->number;
+            components[type].push_back({number, values[i].octets, decode(number, values[i].octets).value});
+        }
+    }
+    size_t understood = 0;
+    for (const Function &function : functions()) {
+        SCOPED_TRACE(function.name);
+        std::vector<const Kept *> all(function.values());
+        for (const Kept &kept : pool()) {
+            for (size_t place = 0; function.values() > 1 && place < function.values(); ++place) {
+                std::vector<const Kept *> one(function.values());
+                one[place] = &kept;
+                call_with(function, one);
+            }
+            std::fill(all.begin(), all.end(), &kept);
+            if (!releases(function))
+                call_with(function, all);
+        }
+        if (function.values() == 0 || releases(function))
+            continue;
+        for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type) {
+            const std::vector<Kept> &values = components[type];
+            if (values.size() != function.values())
+                continue;
+            const auto *shape = static_cast<const core::Structure *>(core::row(type).shape);
+            std::vector<const Kept *> right;
+            for (const Kept &kept : values)
+                right.push_back(&kept);
+            bool is_made = false;
+            call_with(function, right, 0, [&](const Call &call) {
+                is_made = call.made[0] != nullptr && is_free(call.made[0]) &&
+                          identity(call.made[0]) == Identity(core::Kind::record, shape->shape());
+            });
+            if (!is_made)
+                continue;
+            ++understood;
+            if (function.letters.find_first_not_of("vw") == function.letters.npos)
+                expect_built(function, core::row(type), right);
+            for (size_t place = 0; place < function.values(); ++place) {
+                for (const Kept &kept : pool()) {
+                    std::vector<const Kept *> changed = right;
+                    changed[place] = &kept;
+                    call_with(function, changed, 0, [&](const Call &call) {
+                        const auto *made = static_cast<const core::Record *>(record_of(call.made[0]));
+                        EXPECT_TRUE(made == nullptr || made->slot(static_cast<uint8_t>(place)) == nullptr ||
+                                    core::holds(*shape->components[place].copied_as, record_of(kept.value.get())))
+                            << "place " << place << " takes a value of type " << kept.type;
+                    });
+                }
+            }
+            break;
+        }
+    }
+    RecordProperty("understood", static_cast<int>(understood));
+    EXPECT_GT(understood, 100u);
+    EXPECT_EQ(encodings(), before);
+}
+
+// A function of one value that makes something of it, where memory is short.
+TEST(Functions, EveryAllocationMayFail) {
+    for (const Function &function : functions()) {
+        SCOPED_TRACE(function.name);
+        if (function.values() != 1 || function.may_change())
+            continue;
+        for (const Identity &kind : kinds_of(function)) {
+            const auto first = std::find_if(pool().begin(), pool().end(), [&](const Kept &kept) {
+                return identity(kept.value.get()) == kind && call_with(function, {&kept}) == 1;
+            });
+            if (first != pool().end())
+                fail_each_allocation([&] { return call_with(function, {&*first}) == 1; });
+        }
+    }
+}
+
+// No type encodes, measures or copies a value of another, and each says so.
+TEST(Functions, AValueOfAnotherKindIsNotEncoded) {
+    for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type) {
+        for (const Kept &kept : pool()) {
+            const Handle value = kept.value.get();
+            if (core::holds(core::row(type), record_of(value)) || core::row(type).operations->refuses_whole)
+                continue;
+            SCOPED_TRACE("type " + std::to_string(type) + ", value of type " + std::to_string(kept.type));
+            EXPECT_EQ(encode(type, value).codes.size(), 1u);
+            EXPECT_EQ(encode_content(type, value, 1).codes.size(), 1u);
+            EXPECT_EQ(Blob(kovra_asn1_mem_encode(type, value)), nullptr);
+            EXPECT_FALSE(Value(23, kovra_asn1_objecttoany(type, value)));
+            EXPECT_EQ(kovra_asn1_content_length(type, value), -2);
+            EXPECT_EQ(kovra_asn1_length(type, value), -2);
+            const Errors ctx(kovra_err_ctx_new());
+            EXPECT_FALSE(Value(type, kovra_asn1_dupobject(type, value, ctx.get())));
+            EXPECT_EQ(kovra_err_ctx_getcount(ctx.get()), 2);
+        }
+        if (HasFailure())
+            break;
+    }
+}
+
+} // namespace
+} // namespace kovra::test

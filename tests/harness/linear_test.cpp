@@ -1,0 +1,204 @@
+// Time and memory grow as the input does, and not before its octets are there.
+#include <ctime>
+#include <filesystem>
+#include <functional>
+
+#include "core/list.hpp"
+#include "tests/asn1_testing.hpp"
+#include "tests/failing_memory.hpp"
+#include "tests/harness/samples.hpp"
+
+namespace kovra::test {
+namespace {
+
+using Handle = kovra_asn1_value *;
+using Json = std::unique_ptr<kovra_json, Releaser<kovra_json_free>>;
+
+constexpr int64_t allowance = 64 * 1024;
+constexpr int64_t memory_factor = 8; // of an input, to decode it
+constexpr int64_t time_slack = CLOCKS_PER_SEC / 20;
+
+// Something of which there can be any number in a value of a type.
+struct Growth {
+    std::string what;
+    uint32_t type;
+    std::function<std::string(size_t)> make;
+    bool is_described = true; // in JSON, which has indefinite lengths and open strings in other words
+};
+
+std::string indefinite(std::string_view identifier, const std::string &content) {
+    return std::string(identifier) + '\x80' + content + std::string(2, '\0');
+}
+
+std::string nested(char identifier, size_t depth, const std::string &innermost) {
+    return repeated(std::string{identifier, '\x80'}, depth) + innermost + std::string(2 * depth, '\0');
+}
+
+std::vector<Growth> growths() {
+    std::vector<Growth> found = {
+        {"nested sequences", 23, [](size_t n) { return nested('\x30', n, ""); }},
+        {"nested tags", 23, [](size_t n) { return nested('\xA0', n, ""); }, false},
+        {"nested strings", 4, [](size_t n) { return nested('\x24', n, "\x04\x01x"); }, false},
+        {"nested bit strings", 3, [](size_t n) { return nested('\x23', n, octets("03 02 00 78")); }, false},
+        {"segments", 4, [](size_t n) { return indefinite("\x24", repeated("\x04\x01x", n)); }, false},
+        {"segments of bits", 3, [](size_t n) { return indefinite("\x23", repeated(octets("03 02 00 78"), n)); }, false},
+        {"octets of a string", 4, [](size_t n) { return element(0x04, std::string(n, 'x')); }},
+        {"octets of an integer", 2, [](size_t n) { return element(0x02, std::string(n, '\x11')); }},
+        {"arcs", 6, [](size_t n) { return element(0x06, "*" + repeated("\x86\x48", n)); }},
+        {"arcs of a relative one", 90, [](size_t n) { return element(0x0D, repeated("\x86\x48", n)); }, false},
+        {"elements in indefinite form", 24, [](size_t n) { return indefinite("0", repeated(octets("05 00"), n)); }},
+    };
+    // The lists, and a certificate and a CRL with long ones in them.
+    for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type) {
+        const core::Type &row = core::row(type);
+        if (!is_list(row))
+            continue;
+        const uint32_t member = static_cast<const core::ListShape *>(row.shape)->element;
+        found.push_back({"elements of type " + std::to_string(type), type, [&row, member](size_t n) {
+                             return element(row.usual_identifier, repeated(minimal_sample(member), n));
+                         }});
+    }
+    const auto many = [](uint32_t type, size_t n) { return element(0x30, repeated(minimal_sample(type), n)); };
+    const std::string algorithm = octets("30 03 06 01 2A"), signature = algorithm + octets("03 02 00 AB");
+    const std::string time = octets("17 0D 3132303130313030303030305A"), no_name = octets("30 00");
+    found.push_back({"names", KOVRA_ASN1_TYPE_NAME,
+                     [=](size_t n) { return many(KOVRA_ASN1_TYPE_RELATIVE_DISTINGUISHED_NAME, n); }});
+    found.push_back({"extensions", KOVRA_ASN1_TYPE_CERTIFICATE, [=](size_t n) {
+                         const std::string names = no_name + element(0x30, time + time) + no_name;
+                         return element(0x30, element(0x30, octets("A0 03 02 01 02 02 01 01") + algorithm + names +
+                                                                element(0x30, signature) +
+                                                                element(0xA3, many(KOVRA_ASN1_TYPE_EXTENSION, n))) +
+                                                  signature);
+                     }});
+    found.push_back({"revoked entries", KOVRA_ASN1_TYPE_CERTIFICATE_LIST, [=](size_t n) {
+                         return element(0x30, element(0x30, octets("02 01 01") + algorithm + no_name + time +
+                                                                many(KOVRA_ASN1_TYPE_REVOKED_CERTIFICATE, n)) +
+                                                  signature);
+                     }});
+    return found;
+}
+
+void look_at(Handle list) {
+    for (int32_t i = 0, count = kovra_asn1_list_getsize(list); i < count; ++i) {
+        Handle element = nullptr;
+        EXPECT_EQ(kovra_asn1_list_get(list, i, &element), 1);
+    }
+}
+
+// Reads octet by octet, counting how many are read.
+int32_t read_octet(void *user, void *buffer, int32_t size, int32_t *out_count) {
+    auto &[rest, reads] = *static_cast<std::pair<std::string_view, int64_t> *>(user);
+    ++reads;
+    *out_count = rest.empty() || size < 1 ? 0 : 1;
+    if (*out_count == 1) {
+        *static_cast<char *>(buffer) = rest[0];
+        rest.remove_prefix(1);
+    }
+    return 1;
+}
+
+// Decodes the octets and does with the value what there is to do. Returns how often a stream was asked for octets.
+int64_t use(const Growth &growth, const std::string &data) {
+    const Value value = decode(growth.type, data).value;
+    EXPECT_TRUE(value);
+    look_at(value.get());
+    look_at(kovra_x509pubkeycert_getexts(value.get()));
+    look_at(kovra_x509crl_getrevcerts(value.get()));
+    if (growth.type == KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER) {
+        EXPECT_NE(kovra_asn1_oid_getstring(value.get()), nullptr);
+    }
+    const Encoded written = encode(growth.type, value.get());
+    EXPECT_EQ(written.result == 1, is_written_as_read(core::row(growth.type)) || written.result == 1);
+    const Value copy(growth.type, kovra_asn1_dupobject(growth.type, value.get(), nullptr));
+    EXPECT_TRUE(copy || !is_written_as_read(core::row(growth.type)));
+    if (growth.is_described) {
+        const Json json(kovra_asn1_tojson(data.data(), size_of(data)));
+        EXPECT_NE(json, nullptr);
+        EXPECT_NE(Blob(kovra_asn1_encodejson(json.get())), nullptr);
+    }
+    std::pair<std::string_view, int64_t> source(data, 0);
+    kovra_stream_callbacks callbacks = {};
+    callbacks.read = read_octet;
+    const Stream stream(kovra_stream_new_callbacks(&callbacks, &source, nullptr));
+    Handle out = nullptr;
+    EXPECT_EQ(kovra_asn1_decode(stream.get(), growth.type, &out, nullptr, nullptr), 1);
+    kovra_asn1_value_free(growth.type, out);
+    return source.second;
+}
+
+struct Cost {
+    int64_t allocated, peak, reads, time;
+};
+
+Cost cost_of(const Growth &growth, size_t n) {
+    const std::string data = growth.make(n);
+    const MemoryMeter meter;
+    const std::clock_t begin = std::clock();
+    const int64_t reads = use(growth, data);
+    return {meter.use().allocated, meter.use().peak, reads, std::clock() - begin};
+}
+
+TEST(Linear, MemoryAndTimeGrowAsTheInputDoes) {
+    for (const Growth &growth : growths()) {
+        SCOPED_TRACE(growth.what);
+        constexpr size_t n = 2000;
+        const Cost one = cost_of(growth, n), two = cost_of(growth, 2 * n), eight = cost_of(growth, 8 * n);
+        // Arrays that grow make steps; four times as much would be quadratic.
+        EXPECT_LT(two.allocated, one.allocated * 5 / 2 + allowance);
+        EXPECT_LT(eight.allocated, one.allocated * 10 + allowance);
+        EXPECT_LT(two.peak, one.peak * 5 / 2 + allowance);
+        EXPECT_LE(eight.reads, static_cast<int64_t>(growth.make(8 * n).size()) + 1);
+        EXPECT_LT(eight.time, one.time * 24 + time_slack);
+    }
+}
+
+// What decoding holds at its peak, whatever comes of it.
+int64_t peak_of_decoding(uint32_t type, const std::string &data) {
+    const Input input(data);
+    const MemoryMeter meter;
+    Handle out = nullptr;
+    kovra_asn1_decode(input.stream(), type, &out, nullptr, nullptr);
+    kovra_asn1_value_free(type, type == 0 || type == 5 ? nullptr : out);
+    return meter.use().peak;
+}
+
+TEST(Linear, AnnouncedLengthsTakeNoMemory) {
+    for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type) {
+        for (int identifier = 0; identifier < 256; ++identifier) {
+            const std::string data = std::string(1, static_cast<char>(identifier)) + octets("84 7F FF FF FF 00");
+            ASSERT_LT(peak_of_decoding(type, data), allowance) << type << ": " << hex(data);
+        }
+        for (const Sample &sample : samples(type)) {
+            // Within what has begun: the element that the octets end in goes on for 2 GiB.
+            std::string begun;
+            for (size_t at = 0; at + 1 < sample.octets.size() && (sample.octets[at] & 0x20) != 0; at += 2) {
+                begun += sample.octets.substr(at, 1) + '\x80';
+                if (static_cast<uint8_t>(sample.octets[at + 1]) >= 0x80)
+                    break;
+                const std::string data = begun + sample.octets.substr(at + 2, 1) + octets("84 7F FF FF FF 00");
+                ASSERT_LT(peak_of_decoding(type, data), allowance) << type << ": " << hex(data);
+            }
+        }
+    }
+}
+
+// Every file of the examples, read as everything that it can be read as.
+TEST(Linear, DecodingTakesAFewTimesTheInput) {
+    size_t read = 0;
+    for (const auto &entry : std::filesystem::directory_iterator(KOVRA_SOURCE_DIR "/examples")) {
+        const std::string extension = entry.path().extension().string();
+        if (extension != ".der" && extension != ".ber" && extension != ".p12")
+            continue;
+        std::ifstream file(entry.path(), std::ios::binary);
+        const std::string data{std::istreambuf_iterator<char>(file), {}};
+        for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type) {
+            EXPECT_LE(peak_of_decoding(type, data), memory_factor * size_of(data) + allowance)
+                << entry.path() << " as type " << type;
+            read += decode(type, data).result == 1 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(read, 200u);
+}
+
+} // namespace
+} // namespace kovra::test

@@ -1,0 +1,442 @@
+// What holds for all types, over values made from their tables and over what comes of changing them.
+#include <filesystem>
+#include <set>
+
+#include "core/choice.hpp"
+#include "core/descriptors.hpp"
+#include "core/structure.hpp"
+#include "tests/asn1_testing.hpp"
+#include "tests/failing_memory.hpp"
+#include "tests/harness/functions.hpp"
+#include "tests/harness/samples.hpp"
+
+namespace kovra::test {
+namespace {
+
+constexpr uint32_t type_count = KOVRA_ASN1_TYPE_COUNT;
+
+// Types whose values are none.
+bool has_no_value(uint32_t type) {
+    return type == KOVRA_ASN1_TYPE_END_OF_CONTENTS || type == KOVRA_ASN1_TYPE_NULL;
+}
+
+// Types of which there are contents only.
+bool has_no_whole(uint32_t type) {
+    return core::row(type).operations->refuses_whole;
+}
+
+std::string name_of(uint32_t type, const Sample &sample) {
+    return "type " + std::to_string(type) + ", " + sample.what + ": " + hex(sample.octets.substr(0, 200));
+}
+
+// Result and entries (code, source, text) of decoding, and the value.
+struct Outcome {
+    int32_t result = 0;
+    size_t consumed = 0;
+    std::string entries;
+    Value value;
+};
+
+Outcome outcome(uint32_t type, const std::string &data, Feed feed) {
+    Outcome found;
+    const Errors ctx(kovra_err_ctx_new());
+    const Input input(data, feed);
+    kovra_asn1_value *value = nullptr;
+    int32_t read = -7;
+    found.result = kovra_asn1_decode(input.stream(), type, &value, &read, ctx.get());
+    found.value = Value(type, value);
+    found.consumed = input.consumed();
+    EXPECT_EQ(read, found.result == 1 ? static_cast<int32_t>(found.consumed) : -7);
+    EXPECT_TRUE(found.result == 1 || value == nullptr);
+    const char *source = nullptr, *text = nullptr;
+    for (int32_t i = 0, line = 0, code = 0; kovra_err_ctx_getentry(ctx.get(), i, &source, &line, &code, &text) == 1;
+         ++i)
+        found.entries.append(std::to_string(code)).append(source).append(text).append(1, '\n');
+    // An INTEGER without content is zero, which is noted and is no failure.
+    EXPECT_TRUE(found.result != 1 || found.entries.empty() || found.entries.starts_with("66275")) << found.entries;
+    return found;
+}
+
+// From memory that ends where the octets end, and octet by octet: it comes to the same.
+Outcome outcome(uint32_t type, const std::string &data) {
+    Outcome memory = outcome(type, data, Feed::memory);
+    const Outcome trickle = outcome(type, data, Feed::trickle);
+    EXPECT_EQ(memory.result, trickle.result);
+    EXPECT_EQ(memory.entries, trickle.entries);
+    if (memory.result == 1) {
+        EXPECT_EQ(memory.consumed, trickle.consumed);
+        EXPECT_EQ(encode(type, memory.value.get()).octets, encode(type, trickle.value.get()).octets);
+    }
+    return memory;
+}
+
+// What was read can be written as long as announced, and that is read as what is written alike.
+void expect_sound(uint32_t type, kovra_asn1_value *value) {
+    const core::Type &row = core::row(type);
+    const Encoded first = encode(type, value);
+    if (first.result != 1) {
+        EXPECT_FALSE(first.codes.empty());
+        EXPECT_FALSE(is_written_as_read(row)) << "is read and not written: " << first.codes;
+        return;
+    }
+    EXPECT_EQ(first.codes, Codes());
+    const int32_t length = kovra_asn1_length(type, value);
+    EXPECT_TRUE(length == size_of(first.octets) || length == core::indefinite || !is_as_long_as_measured(row))
+        << length;
+    const Decoded again = decode(type, first.octets);
+    if (!is_written_as_read(row) && again.result != 1)
+        return;
+    ASSERT_EQ(again.result, 1) << "not read again: " << hex(first.octets) << again.codes;
+    EXPECT_EQ(again.consumed, first.octets.size());
+    EXPECT_EQ(hex(encode(type, again.value.get()).octets), hex(first.octets));
+}
+
+// The content octets by themselves, of the announced length and of indefinite length.
+void expect_sound_content(uint32_t type, kovra_asn1_value *value) {
+    const core::Type &row = core::row(type);
+    const int32_t length = kovra_asn1_content_length(type, value);
+    ASSERT_NE(length, core::unknown);
+    const Encoded content = encode_content(type, value, length);
+    ASSERT_EQ(content.result, 1) << content.codes;
+    if (length >= 0 && is_as_long_as_measured(row)) {
+        EXPECT_EQ(size_of(content.octets), length);
+    }
+    if (is_choice(row) || !is_written_as_read(row))
+        return;
+    const int32_t form = row.form == core::Form::constructed || length < 0 ? 0 : 1;
+    const Decoded again = decode_content(type, content.octets, form, length);
+    ASSERT_EQ(again.result, 1) << again.codes;
+    EXPECT_EQ(hex(encode_content(type, again.value.get(), length).octets), hex(content.octets));
+    if (row.form != core::Form::constructed || length < 0)
+        return;
+    const Encoded open = encode_content(type, value, core::indefinite);
+    EXPECT_EQ(hex(open.octets), hex(content.octets) + "0000");
+    EXPECT_EQ(hex(encode_content(type, decode_content(type, open.octets, 0, -1).value.get(), length).octets),
+              hex(content.octets));
+}
+
+TEST(Rows, WhatIsReadIsWrittenAndReadAgain) {
+    size_t count = 0;
+    for (uint32_t type = 0; type < type_count; ++type) {
+        for (const Sample &sample : samples(type)) {
+            SCOPED_TRACE(name_of(type, sample));
+            ++count;
+            const Outcome read = outcome(type, sample.octets);
+            if (has_no_whole(type)) {
+                EXPECT_EQ(read.result, 0);
+                const std::string content = sample.octets.substr(2);
+                const Value value = decode_content(type, content, 1, size_of(content)).value;
+                expect_sound_content(type, value.get());
+                EXPECT_EQ(encode(type, value.get()).result, 0);
+                break;
+            }
+            ASSERT_EQ(read.result, 1) << read.entries;
+            EXPECT_EQ(read.consumed, sample.octets.size());
+            if (has_no_value(type)) {
+                EXPECT_EQ(encode(type, nullptr).octets, sample.octets);
+                continue;
+            }
+            expect_sound(type, read.value.get());
+            const Encoded written = encode(type, read.value.get());
+            if (written.result != 1)
+                continue;
+            expect_sound_content(type, read.value.get());
+            const Value copy(type, kovra_asn1_dupobject(type, read.value.get(), nullptr));
+            EXPECT_TRUE(copy || !is_written_as_read(core::row(type)));
+            if (copy) {
+                EXPECT_EQ(hex(encode(type, copy.get()).octets), hex(written.octets));
+            }
+            // All of the samples is definite and as short as can be, but for the forms of the leaves.
+            if (sample.what == "minimal" || sample.what == "full" || sample.what == "long") {
+                EXPECT_TRUE(hex(written.octets) == hex(sample.octets) || !is_written_as_read(core::row(type)))
+                    << hex(written.octets);
+            }
+            // What stands behind a value is left where it is.
+            const Outcome followed = outcome(type, sample.octets + "\x30\x80");
+            EXPECT_EQ(followed.result, 1);
+            EXPECT_EQ(followed.consumed, sample.octets.size());
+        }
+    }
+    RecordProperty("values", static_cast<int>(count));
+}
+
+// Whatever combination of components is there, just these are in the record, and are written again.
+TEST(Rows, PresenceOfComponents) {
+    size_t count = 0;
+    for (uint32_t type = 0; type < type_count; ++type) {
+        for (const Combination &combination : combinations(type)) {
+            SCOPED_TRACE("type " + std::to_string(type) + ": " + hex(combination.octets));
+            ++count;
+            const Outcome read = outcome(type, combination.octets);
+            ASSERT_EQ(read.result, 1) << read.entries;
+            const auto &record = *static_cast<const core::Record *>(static_cast<const core::Value *>(read.value.get()));
+            for (uint8_t i = 0; i < record.shape->count; ++i) {
+                const core::Component &component = record.shape->components[i];
+                const bool is_there = (combination.present >> i & 1) != 0;
+                if (component.presence == core::Presence::defaulted) {
+                    ASSERT_NE(record.slot(i), nullptr) << component.name;
+                    EXPECT_NE(component.fallback->is(*record.slot(i)), is_there) << component.name;
+                } else {
+                    EXPECT_EQ(record.slot(i) != nullptr, is_there) << component.name;
+                }
+            }
+            expect_sound(type, read.value.get());
+            if (is_written_as_read(core::row(type))) {
+                EXPECT_EQ(encoding(read.value), hex(combination.octets));
+            }
+        }
+    }
+    EXPECT_GT(count, 500u);
+}
+
+TEST(Rows, Truncations) {
+    for (uint32_t type = 0; type < type_count; ++type) {
+        for (const Sample &sample : samples(type)) {
+            if (sample.what == "long")
+                continue;
+            SCOPED_TRACE(name_of(type, sample));
+            for (size_t end = 0; end < sample.octets.size(); ++end)
+                ASSERT_NE(outcome(type, sample.octets.substr(0, end)).result, 1) << "cut at " << end;
+        }
+    }
+}
+
+// Where an element stands.
+struct Place {
+    size_t begin, header, end;
+    std::vector<size_t> around; // the places that hold it, the outermost first
+};
+
+void find_places(const std::string &data, size_t begin, size_t end, std::vector<size_t> &around,
+                 std::vector<Place> &places) {
+    for (size_t at = begin; at < end;) {
+        // Tags above 30 and indefinite lengths are within samples only as leaves.
+        const auto first = static_cast<uint8_t>(data[at]), second = static_cast<uint8_t>(data[at + 1]);
+        if ((first & 0x1F) == 0x1F || second == 0x80)
+            return;
+        const size_t more = second < 0x80 ? 0 : second & 0x7F;
+        size_t length = more == 0 ? second : 0;
+        for (size_t i = 0; i < more; ++i)
+            length = length << 8 | static_cast<uint8_t>(data[at + 2 + i]);
+        const Place place = {at, 2 + more, at + 2 + more + length, around};
+        places.push_back(place);
+        if ((first & 0x20) != 0) {
+            around.push_back(places.size() - 1);
+            find_places(data, at + place.header, place.end, around, places);
+            around.pop_back();
+        }
+        at = place.end;
+    }
+}
+
+// The octets with another element in a place, and lengths around it that are right.
+std::string with(const std::string &data, const std::vector<Place> &places, const Place &place,
+                 const std::string &instead) {
+    std::string changed = instead;
+    size_t begin = place.begin, end = place.end;
+    for (auto outer = place.around.rbegin(); outer != place.around.rend(); ++outer) {
+        const Place &holder = places[*outer];
+        const size_t content = holder.begin + holder.header;
+        changed = element(data[holder.begin],
+                          data.substr(content, begin - content) + changed + data.substr(end, holder.end - end));
+        begin = holder.begin;
+        end = holder.end;
+    }
+    return data.substr(0, begin) + changed + data.substr(end);
+}
+
+std::vector<std::string> changes_of(const std::string &data, const std::vector<Place> &places, const Place &place) {
+    std::vector<std::string> changed;
+    const std::string whole = data.substr(place.begin, place.end - place.begin);
+    const std::string content = whole.substr(place.header), end(2, '\0');
+    const int identifier = static_cast<uint8_t>(whole[0]);
+    auto put = [&](const std::string &instead) { changed.push_back(with(data, places, place, instead)); };
+    for (const int other : {identifier ^ 0x20, identifier ^ 0x80, identifier ^ 1, identifier + 2, 0x00, 0xFF, 0x04,
+                            0x05, 0x0C, 0x17, 0x24, 0x30, 0x31, 0xA0})
+        if (other != identifier)
+            put(std::string(1, static_cast<char>(other)) + whole.substr(1));
+    put("");
+    put(whole + whole);
+    put(element(0xA0, whole));
+    put(element(identifier, content + '\0'));
+    put(element(identifier, content.substr(0, content.size() / 2)));
+    put(element(identifier, ""));
+    put(std::string(1, static_cast<char>(identifier | 0x20)) + '\x80' + content + end);
+    put(std::string(1, static_cast<char>(identifier)) + "\x84" +
+        std::string{0, 0, static_cast<char>(content.size() >> 8), static_cast<char>(content.size())} + content);
+    // Lengths that are wrong.
+    const size_t last = place.begin + place.header - 1;
+    for (const int octet : {data[last] + 1, data[last] - 1, 0x00, 0x80, 0x84, 0xFF}) {
+        changed.push_back(data);
+        changed.back()[last] = static_cast<char>(octet);
+    }
+    return changed;
+}
+
+// Each element of each value with another tag, form, length or content, missing, twice ...: it is refused, or what
+// came of it is sound. A quarter of the types at a time.
+class Changes : public testing::TestWithParam<uint32_t> {};
+
+TEST_P(Changes, AreRefusedOrSound) {
+    size_t accepted = 0, refused = 0;
+    read_everything(pool()[0].value.get()); // what it keeps for later is no leak
+    for (uint32_t type = GetParam(); type < type_count; type += 4) {
+        std::set<std::string> seen;
+        for (const Sample &sample : samples(type)) {
+            if (sample.what == "long")
+                continue;
+            SCOPED_TRACE(name_of(type, sample));
+            std::vector<Place> places;
+            std::vector<size_t> around;
+            find_places(sample.octets, 0, sample.octets.size(), around, places);
+            for (const Place &place : places) {
+                for (const std::string &changed : changes_of(sample.octets, places, place)) {
+                    if (!seen.insert(changed).second)
+                        continue;
+                    const int64_t before = live_blocks();
+                    {
+                        SCOPED_TRACE("at " + std::to_string(place.begin) + ": " + hex(changed));
+                        const Outcome read = outcome(type, changed);
+                        ++(read.result == 1 ? accepted : refused);
+                        if (read.value) {
+                            expect_sound(type, read.value.get());
+                            read_everything(read.value.get());
+                        }
+                    }
+                    ASSERT_TRUE(live_blocks() == before || !is_memory_watched());
+                }
+            }
+            if (HasFailure())
+                break;
+        }
+    }
+    RecordProperty("accepted", static_cast<int>(accepted));
+    RecordProperty("refused", static_cast<int>(refused));
+    EXPECT_GT(accepted, 1000u);
+    EXPECT_GT(refused, 10000u);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, Changes, testing::Range(0u, 4u));
+
+// What every structure and every list says to the same faults.
+TEST(Rows, FormsTagsAndArguments) {
+    for (uint32_t type = 0; type < type_count; ++type) {
+        const core::Type &row = core::row(type);
+        if (!is_structure(row) && !is_list(row) && !is_choice(row))
+            continue;
+        const std::string &data = minimal_sample(type);
+        SCOPED_TRACE("type " + std::to_string(type) + ": " + hex(data));
+        const Value value = decode(type, data).value;
+        kovra_asn1_value *out = nullptr;
+        EXPECT_EQ(kovra_asn1_decode(nullptr, type, &out, nullptr, nullptr), 0);
+        if (has_no_whole(type) || has_no_value(type))
+            continue;
+        EXPECT_EQ(encode_with([&](auto *, auto *written, auto *ctx) {
+                      return kovra_asn1_encode(nullptr, type, value.get(), written, ctx);
+                  }).codes.at(0),
+                  0x10002);
+        EXPECT_EQ(encode(type, nullptr).codes.at(0), 0x10002);
+        EXPECT_EQ(kovra_asn1_length(type, nullptr), -2);
+        if (is_choice(row)) {
+            if (row.operations != &core::any_time_operations) {
+                EXPECT_EQ(decode_content(type, data.substr(2), 0, size_of(data) - 2).codes.at(0), 0x1026d);
+            }
+            continue;
+        }
+        // Refused before anything is read.
+        const Decoded primitive = decode_content(type, data.substr(2), 1, size_of(data) - 2);
+        EXPECT_EQ(primitive.codes, Codes({0x1026a}));
+        EXPECT_EQ(primitive.consumed, 0u);
+        EXPECT_EQ(decode_content(type, data, 0, -2).codes,
+                  Codes({row.operations == &core::any_list_operations ? 0x10203 : 0x10001}));
+        EXPECT_EQ(encode_content(type, value.get(), -2).codes, Codes({0x10001}));
+        EXPECT_EQ(encode_content(type, nullptr, 0).codes, Codes({0x10002}));
+        const bool keeps_octets = row.operations == &core::kept_structure_operations;
+        auto changed = [&](int flip) { return std::string(1, static_cast<char>(data[0] ^ flip)) + data.substr(1); };
+        EXPECT_EQ(decode(type, changed(0x01)).codes, Codes({0x1020a}));
+        EXPECT_EQ(decode(type, changed(0x80)).codes, Codes({0x1020a}));
+        EXPECT_EQ(decode(type, changed(0x20)).codes, keeps_octets ? Codes({0x10201, 0x10236}) : Codes({0x1026a}));
+        if (is_written_as_read(row)) {
+            const std::string content = encode_content(type, value.get(), -1).octets;
+            const std::string open = std::string{data[0], '\x80'} + content;
+            EXPECT_EQ(encoding(decode(type, open).value), hex(keeps_octets ? open : data));
+        }
+    }
+}
+
+TEST(Rows, EveryAllocationMayFail) {
+    for (uint32_t type = 0; type < type_count; ++type) {
+        for (const Sample &sample : samples(type)) {
+            if (has_no_whole(type))
+                continue;
+            SCOPED_TRACE(name_of(type, sample));
+            const bool is_written =
+                decode(type, encode(type, decode(type, sample.octets).value.get()).octets).result == 1;
+            for (const auto &[fails_once, feed] :
+                 {std::pair(false, Feed::memory), std::pair(true, Feed::memory), std::pair(true, Feed::trickle)}) {
+                fail_each_allocation(
+                    [&, feed = feed] {
+                        const Errors ctx(kovra_err_ctx_new());
+                        const Input input(sample.octets, feed);
+                        kovra_asn1_value *out = nullptr;
+                        if (ctx == nullptr || input.stream() == nullptr)
+                            return false;
+                        const int32_t result = kovra_asn1_decode(input.stream(), type, &out, nullptr, ctx.get());
+                        const Value value(type, out);
+                        if (result != 1) {
+                            EXPECT_EQ(Codes(ctx.get()).at(0), 0x10000);
+                            EXPECT_EQ(out, nullptr);
+                            return false;
+                        }
+                        if (has_no_value(type))
+                            return true;
+                        const Value copy(type, kovra_asn1_dupobject(type, value.get(), nullptr));
+                        const Blob encoding(kovra_asn1_mem_encode(type, value.get()));
+                        const Value any(KOVRA_ASN1_TYPE_ANY, kovra_asn1_objecttoany(type, value.get()));
+                        kovra_asn1_value *back = nullptr;
+                        const bool is_back = kovra_asn1_any_toobject(any.get(), type, &back, nullptr) == 1;
+                        EXPECT_EQ(is_back, back != nullptr);
+                        const Value again(type, back);
+                        return (copy && encoding != nullptr && (!any || again)) || !is_written;
+                    },
+                    fails_once);
+            }
+            if (HasFatalFailure())
+                return;
+        }
+    }
+}
+
+// The examples, read as all that they can be read as: cut, and where memory is short.
+TEST(Rows, FilesAreCutAndReadWithoutMemory) {
+    size_t count = 0;
+    read_everything(pool()[0].value.get());
+    for (const auto &entry : std::filesystem::directory_iterator(KOVRA_SOURCE_DIR "/examples")) {
+        const std::string extension = entry.path().extension().string();
+        if (extension != ".der" && extension != ".ber" && extension != ".p12")
+            continue;
+        std::ifstream file(entry.path(), std::ios::binary);
+        const std::string data{std::istreambuf_iterator<char>(file), {}};
+        for (uint32_t type = KOVRA_ASN1_TYPE_CONTEXT; type < type_count; ++type) {
+            const Decoded whole = decode(type, data);
+            if (whole.result != 1 || !is_structure(core::row(type)))
+                continue;
+            SCOPED_TRACE(entry.path().string() + " as type " + std::to_string(type));
+            ++count;
+            read_everything(whole.value.get());
+            const size_t step = 1 + data.size() / 500;
+            for (size_t end = 0; end < data.size(); end += step)
+                ASSERT_EQ(outcome(type, data.substr(0, end)).result, 0) << "cut at " << end;
+            fail_each_allocation([&] {
+                kovra_asn1_value *out = nullptr;
+                kovra_asn1_mem_decode(data.data(), size_of(data), type, &out);
+                const Value value(type, out), copy(type, kovra_asn1_dupobject(type, out, nullptr));
+                return Blob(kovra_asn1_mem_encode(type, value.get())) != nullptr && copy;
+            });
+        }
+    }
+    EXPECT_GT(count, 80u);
+}
+
+} // namespace
+} // namespace kovra::test

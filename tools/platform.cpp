@@ -1,0 +1,157 @@
+#include "platform.hpp"
+
+#include <algorithm>
+#include <cerrno>
+
+#include <fcntl.h>
+
+#if defined(_WIN32)
+#define WIN32_LEAN_AND_MEAN
+#if !defined(NOMINMAX)
+#define NOMINMAX
+#endif
+#include <io.h>
+#include <share.h>
+#include <sys/stat.h>
+#include <windows.h>
+
+#include <shellapi.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace kovra::tool {
+
+namespace fs = std::filesystem;
+
+fs::path native_path(const std::string &utf8) {
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+std::string utf8_text(const fs::path &path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+#if defined(_WIN32)
+
+namespace {
+
+constexpr DWORD escapes = 0x0004; // ENABLE_VIRTUAL_TERMINAL_PROCESSING, which older headers do not have
+
+std::string utf8_of(const wchar_t *wide) {
+    const int size = WideCharToMultiByte(CP_UTF8, 0, wide, -1, nullptr, 0, nullptr, nullptr);
+    std::string text(static_cast<size_t>(std::max(size, 1)), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, wide, -1, text.data(), size, nullptr, nullptr);
+    text.pop_back();
+    return text;
+}
+
+// How many octets at the end begin a character that goes on behind them.
+size_t unfinished(std::string_view text) {
+    for (size_t count = 1; count <= std::min<size_t>(3, text.size()); ++count) {
+        const auto octet = static_cast<unsigned char>(text[text.size() - count]);
+        if (octet < 0x80)
+            return 0;
+        if (octet >= 0xC0)
+            return count < (octet >= 0xF0 ? 4U : octet >= 0xE0 ? 3U : 2U) ? count : 0;
+    }
+    return 0;
+}
+
+} // namespace
+
+std::vector<std::string> utf8_arguments(int argc, char **argv) {
+    int count = 0;
+    wchar_t **wide = CommandLineToArgvW(GetCommandLineW(), &count);
+    if (wide == nullptr)
+        return {argv, argv + argc};
+    std::vector<std::string> arguments(static_cast<size_t>(count));
+    std::transform(wide, wide + count, arguments.begin(), utf8_of);
+    LocalFree(wide);
+    return arguments;
+}
+
+FILE *open_to_read(const std::string &utf8_path) {
+    return _wfopen(native_path(utf8_path).c_str(), L"rb");
+}
+
+int open_to_write(const std::string &utf8_path) {
+    return _wopen(native_path(utf8_path).c_str(), _O_WRONLY | _O_CREAT | _O_TRUNC | _O_BINARY | _O_NOINHERIT,
+                  _S_IREAD | _S_IWRITE);
+}
+
+bool is_terminal(int file) {
+    // Other devices than the console are a terminal to _isatty.
+    DWORD mode = 0;
+    return _isatty(file) != 0 && GetConsoleMode(reinterpret_cast<HANDLE>(_get_osfhandle(file)), &mode) != 0;
+}
+
+Terminal::Terminal() {
+    for (const int file : {1, 2}) {
+        _setmode(file, _O_BINARY);
+        if (!is_terminal(file))
+            continue;
+        const auto console = reinterpret_cast<HANDLE>(_get_osfhandle(file));
+        DWORD mode = 0;
+        if (code_page_ == 0)
+            code_page_ = GetConsoleOutputCP();
+        SetConsoleOutputCP(CP_UTF8);
+        if (GetConsoleMode(console, &mode) == 0 || SetConsoleMode(console, mode | escapes) == 0)
+            takes_escapes_ = false;
+    }
+}
+
+Terminal::~Terminal() {
+    if (code_page_ != 0)
+        SetConsoleOutputCP(code_page_);
+}
+
+long write_to_terminal(const char *octets, size_t size) {
+    static std::string begun; // of the character that the last piece ended in
+    constexpr size_t largest_piece = 8192;
+    const size_t taken = std::min(size, largest_piece);
+    std::string text = begun + std::string(octets, taken);
+    begun = text.substr(text.size() - unfinished(text));
+    text.resize(text.size() - begun.size());
+    std::wstring wide(text.size(), L'\0');
+    const int count = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), wide.data(),
+                                          static_cast<int>(wide.size()));
+    const auto console = reinterpret_cast<HANDLE>(_get_osfhandle(1));
+    for (DWORD done = 0, written = 0; done < static_cast<DWORD>(count); done += written)
+        if (WriteConsoleW(console, wide.data() + done, static_cast<DWORD>(count) - done, &written, nullptr) == 0 ||
+            written == 0) {
+            errno = EIO;
+            return -1;
+        }
+    return static_cast<long>(taken);
+}
+
+#else
+
+std::vector<std::string> utf8_arguments(int argc, char **argv) {
+    return {argv, argv + argc};
+}
+
+FILE *open_to_read(const std::string &utf8_path) {
+    return std::fopen(utf8_path.c_str(), "rb");
+}
+
+int open_to_write(const std::string &utf8_path) {
+    return ::open(utf8_path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+}
+
+bool is_terminal(int file) {
+    return ::isatty(file) != 0;
+}
+
+Terminal::Terminal() = default;
+Terminal::~Terminal() = default;
+
+long write_to_terminal(const char *octets, size_t size) {
+    return static_cast<long>(::write(1, octets, size));
+}
+
+#endif
+
+} // namespace kovra::tool
