@@ -61,6 +61,27 @@ struct Octets {
     }
 };
 
+// A call as it is being made: the handles among its arguments, in order, and what an argument says of the next.
+struct Call {
+    struct Chosen {
+        HandleKind kind; // that the function asks for
+        size_t index;
+    };
+    std::string_view name;
+    size_t arguments;
+    std::vector<Chosen> handles;
+    size_t last_length;
+    int64_t last_number;
+
+    [[nodiscard]] size_t first(HandleKind kind) const {
+        const auto found =
+            std::find_if(handles.begin(), handles.end(), [kind](const Chosen &one) { return one.kind == kind; });
+        return found != handles.end() ? found->index : Machine::none;
+    }
+};
+
+size_t owner_of_place(const Call &call);
+
 // The arguments. Each draws its octets when it is made, and is resolved to what is passed when all are drawn.
 
 template <class Type, class Previous, class Next> struct Argument;
@@ -70,13 +91,13 @@ requires is_handle<Type>
 struct Argument<Type, Previous, Next> {
     static constexpr HandleKind kind = HandleOf<Pointee<Type>>::kind;
     uint8_t choice;
-    size_t index = Machine::none;
     explicit Argument(Draw &input) : choice(input.octet()) {}
-    Type resolve(Machine &machine) {
-        index = machine.choose(kind, choice);
+    Type resolve(Machine &machine, Call &call) {
+        const size_t index = machine.choose(kind, choice);
+        call.handles.push_back({kind, index});
         return static_cast<Type>(machine.handle(index));
     }
-    void settle(Machine &, size_t) {}
+    void settle(Machine &, const Call &) {}
 };
 
 template <class Type, class Previous, class Next>
@@ -89,13 +110,13 @@ struct Argument<Type, Previous, Next> {
         constexpr uint8_t one_octet = 0xF0;
         number = is_length || first < one_octet ? first : input.number(sizeof(Type));
     }
-    Type resolve(Machine &machine) {
+    Type resolve([[maybe_unused]] Machine &machine, [[maybe_unused]] Call &call) {
         if constexpr (is_length) {
             // Mostly what it is; shorter; or nothing that is a length.
             if (first < 0xE0)
-                return static_cast<Type>(machine.last_length);
+                return static_cast<Type>(call.last_length);
             if (first < 0xF0)
-                return static_cast<Type>(machine.last_length / (first < 0xE8 ? 2 : 8));
+                return static_cast<Type>(call.last_length / (first < 0xE8 ? 2 : 8));
             return first < 0xF8 ? Type{0} : static_cast<Type>(first < 0xFF ? -1 : -2147483647 - 1);
         } else if constexpr (std::is_same_v<Type, double>) {
             double result = 0;
@@ -104,53 +125,55 @@ struct Argument<Type, Previous, Next> {
             return first < 0xF0 ? first - 2 : result;
         } else {
             // -1 and -2 are lengths, 1 and 2 modes.
-            return static_cast<Type>(std::is_same_v<Type, uint32_t> || first >= 0xF0 ? number : number - 2);
+            const auto value = static_cast<Type>(std::is_same_v<Type, uint32_t> || first >= 0xF0 ? number : number - 2);
+            call.last_number = static_cast<int64_t>(value);
+            return value;
         }
     }
-    void settle(Machine &, size_t) {}
+    void settle(Machine &, const Call &) {}
 };
 
 template <class Previous, class Next> struct Argument<const void *, Previous, Next> {
     // What has no length beside it is a UUID; a length of -1 means zero-terminated, so there is always a zero.
     Octets drawn;
     explicit Argument(Draw &input) : drawn(input) {}
-    const void *resolve(Machine &machine) {
+    const void *resolve([[maybe_unused]] Machine &machine, [[maybe_unused]] Call &call) {
         constexpr size_t uuid = 16;
-        machine.last_length = drawn.octets.size();
+        call.last_length = drawn.octets.size();
         if (!drawn.exists)
             return nullptr;
         return machine.keep(drawn.octets, names_length<const void *, Next>() ? drawn.octets.size() + 1 : uuid);
     }
-    void settle(Machine &, size_t) {}
+    void settle(Machine &, const Call &) {}
 };
 
 template <class Previous, class Next> struct Argument<const char *, Previous, Next> {
     Octets drawn;
     explicit Argument(Draw &input) : drawn(input) {}
-    const char *resolve(Machine &machine) {
-        machine.last_length = drawn.octets.size();
+    const char *resolve([[maybe_unused]] Machine &machine, [[maybe_unused]] Call &call) {
+        call.last_length = drawn.octets.size();
         if (!drawn.exists)
             return nullptr;
         return machine.keep(drawn.octets, drawn.octets.size() + (names_length<const char *, Next>() ? 0 : 1));
     }
-    void settle(Machine &, size_t) {}
+    void settle(Machine &, const Call &) {}
 };
 
 template <class Previous, class Next> struct Argument<const int32_t *, Previous, Next> {
     Octets drawn;
     explicit Argument(Draw &input) : drawn(input) {}
-    const int32_t *resolve(Machine &machine) {
+    const int32_t *resolve([[maybe_unused]] Machine &machine, [[maybe_unused]] Call &call) {
         // Positions of two octets each. The first is read even when their number is 0.
-        machine.last_length = drawn.octets.size() / 2;
+        call.last_length = drawn.octets.size() / 2;
         if (!drawn.exists)
             return nullptr;
-        auto *numbers = reinterpret_cast<int32_t *>(machine.keep({}, (machine.last_length + 1) * sizeof(int32_t)));
+        auto *numbers = reinterpret_cast<int32_t *>(machine.keep({}, (call.last_length + 1) * sizeof(int32_t)));
         Draw octets(reinterpret_cast<const uint8_t *>(drawn.octets.data()), drawn.octets.size());
-        for (size_t i = 0; i < machine.last_length; ++i)
+        for (size_t i = 0; i < call.last_length; ++i)
             numbers[i] = static_cast<int16_t>(octets.number(2));
         return numbers;
     }
-    void settle(Machine &, size_t) {}
+    void settle(Machine &, const Call &) {}
 };
 
 // Places that a function fills; without a size beside it there is room for anything.
@@ -158,13 +181,13 @@ template <class Previous, class Next> struct Argument<void *, Previous, Next> {
     static constexpr bool has_size = names_length<void *, Next>() || std::is_same_v<Next, int32_t *>;
     uint8_t size;
     explicit Argument(Draw &input) : size(input.octet()) {}
-    void *resolve(Machine &machine) {
-        machine.last_length = size;
+    void *resolve([[maybe_unused]] Machine &machine, [[maybe_unused]] Call &call) {
+        call.last_length = size;
         if (size == 0xFF)
             return nullptr;
         return has_size ? machine.keep({}, size) : Machine::large_buffer();
     }
-    void settle(Machine &, size_t) {}
+    void settle(Machine &, const Call &) {}
 };
 
 template <class Type, class Previous, class Next>
@@ -175,16 +198,16 @@ requires(std::is_pointer_v<Type> && !std::is_const_v<std::remove_pointer_t<Type>
     bool exists;
     Place *place = nullptr;
     explicit Argument(Draw &input) : exists(input.octet() != 0xFF) {}
-    Type resolve(Machine &machine) {
+    Type resolve([[maybe_unused]] Machine &machine, [[maybe_unused]] Call &call) {
         place = reinterpret_cast<Place *>(machine.keep({}, sizeof(Place)));
         if constexpr (std::is_same_v<Type, int32_t *> && std::is_same_v<Previous, void *>)
-            *place = static_cast<int32_t>(machine.last_length);
+            *place = static_cast<int32_t>(call.last_length);
         return exists ? place : nullptr;
     }
-    // A handle is new, or borrowed from `owner`; other memory is the caller's, unless it is constant.
-    void settle(Machine &machine, size_t owner) {
+    // Memory that is stored is the caller's, unless it is constant.
+    void settle([[maybe_unused]] Machine &machine, [[maybe_unused]] const Call &call) {
         if constexpr (is_handle<Place>)
-            machine.add(HandleOf<Pointee<Place>>::kind, *place, owner);
+            machine.add(HandleOf<Pointee<Place>>::kind, *place, owner_of_place(call));
         else if constexpr (std::is_same_v<Place, void *>)
             kovra_free(*place);
     }
@@ -194,138 +217,94 @@ constexpr bool has(std::string_view name, std::string_view part) {
     return name.find(part) != std::string_view::npos;
 }
 
-// The index of the first argument that is a handle of the kind; none when there is none.
-template <class Arguments> size_t first_handle(const Arguments &arguments, HandleKind kind) {
-    size_t found = Machine::none;
-    std::apply(
-        [&](const auto &...argument) {
-            const auto look = [&](const auto &one) {
-                if constexpr (requires { one.index; })
-                    if (found == Machine::none && one.kind == kind)
-                        found = one.index;
-            };
-            (look(argument), ...);
-        },
-        arguments);
-    return found;
-}
-
-template <size_t i, class Arguments> size_t index_at(const Arguments &arguments) {
-    if constexpr (i < std::tuple_size_v<Arguments>)
-        if constexpr (requires { std::get<i>(arguments).index; })
-            return std::get<i>(arguments).index;
+// A value that is got from a value, and a JSON value that is found in another or put into it, belong to that one.
+size_t owner_of_result(const Call &call, HandleKind kind) {
+    const bool is_got = call.arguments == 1 && !has(call.name, "_new") && !has(call.name, "_create");
+    if (kind == HandleKind::json || (kind == HandleKind::value && is_got))
+        return call.first(kind);
     return Machine::none;
 }
 
-// Functions that take over what they are given. Those with a flag do so when it is 0.
-template <class Arguments, class... P>
-void hand_over(Machine &machine, std::string_view name, const Arguments &arguments, const std::tuple<P...> &values) {
-    size_t given = Machine::none;
-    size_t owner = index_at<0>(arguments);
-    if constexpr (sizeof...(P) == 2) {
-        if (name == "kovra_asn1_list_put" || name == "kovra_json_addarrayitem")
-            given = index_at<1>(arguments);
-    } else if constexpr (std::is_same_v<std::tuple<P...>,
-                                        std::tuple<kovra_asn1_value *, kovra_asn1_value *, int32_t>>) {
-        if (name == "kovra_x500name_addrdn" && std::get<2>(values) == 0)
-            given = index_at<1>(arguments);
-    } else if constexpr (sizeof...(P) == 3) {
-        if (name == "kovra_json_addobjectitem")
-            given = index_at<2>(arguments);
-    } else if constexpr (sizeof...(P) == 8 && std::is_same_v<typename At<6, P...>::Type, int32_t>) {
-        if (name == "kovra_x509TBSCertList_new" && std::get<6>(values) == 0) {
-            given = index_at<5>(arguments);
-            owner = machine.newest();
-        }
-    }
-    if (given != Machine::none && owner != Machine::none)
-        machine.hand_over(given, owner);
+// So does an element of a list. What else is stored in a place is new.
+size_t owner_of_place(const Call &call) {
+    return call.name == "kovra_asn1_list_get" ? call.first(HandleKind::value) : Machine::none;
 }
 
-template <class T> void use_text(const T *text) {
-    if (text != nullptr && std::strlen(reinterpret_cast<const char *>(text)) == SIZE_MAX)
-        std::abort();
+// After a success: functions that take over what they are given. Those with a flag do so when it is 0.
+void hand_over(Machine &machine, const Call &call) {
+    const auto take = [&](size_t given, size_t owner) {
+        if (given != Machine::none && owner != Machine::none)
+            machine.hand_over(given, owner);
+    };
+    const auto handle = [&](size_t i) { return call.handles[i].index; };
+    if (call.name == "kovra_asn1_list_put" || call.name == "kovra_json_addarrayitem" ||
+        call.name == "kovra_json_addobjectitem" || (call.name == "kovra_x500name_addrdn" && call.last_number == 0))
+        take(handle(1), handle(0));
+    constexpr size_t revoked_certificates = 5;
+    if (call.name == "kovra_x509TBSCertList_new" && call.last_number == 0)
+        take(handle(revoked_certificates), machine.newest());
+}
+
+void use_text(const char *text) {
+    check(text == nullptr || std::strlen(text) < SIZE_MAX, "a text ends");
+}
+
+template <class R>
+void take([[maybe_unused]] Machine &machine, [[maybe_unused]] const Call &call, [[maybe_unused]] R result) {
+    if constexpr (is_handle<R>) {
+        constexpr HandleKind kind = HandleOf<Pointee<R>>::kind;
+        machine.add(kind, result, owner_of_result(call, kind));
+    } else if constexpr (std::is_same_v<R, char *> || std::is_same_v<R, void *>) {
+        kovra_free(result);
+    } else if constexpr (std::is_same_v<R, const char *>) {
+        use_text(result);
+    }
+}
+
+template <class R> bool is_success(R result) {
+    if constexpr (std::is_integral_v<R>)
+        return result == 1;
+    else
+        return result != R{};
 }
 
 template <class R, class... P> struct Caller {
+    using Function = R (*)(P...) noexcept;
     using Indices = std::index_sequence_for<P...>;
     template <size_t i>
     using ArgumentAt =
         Argument<typename At<i, P...>::Type, typename At<i - 1, P...>::Type, typename At<i + 1, P...>::Type>;
 
-    template <size_t... i> static auto draw(Draw &input, std::index_sequence<i...>) {
+    template <size_t... i> static auto draw([[maybe_unused]] Draw &input, std::index_sequence<i...>) {
         // Braces keep the order of the arguments.
         return std::tuple<ArgumentAt<i>...>{ArgumentAt<i>(input)...};
     }
 
     template <size_t... i>
-    static void call(R (*function)(P...) noexcept, std::string_view name, Machine &machine, Draw &input,
-                     std::index_sequence<i...> indices) {
+    static void run(Function function, std::string_view name, Machine &machine, Draw &input,
+                    std::index_sequence<i...> indices) {
         auto arguments = draw(input, indices);
-        const std::tuple<P...> values{std::get<i>(arguments).resolve(machine)...};
-        if (has(name, "_free")) {
-            release(function, machine, arguments, values);
-            return;
-        }
-        // Only what lists and JSON containers store is borrowed by a place.
-        const size_t owner = name == "kovra_asn1_list_get" ? first_handle(arguments, HandleKind::value) : Machine::none;
-        bool has_succeeded = true;
+        Call call{name, sizeof...(P), {}, 0, 0};
+        const std::tuple<P...> values{std::get<i>(arguments).resolve(machine, call)...};
+        const int64_t blocks = live_blocks();
         if constexpr (std::is_void_v<R>) {
             std::apply(function, values);
+            // Whether a handle was released shows in the memory: what is borrowed, or of another kind, is left alone.
+            if (has(name, "_free") && live_blocks() != blocks)
+                machine.remove_group(call.handles[0].index);
         } else {
             R result = std::apply(function, values);
-            if constexpr (std::is_integral_v<R>)
-                has_succeeded = result == 1;
-            else
-                has_succeeded = result != R{};
-            take(machine, name, arguments, result);
+            take(machine, call, result);
+            (std::get<i>(arguments).settle(machine, call), ...);
+            if (is_success(result))
+                hand_over(machine, call);
         }
-        (std::get<i>(arguments).settle(machine, owner), ...);
-        if (has_succeeded)
-            hand_over(machine, name, arguments, values);
-    }
-
-    // A getter of values has one argument; of JSON values, whatever is got from one or put into one is its.
-    template <class Arguments, class Result>
-    static void take(Machine &machine, std::string_view name, const Arguments &arguments, Result result) {
-        if constexpr (is_handle<Result>) {
-            constexpr HandleKind kind = HandleOf<Pointee<Result>>::kind;
-            size_t owner = Machine::none;
-            if (kind == HandleKind::json ||
-                (kind == HandleKind::value && sizeof...(P) == 1 && !has(name, "_new") && !has(name, "_create")))
-                owner = first_handle(arguments, kind);
-            machine.add(kind, result, owner);
-        } else if constexpr (std::is_same_v<Result, char *> || std::is_same_v<Result, void *>) {
-            kovra_free(result);
-        } else if constexpr (std::is_same_v<Result, const char *>) {
-            use_text(result);
-        }
-    }
-
-    // Whether a handle was released shows in the memory: what is borrowed, or of another kind, is left alone.
-    template <class Arguments>
-    static void release(R (*function)(P...) noexcept, Machine &machine, const Arguments &arguments,
-                        const std::tuple<P...> &values) {
-        const int64_t before = live_blocks();
-        std::apply(function, values);
-        if (live_blocks() == before)
-            return;
-        std::apply(
-            [&](const auto &...argument) {
-                const auto look = [&](const auto &one) {
-                    if constexpr (requires { one.index; })
-                        if (one.index != Machine::none)
-                            machine.remove_group(one.index);
-                };
-                (look(argument), ...);
-            },
-            arguments);
     }
 };
 
 template <class R, class... P> Caller<R, P...> caller_of(R (*)(P...) noexcept);
-template <class R, class... P> constexpr size_t handles_of(R (*)(P...) noexcept) {
-    return sizeof...(P) == 1 ? (is_handle<P> + ... + 0) : 0;
+template <class R, class... P> constexpr bool takes_one_handle(R (*)(P...) noexcept) {
+    return sizeof...(P) == 1 && (is_handle<P> || ...);
 }
 
 template <auto function> struct Name { static inline std::string_view name; };
@@ -333,9 +312,9 @@ template <auto function> struct Name { static inline std::string_view name; };
 template <auto function> Function row(std::string_view name) {
     using Calling = decltype(caller_of(function));
     Name<function>::name = name;
-    return {name, selector_of(name), handles_of(function) == 1,
+    return {name, selector_of(name), takes_one_handle(function),
             [](Machine &machine, Draw &input) {
-                Calling::call(function, Name<function>::name, machine, input, typename Calling::Indices());
+                Calling::run(function, Name<function>::name, machine, input, typename Calling::Indices());
             },
             [](Draw &input) { Calling::draw(input, typename Calling::Indices()); }};
 }

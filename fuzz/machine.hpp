@@ -58,9 +58,6 @@ public:
     // Room for whatever a function without a size writes.
     static void *large_buffer();
 
-    // The length of the octets that the last argument named; the next says it, or lies.
-    size_t last_length = 0;
-
 private:
     static constexpr size_t most_entries = 1024;
 

@@ -1,4 +1,5 @@
-// A target without a fuzzer: runs once over each file it is given, and over each file in each directory.
+// A target without a fuzzer: runs once over each file it is given, and over each file in each directory. A directory
+// that is not there is one in which nothing is kept yet.
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -26,12 +27,11 @@ void replay(const fs::path &path) {
 int main(int argc, char **argv) {
     LLVMFuzzerTestOneInput(nullptr, 0);
     for (int i = 1; i < argc; ++i) {
-        if (!fs::is_directory(argv[i])) {
+        if (fs::is_regular_file(argv[i]))
             replay(argv[i]);
-            continue;
-        }
-        for (const auto &entry : fs::recursive_directory_iterator(argv[i]))
-            if (entry.is_regular_file())
-                replay(entry.path());
+        else if (fs::exists(argv[i]))
+            for (const auto &entry : fs::recursive_directory_iterator(argv[i]))
+                if (entry.is_regular_file())
+                    replay(entry.path());
     }
 }

@@ -1,5 +1,5 @@
-// fuzz_seeds DIRECTORY: makes the inputs that fuzzing begins with, a directory for each target, from examples/ and the
-// tables of the tests.
+// fuzz_seeds DIRECTORY: makes the inputs that fuzzing begins with, a directory for each target, from examples/, from
+// the samples of every type that the harness has, and from a table of the tests.
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -8,7 +8,8 @@
 #include "fuzz/ber_tree.hpp"
 #include "fuzz/calls_table.hpp"
 #include "fuzz/fuzzing.hpp"
-#include "tests/pkix_testing.hpp"
+#include "tests/asn1_testing.hpp"
+#include "tests/harness/samples.hpp"
 
 namespace kovra::fuzz {
 
@@ -18,32 +19,18 @@ namespace fs = std::filesystem;
 
 std::vector<std::string> example_files() {
     std::vector<std::string> files;
-    for (const auto &entry : fs::directory_iterator(KOVRA_SOURCE_DIR "/examples"))
-        if (entry.path().extension() != ".c" && entry.path().extension() != ".md")
-            files.push_back(test::contents(entry.path()));
+    for (const auto &entry : fs::directory_iterator(KOVRA_SOURCE_DIR "/examples")) {
+        if (entry.path().extension() == ".c" || entry.path().extension() == ".md")
+            continue;
+        std::ifstream file(entry.path(), std::ios::binary);
+        files.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    }
     return files;
 }
 
-// Elements that stand in the tables of tests/data.
-std::vector<std::string> table_elements() {
-    std::vector<std::string> found;
-    for (const auto &entry : fs::directory_iterator(KOVRA_SOURCE_DIR "/tests/data")) {
-        const std::string name = entry.path().filename().string();
-        if (name.find("decodings") == name.npos && name != "structures.txt" && name != "messages.txt")
-            continue;
-        for (const auto &row : test::table(name)) {
-            if (row.size() < 2 || row[0].find_first_not_of("0123456789") != row[0].npos)
-                continue;
-            std::string text = row[1];
-            std::erase(text, '|');
-            found.push_back(test::noted(text));
-        }
-    }
-    return found;
-}
+constexpr size_t largest = 4096;
 
 void gather_elements(const Nodes &nodes, std::set<std::string> &out) {
-    constexpr size_t largest = 4096;
     for (const Node &node : nodes) {
         if (std::string octets = write_node(node); node.is_element() && octets.size() <= largest)
             out.insert(std::move(octets));
@@ -51,10 +38,13 @@ void gather_elements(const Nodes &nodes, std::set<std::string> &out) {
     }
 }
 
-// For each type a few elements that it accepts, from the smallest to the largest.
+// For each type its samples, and a few elements of the files that it accepts, from the smallest to the largest.
 std::map<uint32_t, std::vector<std::string>> elements_by_type(const std::set<std::string> &elements) {
     std::map<uint32_t, std::vector<std::string>> found;
     for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type) {
+        for (const test::Sample &sample : test::samples(type))
+            if (sample.octets.size() <= largest)
+                found[type].push_back(sample.octets);
         std::map<size_t, std::string> by_size;
         for (const std::string &octets : elements) {
             Value value(type, nullptr);
@@ -113,8 +103,7 @@ std::string json_of(const std::string &octets) {
 
 void make(const fs::path &all) {
     const std::vector<std::string> files = example_files();
-    const std::vector<std::string> rows = table_elements();
-    std::set<std::string> elements(rows.begin(), rows.end());
+    std::set<std::string> elements;
     for (const std::string &file : files)
         gather_elements(read_nodes(file), elements);
     const auto by_type = elements_by_type(elements);
@@ -135,7 +124,7 @@ void make(const fs::path &all) {
     for (const std::string &file : files) {
         coding.add(file);
         push.add(octet(file.size()) + octet(KOVRA_ASN1_TYPE_ANY) + file);
-        for (const uint8_t command : {0, 1, 2, 3})
+        for (size_t command = 0; command < 4; ++command)
             tool.add(octet(command) + octet(KOVRA_ASN1_TYPE_COUNT) + file);
     }
     for (const std::string &octets : elements) {
@@ -145,8 +134,6 @@ void make(const fs::path &all) {
         json.add(octet(0) + octets);
         json.add(octet(1) + description);
     }
-    for (const std::string &row : rows)
-        decode.add(octet(KOVRA_ASN1_TYPE_ANY) + row);
     for (const auto &row : test::table("times.txt"))
         text.add(row[1]);
     for (const char *sample :
