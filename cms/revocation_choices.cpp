@@ -41,7 +41,8 @@ static_assert(is_sound(alternatives));
 constexpr Structure other_revocation_info_format = structure(source, other_format::components);
 constexpr ChoiceShape revocation_info_choice = choice(source, revocation_choice::alternatives);
 // RevocationInfoChoices ::= SET OF RevocationInfoChoice
-constexpr ListShape revocation_info_choices = {KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICE, ListReading::inlined};
+constexpr ListShape revocation_info_choices = {KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICE, ListReading::inlined, nullptr,
+                                               source};
 
 } // namespace kovra::asn1
 

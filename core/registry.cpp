@@ -11,7 +11,7 @@ namespace kovra::asn1 {
 namespace {
 
 constexpr ListShape list_of_any = {KOVRA_ASN1_TYPE_ANY};
-constexpr ListShape list_of_any_1 = {KOVRA_ASN1_TYPE_ANY, ListReading::tagged, true};
+constexpr ListShape list_of_any_1 = {KOVRA_ASN1_TYPE_ANY, ListReading::tagged, "ASN1_List"};
 
 constexpr Form primitive = Form::primitive;
 constexpr Form constructed = Form::constructed;
