@@ -128,6 +128,7 @@ TEST(CmsStructures, AChoiceGivesItsNumberAndItsValueWhoeverAsks) {
             }
         }
         EXPECT_EQ(decode_content(row.type, expected, 0, size_of(expected)).codes, Codes({0x1026d}));
+        EXPECT_EQ(encode_content(row.type, made.get(), -2).codes, Codes({0x10001}));
     }
 }
 
