@@ -156,6 +156,11 @@ TEST(CmsStructures, IrregularOnes) {
         }
     }
 
+    // The two formats of others differ in their codes only.
+    Value other_certificate = decoded(127, "30 05 06 01 2A 05 00");
+    EXPECT_EQ(kovra_asn1_content_length(128, other_certificate.get()), 5);
+    EXPECT_EQ(encoding(Value(130, kovra_cmsrevinfochoice_newotherrevinfo(other_certificate.get()))), "A10506012A0500");
+
     // Any content is PKCS #7, only an OCTET STRING is CMS; lengths do not tell.
     Value any_content = decoded(133, "30 10 02 01 01 31 00 30 07 06 01 2A A0 02 30 00 31 00");
     EXPECT_EQ(kovra_asn1_length(134, any_content.get()), 18);
