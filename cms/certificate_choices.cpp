@@ -49,7 +49,7 @@ static_assert(is_sound(alternatives));
 constexpr Structure other_certificate_format = structure(source, other_format::components);
 constexpr ChoiceShape certificate_choices = choice(source, certificate_choice::alternatives);
 // CertificateSet ::= SET OF CertificateChoices
-constexpr ListShape certificate_set = {KOVRA_ASN1_TYPE_CERTIFICATE_CHOICES, ListReading::inlined};
+constexpr ListShape certificate_set = {KOVRA_ASN1_TYPE_CERTIFICATE_CHOICES, ListReading::inlined, nullptr, source};
 
 } // namespace kovra::asn1
 

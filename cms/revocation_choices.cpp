@@ -16,12 +16,9 @@ constexpr char source[] = "ASN1_CMS";
 // OtherRevocationInfoFormat ::= SEQUENCE {
 //     otherRevInfoFormat  OBJECT IDENTIFIER,
 //     otherRevInfo        ANY DEFINED BY otherRevInfoFormat }
+// It is an OtherCertificateFormat with other codes.
 namespace other_format {
 enum Slot : uint8_t { format, value };
-constexpr Component components[] = {
-    required("otherRevInfoFormat", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
-    required("otherRevInfo", KOVRA_ASN1_TYPE_ANY),
-};
 } // namespace other_format
 
 // RevocationInfoChoice ::= CHOICE {
@@ -38,10 +35,10 @@ static_assert(is_sound(alternatives));
 
 } // namespace
 
-constexpr Structure other_revocation_info_format = structure(source, other_format::components);
 constexpr ChoiceShape revocation_info_choice = choice(source, revocation_choice::alternatives);
 // RevocationInfoChoices ::= SET OF RevocationInfoChoice
-constexpr ListShape revocation_info_choices = {KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICE, ListReading::inlined};
+constexpr ListShape revocation_info_choices = {KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICE, ListReading::inlined, nullptr,
+                                               source};
 
 } // namespace kovra::asn1
 
@@ -69,13 +66,13 @@ kovra_asn1_value *kovra_cmsrevinfochoice_getotherrevinfo(const kovra_asn1_value 
 
 kovra_asn1_value *kovra_cmsotherrevinfoformat_new(const kovra_asn1_value *format,
                                                   const kovra_asn1_value *value) noexcept {
-    return construct(other_revocation_info_format, format, value);
+    return construct(other_certificate_format, format, value);
 }
 
 kovra_asn1_value *kovra_cmsotherrevinfoformat_getformat(const kovra_asn1_value *obj) noexcept {
-    return component(other_revocation_info_format, obj, other_format::format);
+    return component(other_certificate_format, obj, other_format::format);
 }
 
 kovra_asn1_value *kovra_cmsotherrevinfoformat_getotherrevinfo(const kovra_asn1_value *obj) noexcept {
-    return component(other_revocation_info_format, obj, other_format::value);
+    return component(other_certificate_format, obj, other_format::value);
 }

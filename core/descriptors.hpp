@@ -160,7 +160,6 @@ extern const Structure originator_info;
 extern const Structure other_certificate_format;
 extern const Structure other_key_attribute;
 extern const Structure other_recipient_info;
-extern const Structure other_revocation_info_format;
 extern const Structure password_recipient_info;
 extern const Structure pkcs7_signed_data;
 extern const Structure recipient_encrypted_key;

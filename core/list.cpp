@@ -30,6 +30,10 @@ const ListShape &shape_of(const Type &type) {
     return *static_cast<const ListShape *>(type.shape);
 }
 
+Site in(const ListShape &shape, int32_t line = __builtin_LINE()) {
+    return {shape.source, line};
+}
+
 // Slots for at least `wanted` elements, those of elements that are not built being null.
 bool make_slots(List &list, uint32_t wanted) {
     if (list.items != nullptr && wanted <= list.capacity)
@@ -232,11 +236,11 @@ enum class Next : uint8_t { element, end, fault };
 
 // Goes on where a collector is full, and its next element, at `place`, was read.
 template <class Read>
-Result collect_many(Decoder &decoder, const Type &element, const Collector &first, uint32_t place, Read read,
+Result collect_many(Decoder &decoder, const ListShape &shape, const Collector &first, uint32_t place, Read read,
                     Value *&out) {
     LongCollector collector(first);
     if (!collector.begin(first) || !collector.add(place))
-        return decoder.fail(here(), code::no_memory);
+        return decoder.fail(in(shape), code::no_memory);
     for (;;) {
         Value *value = nullptr;
         Result result = success;
@@ -247,16 +251,16 @@ Result collect_many(Decoder &decoder, const Type &element, const Collector &firs
         if (next == Next::end)
             break;
         if (!collector.add(place))
-            return decoder.fail(here(), code::no_memory);
+            return decoder.fail(in(shape), code::no_memory);
     }
-    out = collector.finish(element);
+    out = collector.finish(row(shape.element));
     return success;
 }
 
 // Reads what is left of the elements of a list, each by read(value, result), which tells what it met; `result` is that
 // of a fault.
 template <class Read>
-Result collect(Decoder &decoder, const Type &element, bool nonempty, Collector &collector, Read read, Value *&out) {
+Result collect(Decoder &decoder, const ListShape &shape, Collector &collector, Read read, Value *&out) {
     for (;;) {
         Value *value = nullptr;
         Result result = success;
@@ -267,18 +271,18 @@ Result collect(Decoder &decoder, const Type &element, bool nonempty, Collector &
         if (next == Next::end)
             break;
         if (collector.is_full())
-            return collect_many(decoder, element, collector, place, read, out);
+            return collect_many(decoder, shape, collector, place, read, out);
         collector.add(value, place);
     }
-    if (nonempty && collector.count() == 0)
-        return decoder.fail(here(), code::incorrect_size);
-    out = collector.finish(element);
-    return out != nullptr ? success : decoder.fail(here(), code::no_memory);
+    if (shape.nonempty != nullptr && collector.count() == 0)
+        return decoder.fail({shape.nonempty, __builtin_LINE()}, code::incorrect_size);
+    out = collector.finish(row(shape.element));
+    return out != nullptr ? success : decoder.fail(in(shape), code::no_memory);
 }
 
 // Reads one element of a list, unless the end-of-contents of an indefinite one stands in its place.
-Next read_element(Decoder &decoder, const Type &element, ListReading reading, bool is_indefinite, Result &result,
-                  Value *&out) {
+Next read_element(Decoder &decoder, const ListShape &shape, bool is_indefinite, Result &result, Value *&out) {
+    const Type &element = row(shape.element);
     const auto fault = [&](Result given) {
         result = given;
         return Next::fault;
@@ -286,40 +290,40 @@ Next read_element(Decoder &decoder, const Type &element, ListReading reading, bo
     const uint32_t start = decoder.position();
     Identifier identifier;
     int32_t length = 0;
-    if (reading == ListReading::whole && !is_indefinite) {
+    if (shape.reading == ListReading::whole && !is_indefinite) {
         const Result decoded = decode(decoder, element, out);
-        return decoded == success ? Next::element : fault(fail_decode(decoder, here(), element, decoded));
+        return decoded == success ? Next::element : fault(fail_decode(decoder, in(shape), element, decoded));
     }
-    if (const Result read = decode_identifier(decoder, here(), identifier); read != success)
+    if (const Result read = decode_identifier(decoder, in(shape), identifier); read != success)
         return fault(read);
     if (is_indefinite && identifier.is_end_of_contents()) {
-        const Result read = read_end_of_contents_length(decoder, here());
-        return read == success ? Next::end : fault(decoder.fail(here(), code::read_end_of_contents, read));
+        const Result read = decode_end_of_contents_length(decoder, in(shape));
+        return read == success ? Next::end : fault(read);
     }
-    if (reading == ListReading::whole) {
+    if (shape.reading == ListReading::whole) {
         decoder.rewind(start);
         const Result decoded = decode(decoder, element, out);
-        return decoded == success ? Next::element : fault(fail_decode(decoder, here(), element, decoded));
+        return decoded == success ? Next::element : fault(fail_decode(decoder, in(shape), element, decoded));
     }
     if (!begins(element, identifier))
-        return fault(decoder.fail(here(), code::incorrect_item));
-    if (const Result read = decode_length(decoder, here(), length); read != success)
+        return fault(decoder.fail(in(shape), code::incorrect_item));
+    if (const Result read = decode_length(decoder, in(shape), length); read != success)
         return fault(read);
     const Result decoded = decode_begun(decoder, element, identifier, {identifier.form, length, start}, out);
     if (decoded == success)
         return Next::element;
-    return fault(reading == ListReading::inlined ? decoded : fail_decode(decoder, here(), element, decoded));
+    return fault(shape.reading == ListReading::inlined ? decoded : fail_decode(decoder, in(shape), element, decoded));
 }
 
 Result decode_list(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     const ListShape &shape = shape_of(type);
     const Type &member = row(shape.element);
-    if (const Result result = enter(decoder, here()); result != success)
+    if (const Result result = enter(decoder, in(shape)); result != success)
         return result;
     if (element.form == Form::primitive)
-        return decoder.fail(here(), code::form_error);
+        return decoder.fail(in(shape), code::form_error);
     if (element.length < indefinite)
-        return decoder.fail(here(), code::bad_argument);
+        return decoder.fail(in(shape), code::bad_argument);
     const bool is_indefinite = element.length == indefinite;
     const uint32_t end = is_indefinite ? no_end : decoder.position() + static_cast<uint32_t>(element.length);
     // Elements that begin with nothing but their own identifier are entered at once, which goes for whole lists mostly.
@@ -335,9 +339,9 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
         const Result result =
             operations.decode_content(decoder, member, member.usual_element(length, start), collector.next(start));
         if (result != success)
-            return fail_decode(decoder, here(), member, result);
+            return fail_decode(decoder, in(shape), member, result);
         if (decoder.position() > end)
-            return decoder.fail(here(), code::incorrect_length);
+            return decoder.fail(in(shape), code::incorrect_length);
         collector.add();
     }
     const auto read = [&](Value *&value, Result &result) {
@@ -348,24 +352,23 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
         if (is_plain && decoder.enter(member.usual_identifier, length)) {
             result = operations.decode_content(decoder, member, member.usual_element(length, start), value);
             if (result != success) {
-                fail_decode(decoder, here(), member);
+                fail_decode(decoder, in(shape), member);
                 return Next::fault;
             }
-        } else if (const Next next = read_element(decoder, member, shape.reading, is_indefinite, result, value);
+        } else if (const Next next = read_element(decoder, shape, is_indefinite, result, value);
                    next != Next::element) {
             return next;
         }
         if (decoder.position() <= end)
             return Next::element;
-        result = decoder.fail(here(), code::incorrect_length);
+        result = decoder.fail(in(shape), code::incorrect_length);
         return Next::fault;
     };
-    return collect(decoder, member, shape.nonempty, collector, read, out);
+    return collect(decoder, shape, collector, read, out);
 }
 
 // Lists of open-type values have codes of their own for what goes wrong.
 Result decode_any_list(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
-    const Type &any = row(KOVRA_ASN1_TYPE_ANY);
     if (const Result result = enter(decoder, here()); result != success)
         return result;
     if (element.form == Form::primitive)
@@ -390,7 +393,7 @@ Result decode_any_list(Decoder &decoder, const Type &type, const Element &elemen
         value = new_any(decoder, extent);
         return value != nullptr ? Next::element : fault(code::no_memory);
     };
-    return collect(decoder, any, shape_of(type).nonempty, collector, read, out);
+    return collect(decoder, shape_of(type), collector, read, out);
 }
 
 int32_t list_content_length(const Type &type, Value *value, Measure measure) {

@@ -16,7 +16,10 @@ enum class ListReading : uint8_t {
 struct ListShape {
     uint8_t element;
     ListReading reading = ListReading::tagged;
-    bool nonempty = false; // SIZE (1..MAX)
+    // SIZE (1..MAX): the module that refuses an empty list; null: there is none.
+    const char *nonempty = nullptr;
+    // The module that entries of reading name.
+    const char *source = "ASN1_List";
 };
 
 // An empty list in the arena; null when memory is short.

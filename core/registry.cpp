@@ -11,7 +11,7 @@ namespace kovra::asn1 {
 namespace {
 
 constexpr ListShape list_of_any = {KOVRA_ASN1_TYPE_ANY};
-constexpr ListShape list_of_any_1 = {KOVRA_ASN1_TYPE_ANY, ListReading::tagged, true};
+constexpr ListShape list_of_any_1 = {KOVRA_ASN1_TYPE_ANY, ListReading::tagged, "ASN1_List"};
 
 constexpr Form primitive = Form::primitive;
 constexpr Form constructed = Form::constructed;
@@ -151,7 +151,7 @@ constexpr Type registry[type_count] = {
     {125, constructed, 17, 0x1033b, &list_operations, &signer_infos},
     {126, constructed, 17, 0x1033d, &list_operations, &digest_algorithms},
     {127, constructed, 16, 0x1033f, &structure_operations, &other_certificate_format},
-    {128, constructed, 16, 0x10341, &structure_operations, &other_revocation_info_format},
+    {128, constructed, 16, 0x10341, &structure_operations, &other_certificate_format},
     {129, either, 0, 0x10349, &choice_operations, &certificate_choices},
     {130, either, 0, 0x1034b, &choice_operations, &revocation_info_choice},
     {131, constructed, 17, 0x1034d, &list_operations, &certificate_set},

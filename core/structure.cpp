@@ -336,8 +336,7 @@ private:
         if (state_ == State::pending) {
             if (!is_indefinite() || !identifier_.is_end_of_contents())
                 return decoder_.fail(site, code::incorrect_item);
-            const Result result = read_end_of_contents_length(decoder_, site);
-            return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
+            return decode_end_of_contents_length(decoder_, site);
         }
         if (!is_indefinite())
             return decoder_.fail(site, code::incorrect_length);

@@ -92,7 +92,7 @@ constexpr Structure other_prime_info = structure(source, prime_info::components)
 constexpr Structure rsa_private_key =
     checked(structure(source, private_key::components), private_key::has_right_version, private_key::bad_version);
 // OtherPrimeInfos ::= SEQUENCE SIZE (1..MAX) OF OtherPrimeInfo
-constexpr ListShape other_prime_infos = {KOVRA_ASN1_TYPE_OTHER_PRIME_INFO, ListReading::tagged, true};
+constexpr ListShape other_prime_infos = {KOVRA_ASN1_TYPE_OTHER_PRIME_INFO, ListReading::tagged, source};
 
 } // namespace kovra::asn1
 

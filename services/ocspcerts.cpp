@@ -8,8 +8,10 @@ namespace kovra::asn1 {
 
 namespace {
 
+constexpr char source[] = "ASN1_OCSP";
+
 Site here(int32_t line = __builtin_LINE()) {
-    return {"ASN1_OCSP", line};
+    return {source, line};
 }
 
 int32_t content_length_of_list(const Type &type, Value *value, Measure measure) {
@@ -49,7 +51,7 @@ constexpr Operations operations = {
     .records_reserve = reserve_of_list,
 };
 
-constexpr ListShape shape = {KOVRA_ASN1_TYPE_CERTIFICATE};
+constexpr ListShape shape = {KOVRA_ASN1_TYPE_CERTIFICATE, ListReading::tagged, nullptr, source};
 constexpr uint8_t sequence_tag = 16;
 constexpr int32_t certificate_base = 0x10258;
 

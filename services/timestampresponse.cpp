@@ -39,7 +39,7 @@ constexpr Component components[] = {
 } // namespace
 
 // PKIFreeText ::= SEQUENCE SIZE (1..MAX) OF UTF8String
-constexpr ListShape pki_free_text = {KOVRA_ASN1_TYPE_UTF8_STRING, ListReading::tagged, true};
+constexpr ListShape pki_free_text = {KOVRA_ASN1_TYPE_UTF8_STRING, ListReading::tagged, source};
 constexpr Structure pki_status_info = structure(source, info::components);
 constexpr Structure time_stamp_resp = structure(source, response::components);
 

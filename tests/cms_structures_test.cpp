@@ -128,6 +128,7 @@ TEST(CmsStructures, AChoiceGivesItsNumberAndItsValueWhoeverAsks) {
             }
         }
         EXPECT_EQ(decode_content(row.type, expected, 0, size_of(expected)).codes, Codes({0x1026d}));
+        EXPECT_EQ(encode_content(row.type, made.get(), -2).codes, Codes({0x10001}));
     }
 }
 
@@ -154,6 +155,11 @@ TEST(CmsStructures, IrregularOnes) {
             EXPECT_TRUE(Value(162, kovra_cmsrecipientinfo_newpwri(build(layout, 0).value.get())));
         }
     }
+
+    // The two formats of others differ in their codes only.
+    Value other_certificate = decoded(127, "30 05 06 01 2A 05 00");
+    EXPECT_EQ(kovra_asn1_content_length(128, other_certificate.get()), 5);
+    EXPECT_EQ(encoding(Value(130, kovra_cmsrevinfochoice_newotherrevinfo(other_certificate.get()))), "A10506012A0500");
 
     // Any content is PKCS #7, only an OCTET STRING is CMS; lengths do not tell.
     Value any_content = decoded(133, "30 10 02 01 01 31 00 30 07 06 01 2A A0 02 30 00 31 00");

@@ -362,6 +362,10 @@ TEST(KeysFunctions, Choices) {
         EXPECT_EQ(row.number(made.get()), row.expected);
         EXPECT_EQ(hex(encode(row.kind->type, row.get(made.get())).octets), encoding(value));
         EXPECT_TRUE(row.get_other == nullptr || row.get_other(made.get()) == nullptr);
+        EXPECT_EQ(encode_content(row.type, made.get(), -2).codes, Codes({0x10001}));
+        if (row.type == 206) {
+            EXPECT_EQ(hex(encode_content(row.type, made.get(), -1).octets), encoding(value) + "0000");
+        }
         const int32_t none = row.type == 201 || row.type == 206 ? 0 : -1;
         for (const kovra_asn1_value *wrong : Arguments{nullptr, boolean.get()}) {
             EXPECT_EQ(row.make(wrong), nullptr);

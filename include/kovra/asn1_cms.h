@@ -151,7 +151,8 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_cmsrevinfochoice_getcrl(const kovra_asn1_
 KOVRA_ASN1_API kovra_asn1_value *kovra_cmsrevinfochoice_getotherrevinfo(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
 /* kovra_cmsotherrevinfoformat_new returns an OtherRevocationInfoFormat (type 128; RFC 5652, 10.2.1) of an OBJECT
- * IDENTIFIER and an ANY. */
+ * IDENTIFIER and an ANY. It is an OtherCertificateFormat (type 127) with codes of its own; either may be passed for the
+ * other. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_cmsotherrevinfoformat_new(const kovra_asn1_value *format,
                                                                  const kovra_asn1_value *value) KOVRA_NOTHROW;
 
