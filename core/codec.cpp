@@ -198,7 +198,8 @@ Value *record_of(const kovra_asn1_value *value) {
 using namespace kovra::asn1;
 
 void kovra_asn1_value_free(uint32_t type, kovra_asn1_value *value) noexcept {
-    if (type >= type_count || value == nullptr)
+    const bool has_record = type != KOVRA_ASN1_TYPE_END_OF_CONTENTS && type != KOVRA_ASN1_TYPE_NULL;
+    if (type >= type_count || !has_record || value == nullptr)
         return;
     auto *record = static_cast<Value *>(value);
     const bool is_value = record->kind >= Kind::boolean && record->kind <= Kind::record;

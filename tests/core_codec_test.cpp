@@ -122,7 +122,9 @@ TEST(Codec, ATypeAbove207IsUnsupported) {
         EXPECT_EQ(decode_content(type, octets("FF"), 1, 1).codes, Codes({0x1026b}));
         EXPECT_EQ(encode(type, boolean.get()).codes, Codes({0x1026b}));
         EXPECT_EQ(encode_content(type, boolean.get(), 1).codes, Codes({0x1026b}));
-        kovra_asn1_value_free(type, boolean.get()); // does nothing
+        for (uint32_t nothing : {type, 0u, 5u})
+            kovra_asn1_value_free(nothing, boolean.get()); // does nothing
+        EXPECT_EQ(encoding(boolean), "0101FF");
         EXPECT_EQ(kovra_asn1_mem_encode(type, boolean.get()), nullptr);
     }
     EXPECT_STREQ(kovra_asn1_version(), "KOVRA ASN.1 Library 1.2.12,Build on 2012");
