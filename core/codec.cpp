@@ -114,10 +114,12 @@ Value *convert_with(const Type &from, const Value *value, const Type &to, Stream
     Decoder decoder(encoder.data(), static_cast<uint32_t>(encoder.size()), ctx);
     decoder.place_streams(encoder.take_notes());
     Value *copy = nullptr;
-    if (decoder.decode_root(to, copy) != success || copy == nullptr) {
+    if (decoder.decode_root(to, copy) != success) {
         record(ctx, here(), to.base + 1);
         return nullptr;
     }
+    if (copy == nullptr) // of a type without a record
+        return nullptr;
     if (!all_found(copy->arena->stream_contents)) {
         Arena::destroy(copy->arena);
         return convert_with(from, value, to, Streams::copied, ctx);
@@ -133,10 +135,6 @@ Value *convert_with(const Type &from, const Value *value, const Type &to, Stream
 } // namespace
 
 Value *duplicate(const Type &type, const Value *value, kovra_err_ctx *ctx) {
-    if (value == nullptr) {
-        record(ctx, here(), code::null_argument);
-        return nullptr;
-    }
     return convert_with(type, value, type, Streams::copied, ctx);
 }
 
@@ -296,6 +294,10 @@ int32_t kovra_asn1_mem_decode(const void *data, int32_t length, uint32_t type, k
 }
 
 kovra_asn1_value *kovra_asn1_dupobject(uint32_t type, const kovra_asn1_value *value, kovra_err_ctx *ctx) noexcept {
+    if (value == nullptr) {
+        record(ctx, here(), code::null_argument);
+        return nullptr;
+    }
     if (unsupported(type, ctx)) {
         // The encoding records it, and so does the entry that is added to a failed encoding.
         kovra_asn1_encode_puterr(ctx, type, "ASN1", __LINE__);

@@ -284,7 +284,10 @@ TEST(Codec, DuplicatesAreEncodedAndDecoded) {
     EXPECT_FALSE(dup(string, {0x1026c, 0x10216}));
     Errors ctx(kovra_err_ctx_new());
     EXPECT_EQ(kovra_asn1_dupobject(208, string.get(), ctx.get()), nullptr);
-    EXPECT_EQ(Codes(ctx.get()), Codes({0x1026b, 0x1026b}));
+    EXPECT_EQ(kovra_asn1_dupobject(208, nullptr, ctx.get()), nullptr);
+    for (uint32_t without_record : {0u, 5u})
+        EXPECT_EQ(kovra_asn1_dupobject(without_record, string.get(), ctx.get()), nullptr);
+    EXPECT_EQ(Codes(ctx.get()), Codes({0x1026b, 0x1026b, 0x10002}));
     // A marker in a list can be written but not read, and an element that holds one too early leaves octets unread.
     Value list(24, kovra_asn1_list_new());
     ASSERT_EQ(kovra_asn1_list_put(list.get(), decoded(23, "00 00").release()), 1);

@@ -81,7 +81,7 @@ KOVRA_ASN1_API int32_t kovra_asn1_mem_decode(const void *data, int32_t length, u
 
 /* kovra_asn1_dupobject returns a deep copy, made by encoding and decoding, or null. Codes: 0x10002 for a null value;
  * the type's encode or decode code on top of the entries of a failure; 0x1027f when the decoder leaves octets unread.
- */
+ * Of types 0 and 5, which have no record, nothing is copied: null without an entry. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_dupobject(uint32_t type, const kovra_asn1_value *value,
                                                       kovra_err_ctx *ctx) KOVRA_NOTHROW;
 
