@@ -196,4 +196,8 @@ Result decode_long_length(Decoder &decoder, Site site, int32_t &out) {
     return result == success ? success : decoder.fail(site, code::read_length, result);
 }
 
+Result decode_end_of_contents_length(Decoder &decoder) {
+    return read_end_of_contents_length(decoder, here());
+}
+
 } // namespace kovra::asn1

@@ -290,6 +290,8 @@ template <class Source> Result read_end_of_contents_length(Source &source, Site 
 // The same on a decoder, with the entry that every caller adds on failure: it names the caller.
 Result decode_long_identifier(Decoder &decoder, Site site, Identifier &out);
 Result decode_long_length(Decoder &decoder, Site site, int32_t &out);
+// Without that entry.
+Result decode_end_of_contents_length(Decoder &decoder);
 
 // What nearly every element has, one octet of each, is read in place.
 inline Result decode_identifier(Decoder &decoder, Site site, Identifier &out) {

@@ -293,7 +293,7 @@ Next read_element(Decoder &decoder, const Type &element, ListReading reading, bo
     if (const Result read = decode_identifier(decoder, here(), identifier); read != success)
         return fault(read);
     if (is_indefinite && identifier.is_end_of_contents()) {
-        const Result read = read_end_of_contents_length(decoder, here());
+        const Result read = decode_end_of_contents_length(decoder);
         return read == success ? Next::end : fault(decoder.fail(here(), code::read_end_of_contents, read));
     }
     if (reading == ListReading::whole) {

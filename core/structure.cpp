@@ -336,7 +336,7 @@ private:
         if (state_ == State::pending) {
             if (!is_indefinite() || !identifier_.is_end_of_contents())
                 return decoder_.fail(site, code::incorrect_item);
-            const Result result = read_end_of_contents_length(decoder_, site);
+            const Result result = decode_end_of_contents_length(decoder_);
             return result == success ? success : decoder_.fail(site, code::read_end_of_contents, result);
         }
         if (!is_indefinite())
