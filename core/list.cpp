@@ -310,6 +310,8 @@ Next read_element(Decoder &decoder, const Type &element, ListReading reading, bo
     const Result decoded = decode_begun(decoder, element, identifier, {identifier.form, length, start}, out);
     if (decoded == success)
         return Next::element;
+    if (reading == ListReading::tagged)
+        return fault(fail_decode(decoder, here(), element));
     return fault(reading == ListReading::inlined ? decoded : fail_decode(decoder, here(), element, decoded));
 }
 
@@ -337,7 +339,7 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
         const Result result =
             operations.decode_content(decoder, member, member.usual_element(length, start), collector.next(start));
         if (result != success)
-            return fail_decode(decoder, here(), member, result);
+            return fail_decode(decoder, here(), member);
         if (decoder.position() > end)
             return decoder.fail(here(), code::incorrect_length);
         collector.add();
@@ -350,7 +352,7 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
         if (is_plain && decoder.enter(member.usual_identifier, length)) {
             result = operations.decode_content(decoder, member, member.usual_element(length, start), value);
             if (result != success) {
-                fail_decode(decoder, here(), member);
+                result = fail_decode(decoder, here(), member);
                 return Next::fault;
             }
         } else if (const Next next = read_element(decoder, member, shape.reading, is_indefinite, result, value);

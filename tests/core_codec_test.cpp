@@ -223,6 +223,9 @@ TEST(Codec, WhatAStreamReturnsIsPassedUp) {
         EXPECT_EQ(decoded.result, 42);
         EXPECT_EQ(decoded.codes, chains[stop]);
     }
+    // But for the content of an element of a list, which gives 0.
+    EXPECT_EQ(decode(188, Input(octets("30 03 0C 01 41"), Feed::trickle, 4, 42)).result, 0);
+    EXPECT_EQ(decode(188, Input(octets("30 03 0C 01 41"), Feed::trickle, 3, 42)).result, 42);
     // Writing: `room` octets are taken, then 42 is returned.
     for (int32_t room = 0; room < 4; ++room) {
         int32_t left = room;
