@@ -115,21 +115,21 @@ TEST(Any, IsNoObjectWhenItCannotBeWritten) {
 }
 
 TEST(Any, IsAskedForWithTheRightArguments) {
-    Value element = decoded(23, "80 01 05"), boolean(1, kovra_asn1_boolean_true());
+    const Value element = decoded(23, "80 01 05"), boolean(1, kovra_asn1_boolean_true()), none;
     Errors ctx(kovra_err_ctx_new());
     Codes expected;
     for (auto *get : {kovra_asn1_any_getobject, kovra_asn1_any_contenttoobject, kovra_asn1_any_toobject}) {
-        for (const Value *holder : {static_cast<const Value *>(nullptr), &boolean}) {
+        for (const Value *holder : {&none, &boolean}) {
             kovra_asn1_value *out = unwritten();
-            EXPECT_EQ(get(holder != nullptr ? holder->get() : nullptr, 2, &out, ctx.get()), 0);
+            EXPECT_EQ(get(holder->get(), 2, &out, ctx.get()), 0);
             EXPECT_EQ(out, nullptr);
         }
         EXPECT_EQ(get(element.get(), 2, nullptr, ctx.get()), 0);
         expected.insert(expected.end(), {0x10002, 0x10001, 0x10002});
     }
     char octet = 0;
-    for (kovra_asn1_value *holder : {static_cast<kovra_asn1_value *>(nullptr), boolean.get()})
-        EXPECT_EQ(kovra_asn1_any_getcontent(holder, 1, &octet, 1, nullptr, ctx.get()), 0);
+    for (const Value *holder : {&none, &boolean})
+        EXPECT_EQ(kovra_asn1_any_getcontent(holder->get(), 1, &octet, 1, nullptr, ctx.get()), 0);
     EXPECT_EQ(kovra_asn1_any_getcontent(element.get(), 1, nullptr, 1, nullptr, ctx.get()), 0);
     expected.insert(expected.end(), {0x10002, 0x10001, 0x10002});
     EXPECT_EQ(Codes(ctx.get()), expected);
