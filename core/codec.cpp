@@ -28,9 +28,9 @@ Result encode_generic(Encoder &encoder, const Type &type, Value *value, int32_t 
     return type.operations->encode_content(encoder, type, value, content);
 }
 
-// A value that the type has no use for is a bad argument.
+// A value that the type has no use for is a bad argument; no stream comes before it.
 Result refuse_value(Encoder &encoder, const Value *value) {
-    return encoder.fail(here(), value == nullptr ? code::null_argument : code::bad_argument);
+    return encoder.fail(here(), value == nullptr || !encoder.has_stream() ? code::null_argument : code::bad_argument);
 }
 
 } // namespace
@@ -170,6 +170,22 @@ Result decode_call(kovra_stream *stream, uint32_t type, kovra_asn1_value **out_v
     return result;
 }
 
+// Runs one encode call and gives the stream what it put.
+template <class Run> Result encode_call(kovra_stream *stream, int32_t *out_written, kovra_err_ctx *ctx, Run run) {
+    Encoder encoder(stream, ctx);
+    Result result = run(encoder);
+    if (result != success)
+        return result;
+    if (result = encoder.flush(); result != success) {
+        if (encoder.refuse_all(result))
+            run(encoder);
+        return result;
+    }
+    if (out_written != nullptr)
+        *out_written = static_cast<int32_t>(encoder.written());
+    return success;
+}
+
 bool unsupported(uint32_t type, kovra_err_ctx *ctx) {
     if (type < type_count)
         return false;
@@ -217,13 +233,8 @@ int32_t kovra_asn1_encode(kovra_stream *stream, uint32_t type, const kovra_asn1_
                           kovra_err_ctx *ctx) noexcept {
     if (unsupported(type, ctx))
         return failure;
-    Encoder encoder(stream, ctx);
-    Result result = encode(encoder, row(type), record_of(value));
-    if (result == success)
-        result = encoder.flush();
-    if (result == success && out_written != nullptr)
-        *out_written = static_cast<int32_t>(encoder.written());
-    return result;
+    return encode_call(stream, out_written, ctx,
+                       [&](Encoder &encoder) { return encode(encoder, row(type), record_of(value)); });
 }
 
 int32_t kovra_asn1_encode_content(kovra_stream *stream, uint32_t type, const kovra_asn1_value *value,
@@ -232,17 +243,13 @@ int32_t kovra_asn1_encode_content(kovra_stream *stream, uint32_t type, const kov
         return failure;
     const Type &row_of_type = row(type);
     Value *record = record_of(value);
-    Encoder encoder(stream, ctx);
-    if (record != nullptr && !row_of_type.operations->holds(row_of_type, *record))
-        return encoder.fail(here(), code::bad_argument);
-    if (record != nullptr)
-        content_length(row_of_type, record);
-    Result result = row_of_type.operations->encode_content(encoder, row_of_type, record, content_length_given);
-    if (result == success)
-        result = encoder.flush();
-    if (result == success && out_written != nullptr)
-        *out_written = static_cast<int32_t>(encoder.written());
-    return result;
+    return encode_call(stream, out_written, ctx, [&](Encoder &encoder) {
+        if (record != nullptr && !row_of_type.operations->holds(row_of_type, *record))
+            return refuse_value(encoder, record);
+        if (record != nullptr)
+            content_length(row_of_type, record);
+        return row_of_type.operations->encode_content(encoder, row_of_type, record, content_length_given);
+    });
 }
 
 int32_t kovra_asn1_decode(kovra_stream *stream, uint32_t type, kovra_asn1_value **out_value, int32_t *out_read,
