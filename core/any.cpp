@@ -191,6 +191,23 @@ Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE())
     return failure;
 }
 
+// What is wrong with the handle of an element; the place for what is asked of it may be missing, too.
+int32_t fault_of(const kovra_asn1_value *any, const void *place) {
+    return any == nullptr || place == nullptr ? code::null_argument : code::bad_argument;
+}
+
+// The element that an object is to be made of; null, with an entry, when it or the place for the object is missing.
+Any *holder_of(kovra_asn1_value *any, kovra_asn1_value **out_value, kovra_err_ctx *ctx,
+               int32_t line = __builtin_LINE()) {
+    auto *element = as<Any>(any);
+    if (out_value != nullptr)
+        *out_value = nullptr;
+    if (element != nullptr && out_value != nullptr)
+        return element;
+    refuse(ctx, fault_of(any, out_value), line);
+    return nullptr;
+}
+
 } // namespace
 
 constexpr Operations any_operations = {
@@ -258,33 +275,36 @@ int32_t kovra_asn1_any_getcontent(kovra_asn1_value *any, int32_t mode, void *buf
     if (out_count != nullptr)
         *out_count = 0;
     if (element == nullptr || buffer == nullptr)
-        return refuse(ctx, code::null_argument);
+        return refuse(ctx, fault_of(any, buffer));
     return read_piece(element->content, *element->arena, here(), mode, buffer, size, out_count, ctx);
 }
 
 int32_t kovra_asn1_any_getobject(kovra_asn1_value *any, uint32_t type, kovra_asn1_value **out_value,
                                  kovra_err_ctx *ctx) noexcept {
-    auto *element = as<Any>(any);
-    if (element == nullptr || out_value == nullptr)
-        return refuse(ctx, code::null_argument);
+    Any *element = holder_of(any, out_value, ctx);
+    if (element == nullptr)
+        return failure;
+    if (element->end_of_contents) // which has no content to go back in
+        return refuse(ctx, code::stream_control);
     return decode_from(element->content, *element->arena, here(), type, nullptr, out_value, ctx);
 }
 
 int32_t kovra_asn1_any_contenttoobject(kovra_asn1_value *any, uint32_t type, kovra_asn1_value **out_value,
                                        kovra_err_ctx *ctx) noexcept {
-    auto *element = as<Any>(any);
-    if (element == nullptr || out_value == nullptr)
-        return refuse(ctx, code::null_argument);
+    Any *element = holder_of(any, out_value, ctx);
+    if (element == nullptr)
+        return failure;
+    if (element->end_of_contents) // which has no content to go back in
+        return refuse(ctx, code::stream_control);
     const Element content{element->form, element->length};
     return decode_from(element->content, *element->arena, here(), type, &content, out_value, ctx);
 }
 
 int32_t kovra_asn1_any_toobject(kovra_asn1_value *any, uint32_t type, kovra_asn1_value **out_value,
                                 kovra_err_ctx *ctx) noexcept {
-    auto *element = as<Any>(any);
-    if (element == nullptr || out_value == nullptr)
-        return refuse(ctx, code::null_argument);
-    *out_value = nullptr;
+    Any *element = holder_of(any, out_value, ctx);
+    if (element == nullptr)
+        return failure;
     Encoder encoder(ctx);
     Content whole{};
     if (is_one_piece(*element) && !element->end_of_contents &&

@@ -28,9 +28,9 @@ Result encode_generic(Encoder &encoder, const Type &type, Value *value, int32_t 
     return type.operations->encode_content(encoder, type, value, content);
 }
 
-// A value that the type has no use for is a bad argument.
+// A value that the type has no use for is a bad argument; no stream comes before it.
 Result refuse_value(Encoder &encoder, const Value *value) {
-    return encoder.fail(here(), value == nullptr ? code::null_argument : code::bad_argument);
+    return encoder.fail(here(), value == nullptr || !encoder.has_stream() ? code::null_argument : code::bad_argument);
 }
 
 } // namespace
@@ -114,10 +114,12 @@ Value *convert_with(const Type &from, const Value *value, const Type &to, Stream
     Decoder decoder(encoder.data(), static_cast<uint32_t>(encoder.size()), ctx);
     decoder.place_streams(encoder.take_notes());
     Value *copy = nullptr;
-    if (decoder.decode_root(to, copy) != success || copy == nullptr) {
+    if (decoder.decode_root(to, copy) != success) {
         record(ctx, here(), to.base + 1);
         return nullptr;
     }
+    if (copy == nullptr) // of a type without a record
+        return nullptr;
     if (!all_found(copy->arena->stream_contents)) {
         Arena::destroy(copy->arena);
         return convert_with(from, value, to, Streams::copied, ctx);
@@ -133,10 +135,6 @@ Value *convert_with(const Type &from, const Value *value, const Type &to, Stream
 } // namespace
 
 Value *duplicate(const Type &type, const Value *value, kovra_err_ctx *ctx) {
-    if (value == nullptr) {
-        record(ctx, here(), code::null_argument);
-        return nullptr;
-    }
     return convert_with(type, value, type, Streams::copied, ctx);
 }
 
@@ -172,6 +170,22 @@ Result decode_call(kovra_stream *stream, uint32_t type, kovra_asn1_value **out_v
     return result;
 }
 
+// Runs one encode call and gives the stream what it put.
+template <class Run> Result encode_call(kovra_stream *stream, int32_t *out_written, kovra_err_ctx *ctx, Run run) {
+    Encoder encoder(stream, ctx);
+    Result result = run(encoder);
+    if (result != success)
+        return result;
+    if (result = encoder.flush(); result != success) {
+        if (encoder.refuse_all(result))
+            run(encoder);
+        return result;
+    }
+    if (out_written != nullptr)
+        *out_written = static_cast<int32_t>(encoder.written());
+    return success;
+}
+
 bool unsupported(uint32_t type, kovra_err_ctx *ctx) {
     if (type < type_count)
         return false;
@@ -198,7 +212,8 @@ Value *record_of(const kovra_asn1_value *value) {
 using namespace kovra::asn1;
 
 void kovra_asn1_value_free(uint32_t type, kovra_asn1_value *value) noexcept {
-    if (type >= type_count || value == nullptr)
+    const bool has_record = type != KOVRA_ASN1_TYPE_END_OF_CONTENTS && type != KOVRA_ASN1_TYPE_NULL;
+    if (type >= type_count || !has_record || value == nullptr)
         return;
     auto *record = static_cast<Value *>(value);
     const bool is_value = record->kind >= Kind::boolean && record->kind <= Kind::record;
@@ -218,13 +233,8 @@ int32_t kovra_asn1_encode(kovra_stream *stream, uint32_t type, const kovra_asn1_
                           kovra_err_ctx *ctx) noexcept {
     if (unsupported(type, ctx))
         return failure;
-    Encoder encoder(stream, ctx);
-    Result result = encode(encoder, row(type), record_of(value));
-    if (result == success)
-        result = encoder.flush();
-    if (result == success && out_written != nullptr)
-        *out_written = static_cast<int32_t>(encoder.written());
-    return result;
+    return encode_call(stream, out_written, ctx,
+                       [&](Encoder &encoder) { return encode(encoder, row(type), record_of(value)); });
 }
 
 int32_t kovra_asn1_encode_content(kovra_stream *stream, uint32_t type, const kovra_asn1_value *value,
@@ -233,17 +243,13 @@ int32_t kovra_asn1_encode_content(kovra_stream *stream, uint32_t type, const kov
         return failure;
     const Type &row_of_type = row(type);
     Value *record = record_of(value);
-    Encoder encoder(stream, ctx);
-    if (record != nullptr && !row_of_type.operations->holds(row_of_type, *record))
-        return encoder.fail(here(), code::bad_argument);
-    if (record != nullptr)
-        content_length(row_of_type, record);
-    Result result = row_of_type.operations->encode_content(encoder, row_of_type, record, content_length_given);
-    if (result == success)
-        result = encoder.flush();
-    if (result == success && out_written != nullptr)
-        *out_written = static_cast<int32_t>(encoder.written());
-    return result;
+    return encode_call(stream, out_written, ctx, [&](Encoder &encoder) {
+        if (record != nullptr && !row_of_type.operations->holds(row_of_type, *record))
+            return refuse_value(encoder, record);
+        if (record != nullptr)
+            content_length(row_of_type, record);
+        return row_of_type.operations->encode_content(encoder, row_of_type, record, content_length_given);
+    });
 }
 
 int32_t kovra_asn1_decode(kovra_stream *stream, uint32_t type, kovra_asn1_value **out_value, int32_t *out_read,
@@ -295,6 +301,10 @@ int32_t kovra_asn1_mem_decode(const void *data, int32_t length, uint32_t type, k
 }
 
 kovra_asn1_value *kovra_asn1_dupobject(uint32_t type, const kovra_asn1_value *value, kovra_err_ctx *ctx) noexcept {
+    if (value == nullptr) {
+        record(ctx, here(), code::null_argument);
+        return nullptr;
+    }
     if (unsupported(type, ctx)) {
         // The encoding records it, and so does the entry that is added to a failed encoding.
         kovra_asn1_encode_puterr(ctx, type, "ASN1", __LINE__);

@@ -75,7 +75,7 @@ Result decode_from(Content &content, const Arena &arena, Site site, uint32_t num
     *out_value = nullptr;
     if (number >= type_count) {
         // Once for the decoding, once as the entry that is added to a failed one.
-        record(ctx, site, code::unsupported_type);
+        record(ctx, {"ASN1", __LINE__}, code::unsupported_type);
         record(ctx, site, code::unsupported_type);
         return failure;
     }

@@ -47,6 +47,8 @@ Result Encoder::reserve(Site site, size_t count) {
 }
 
 Result Encoder::expect(Site site, size_t count) {
+    if (refusal_ != success)
+        return success;
     return reserve(site, stream_ != nullptr && held_ == 0 ? std::min(count, piece) : count);
 }
 
@@ -61,6 +63,8 @@ Result Encoder::note(Site site, kovra_stream *content) {
 }
 
 Result Encoder::put_more(Site site, const void *octets, size_t count) {
+    if (refusal_ != success)
+        return refusal_;
     if (stream_ != nullptr && held_ == 0 && size_ + count > piece) {
         if (const Result result = flush(); result != success)
             return result;
@@ -94,6 +98,15 @@ Result Encoder::flush() {
     return success;
 }
 
+bool Encoder::refuse_all(Result result) {
+    if (flushed_ != 0)
+        return false;
+    refusal_ = result;
+    // Without room, every octet that is put comes to `put_more`.
+    size_ = capacity_ = 0;
+    return true;
+}
+
 Result Encoder::identifier(Site site, Class tag_class, Form form, int32_t tag) {
     if (no_stream_)
         return fail(site, code::null_argument);
@@ -119,6 +132,8 @@ Result Encoder::end_of_contents(Site site) {
 
 Result Encoder::copy(Site site, kovra_stream *source, int64_t &out_count) {
     out_count = 0;
+    if (refusal_ != success)
+        return refusal_;
     if (stream_ != nullptr && held_ == 0) {
         Result result = flush();
         if (result == success)

@@ -70,6 +70,9 @@ public:
 
     // Gives everything to the stream.
     Result flush();
+    // For an encoding that begins anew because the stream took nothing of what was gathered: its first octets are now
+    // refused with the stream's result, which leaves the entries of where they are. False when some were taken.
+    bool refuse_all(Result result);
     [[nodiscard]] const uint8_t *data() const { return data_; }
     [[nodiscard]] size_t size() const { return size_; }
 
@@ -82,6 +85,7 @@ private:
     int64_t flushed_ = 0;
     uint32_t held_ = 0;
     StreamContent *notes_ = nullptr;
+    Result refusal_ = success; // of a stream that is known to take nothing
     bool no_stream_ = false;
     bool leaves_streams_ = false;
     uint8_t inline_[512];

@@ -68,15 +68,17 @@ bool make_slots(List &list, uint32_t wanted) {
 }
 
 // Calls visit(element) with each element, in order, until one call gives something else than success. An element that
-// is not built is built for the call only.
-template <class Visit> Result for_each(List &list, Visit visit) {
+// is not built is built for the call only, which fails when memory is short.
+template <class Visit> Result for_each(List &list, kovra_err_ctx *ctx, Visit visit) {
     for (uint32_t i = 0; i < list.count; ++i) {
         Value *element = list.items != nullptr ? list.items[i] : nullptr;
         if (element == nullptr) {
             Decoder decoder(*list.arena, list.places[i]);
             Decoder::Scratch scratch(decoder);
-            if (!scratch.begin(false) || decode(decoder, *list.element, element) != success)
+            if (!scratch.begin(false) || decode(decoder, *list.element, element) != success) {
+                record(ctx, here(), code::no_memory);
                 return failure;
+            }
             if (const Result result = visit(element); result != success)
                 return result;
             continue;
@@ -92,7 +94,7 @@ int32_t measure_list(List *list, const Type &element) {
         return unknown;
     int64_t total = 0;
     list->measured = unknown;
-    const Result result = for_each(*list, [&](Value *value) {
+    const Result result = for_each(*list, nullptr, [&](Value *value) {
         const int32_t length = whole_length(element, value);
         total = length < 0 ? length : total + length;
         return length < 0 || total > max_length ? failure : success;
@@ -108,7 +110,7 @@ Result encode_elements(Encoder &encoder, const Type &element, List *list, int32_
         return encoder.fail(here(), code::null_argument);
     if (length < indefinite)
         return encoder.fail(here(), code::bad_argument);
-    const Result result = for_each(*list, [&](Value *value) {
+    const Result result = for_each(*list, encoder.ctx(), [&](Value *value) {
         // What was measured holds only as long as all of the list could be measured, and only for elements that stay.
         const bool is_measured = length >= 0 && list->measured >= 0 && list->places == nullptr;
         const Result put = encode(encoder, element, value, is_measured ? Measure::known : Measure::fresh);
@@ -312,6 +314,8 @@ Next read_element(Decoder &decoder, const ListShape &shape, bool is_indefinite, 
     const Result decoded = decode_begun(decoder, element, identifier, {identifier.form, length, start}, out);
     if (decoded == success)
         return Next::element;
+    if (shape.reading == ListReading::tagged)
+        return fault(fail_decode(decoder, in(shape), element));
     return fault(shape.reading == ListReading::inlined ? decoded : fail_decode(decoder, in(shape), element, decoded));
 }
 
@@ -339,7 +343,7 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
         const Result result =
             operations.decode_content(decoder, member, member.usual_element(length, start), collector.next(start));
         if (result != success)
-            return fail_decode(decoder, in(shape), member, result);
+            return fail_decode(decoder, in(shape), member);
         if (decoder.position() > end)
             return decoder.fail(in(shape), code::incorrect_length);
         collector.add();
@@ -352,7 +356,7 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
         if (is_plain && decoder.enter(member.usual_identifier, length)) {
             result = operations.decode_content(decoder, member, member.usual_element(length, start), value);
             if (result != success) {
-                fail_decode(decoder, in(shape), member);
+                result = fail_decode(decoder, in(shape), member);
                 return Next::fault;
             }
         } else if (const Next next = read_element(decoder, shape, is_indefinite, result, value);

@@ -7,7 +7,7 @@ namespace kovra::asn1 {
 
 // How a list finds its elements.
 enum class ListReading : uint8_t {
-    tagged,     // each begins with the element type's own universal identifier
+    tagged,     // each begins with the element type's own universal identifier; where one fails, the result is 0
     whole,      // each is decoded whole: its type tells alternatives apart by itself
     dispatched, // each identifier is looked at first, and one that begins no alternative is an incorrect item
     inlined,    // the same, but a failed element leaves the entries of its alternative only

@@ -95,10 +95,13 @@ TEST(Any, EndOfContentsIsAnElementOfItsOwn) {
     EXPECT_EQ(encode_content(23, marker.get(), 0).result, 1);
     EXPECT_EQ(kovra_asn1_any_isprimitive(marker.get(), nullptr), 0);
     EXPECT_EQ(kovra_asn1_any_gettagnumber(marker.get(), nullptr), 0);
-    kovra_asn1_value *out = nullptr;
-    EXPECT_EQ(kovra_asn1_any_getobject(marker.get(), 2, &out, nullptr), 0);
-    EXPECT_EQ(kovra_asn1_any_contenttoobject(marker.get(), 2, &out, nullptr), 0);
-    EXPECT_EQ(out, nullptr);
+    for (auto *get : {kovra_asn1_any_getobject, kovra_asn1_any_contenttoobject}) {
+        Errors ctx(kovra_err_ctx_new());
+        kovra_asn1_value *out = unwritten();
+        EXPECT_EQ(get(marker.get(), 5, &out, ctx.get()), 0);
+        EXPECT_EQ(Codes(ctx.get()), Codes({0x10109}));
+        EXPECT_EQ(out, nullptr);
+    }
 }
 
 TEST(Any, IsNoObjectWhenItCannotBeWritten) {
@@ -109,6 +112,27 @@ TEST(Any, IsNoObjectWhenItCannotBeWritten) {
     kovra_err_ctx_clear(ctx.get());
     EXPECT_EQ(kovra_asn1_any_toobject(any(0, 0, 16, -1, "05 00 00 00 00 00").get(), 24, &out, ctx.get()), 0);
     EXPECT_EQ(Codes(ctx.get()), Codes({0x1027f}));
+}
+
+TEST(Any, IsAskedForWithTheRightArguments) {
+    const Value element = decoded(23, "80 01 05"), boolean(1, kovra_asn1_boolean_true()), none;
+    Errors ctx(kovra_err_ctx_new());
+    Codes expected;
+    for (auto *get : {kovra_asn1_any_getobject, kovra_asn1_any_contenttoobject, kovra_asn1_any_toobject}) {
+        for (const Value *holder : {&none, &boolean}) {
+            kovra_asn1_value *out = unwritten();
+            EXPECT_EQ(get(holder->get(), 2, &out, ctx.get()), 0);
+            EXPECT_EQ(out, nullptr);
+        }
+        EXPECT_EQ(get(element.get(), 2, nullptr, ctx.get()), 0);
+        expected.insert(expected.end(), {0x10002, 0x10001, 0x10002});
+    }
+    char octet = 0;
+    for (const Value *holder : {&none, &boolean})
+        EXPECT_EQ(kovra_asn1_any_getcontent(holder->get(), 1, &octet, 1, nullptr, ctx.get()), 0);
+    EXPECT_EQ(kovra_asn1_any_getcontent(element.get(), 1, nullptr, 1, nullptr, ctx.get()), 0);
+    expected.insert(expected.end(), {0x10002, 0x10001, 0x10002});
+    EXPECT_EQ(Codes(ctx.get()), expected);
 }
 
 TEST(Any, OfValues) {

@@ -12,6 +12,8 @@ TEST(Memory, EveryAllocationOfConstructorsAndAccessorsMayFail) {
     Value integer = decoded(2, "02 09 01 02 03 04 05 06 07 08 09"), bits = decoded(3, "03 02 04 F0");
     Value string = decoded(4, "24 80 04 03 02 01 05 00 00"), time = decoded(22, "18 0B 32303132313132303038 5A");
     Value under_tag = decoded(23, "A0 03 02 01 05"), list = decoded(24, "30 04 05 00 05 00");
+    Value long_list = decode(24, octets("30 50") + repeated(octets("05 00"), 40)).value;
+    Errors errors(kovra_err_ctx_new());
     BigInteger number(kovra_asn1_integer_getbigintger(integer.get()));
     BitSet set(kovra_asn1_bitstring_getbitset(bits.get()));
     std::unique_ptr<kovra_time, Releaser<kovra_time_free>> moment(kovra_asn1_time_getutctime(time.get()));
@@ -62,6 +64,13 @@ TEST(Memory, EveryAllocationOfConstructorsAndAccessorsMayFail) {
         [&] {
             kovra_asn1_value *element = nullptr;
             return kovra_asn1_list_get(list.get(), 1, &element) == 1 && element != nullptr;
+        },
+        [&] {
+            Stream out(kovra_stream_new_mem(0, nullptr));
+            kovra_err_ctx_clear(errors.get());
+            const bool is_done = out && kovra_asn1_encode(out.get(), 24, long_list.get(), nullptr, errors.get()) == 1;
+            EXPECT_TRUE(is_done || !out || kovra_err_ctx_getcount(errors.get()) > 0) << "a failure without an entry";
+            return is_done;
         },
         [&] {
             Stream out(kovra_stream_new_mem(0, nullptr));

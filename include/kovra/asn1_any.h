@@ -50,8 +50,9 @@ KOVRA_ASN1_API int32_t kovra_asn1_any_getcontent(kovra_asn1_value *any, int32_t 
                                                  int32_t *out_count, kovra_err_ctx *ctx) KOVRA_NOTHROW;
 
 /* kovra_asn1_any_getobject reads the content as one whole encoding of the type, as an explicit tag holds one (X.690
- * clause 8.14), and stores the new value. Codes: 0x10002 for a null argument; 0x10109; the type's decode code on top
- * of those of the decoding; 0x1027f when octets are left, which the final 00 00 of an indefinite element always are. */
+ * clause 8.14), and stores the new value. Codes: 0x10002 for a null argument; 0x10109 when the content cannot be
+ * rewound, as that of an end-of-contents marker; the type's decode code on top of those of the decoding; 0x1027f when
+ * octets are left, which the final 00 00 of an indefinite element always are. */
 KOVRA_ASN1_API int32_t kovra_asn1_any_getobject(kovra_asn1_value *any, uint32_t type, kovra_asn1_value **out_value,
                                                 kovra_err_ctx *ctx) KOVRA_NOTHROW;
 

@@ -27,8 +27,9 @@ KOVRA_ASN1_API int32_t kovra_asn1_length(uint32_t type, const kovra_asn1_value *
  * 0x1026b for a type above 207; 0x10002 for a null stream, then for a null value (types 0 and 5 need none); 0x1020b
  * when the content length cannot be computed; 0x102e4 and 0x102e6 on top of the entry of the identifier octets and of
  * the length octets; then those of the content, with nothing on top. (The types of asn1_octetstring.h,
- * asn1_bitstring.h, asn1_time.h and asn1_any.h state their own.) After a failure the stream may hold a part of the
- * encoding. */
+ * asn1_bitstring.h, asn1_time.h and asn1_any.h state their own.) Octets are gathered before the stream gets them: one
+ * that refuses them leaves its own entry and those of the first octet it was given, the identifier mostly. After a
+ * failure the stream may hold a part of the encoding. */
 KOVRA_ASN1_API int32_t kovra_asn1_encode(kovra_stream *stream, uint32_t type, const kovra_asn1_value *value,
                                          int32_t *out_written, kovra_err_ctx *ctx) KOVRA_NOTHROW;
 
@@ -81,7 +82,7 @@ KOVRA_ASN1_API int32_t kovra_asn1_mem_decode(const void *data, int32_t length, u
 
 /* kovra_asn1_dupobject returns a deep copy, made by encoding and decoding, or null. Codes: 0x10002 for a null value;
  * the type's encode or decode code on top of the entries of a failure; 0x1027f when the decoder leaves octets unread.
- */
+ * Of types 0 and 5, which have no record, nothing is copied: null without an entry. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_dupobject(uint32_t type, const kovra_asn1_value *value,
                                                       kovra_err_ctx *ctx) KOVRA_NOTHROW;
 

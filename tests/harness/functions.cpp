@@ -179,7 +179,7 @@ int64_t call_with(const Function &function, const std::vector<const Kept *> &arg
             std::find(call.values.begin(), call.values.end(), made) == call.values.end())
             ours.push_back(made);
     for (const Handle value : ours)
-        kovra_asn1_value_free(0, value);
+        kovra_asn1_value_free(KOVRA_ASN1_TYPE_ANY, value);
     return found;
 }
 
@@ -207,7 +207,7 @@ void read_everything(kovra_asn1_value *value) {
                     found.emplace(kind, &function);
         return found;
     }();
-    const Kept kept = {0, "", Value(0, value)};
+    const Kept kept = {0, "", Value(KOVRA_ASN1_TYPE_ANY, value)};
     const auto [begin, end] = readers.equal_range(identity(value));
     for (auto at = begin; at != end; ++at)
         call_with(*at->second, {&kept});
