@@ -13,6 +13,7 @@ namespace kovra::asn1 {
 
 struct ChoiceShape;
 struct Structure;
+struct TimeFields;
 struct Type;
 
 // Words that no other handle begins with.
@@ -89,7 +90,8 @@ struct ObjectIdentifier : Value {
 struct Time : Value {
     static constexpr Kind own_kind = Kind::time;
     Octets text;
-    uint8_t tag; // 23 UTCTime, 24 GeneralizedTime
+    const TimeFields *built; // what a constructor was given; null when the text was read
+    uint8_t tag;             // 23 UTCTime, 24 GeneralizedTime
 };
 
 // The open type: one complete element, or an end-of-contents marker.

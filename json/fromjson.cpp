@@ -134,7 +134,7 @@ private:
                 return false;
             if (is_raw)
                 return true;
-            const char *name = text_of(kovra_json_getobjectvalue(object, "type"));
+            const char *name = name_of(kovra_json_getobjectvalue(object, "type"));
             if (name == nullptr)
                 return false;
             const kovra_json *inner = kovra_json_getobjectvalue(object, "value");
@@ -163,6 +163,14 @@ private:
 
     static const char *text_of(const kovra_json *json) {
         return kovra_json_gettype(json) == KOVRA_JSON_STRING ? kovra_json_getstring(json) : nullptr;
+    }
+
+    // A text that a zero ends; null for one that has a zero inside.
+    static const char *name_of(const kovra_json *json) {
+        const char *text = text_of(json);
+        const bool is_whole =
+            text != nullptr && std::strlen(text) == static_cast<size_t>(kovra_json_getstringlength(json));
+        return is_whole ? text : nullptr;
     }
 
     // Adds an encoding as it is, or with another identifier.
@@ -233,7 +241,7 @@ private:
     static bool read_tag(const kovra_json *object, Override &out, bool &is_explicit) {
         out.is_set = true;
         if (const kovra_json *json = kovra_json_getobjectvalue(object, "class"); json != nullptr) {
-            const char *name = text_of(json);
+            const char *name = name_of(json);
             uint8_t index = 0;
             while (name != nullptr && index < 4 && std::strcmp(name, class_names[index]) != 0)
                 ++index;
@@ -305,7 +313,7 @@ private:
             return made;
         }
         case Shape::oid:
-            return static_cast<size_t>(length) == std::strlen(text) ? kovra_asn1_oid_new(text) : nullptr;
+            return kovra_asn1_oid_new(name_of(json));
         case Shape::numeric:
         case Shape::printable:
             if (!is_in_repertoire(kind.shape, reinterpret_cast<const uint8_t *>(text), static_cast<uint32_t>(length)))

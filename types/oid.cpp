@@ -120,7 +120,8 @@ const char *text_of(ObjectIdentifier &oid) {
         return oid.text;
     const uint8_t *octets = oid.octets.data(*oid.arena);
     // An octet gives at most three digits and a full stop; the first subidentifier one digit and a full stop more.
-    auto *text = static_cast<char *>(oid.arena->allocate(size_t{oid.octets.length} * 4 + max_arc_digits));
+    const uint64_t size = uint64_t{oid.octets.length} * 4 + max_arc_digits;
+    auto *text = size < SIZE_MAX ? static_cast<char *>(oid.arena->allocate(static_cast<size_t>(size))) : nullptr;
     if (text == nullptr)
         return nullptr;
     char *end = text;

@@ -49,13 +49,14 @@ Result read_segment(Source &source, Site site, int32_t tag, Identifier &identifi
     if (const Result result = read_identifier(source, site, identifier); result != success)
         return source.fail(site, code::read_identifier, result);
     if (identifier.is_end_of_contents()) {
+        // A BIT STRING tells of a wrong second octet and not of a missing one, an OCTET STRING the other way round.
+        const bool is_bits = tag == tag::bit_string;
         uint8_t octet = 0;
         if (const Result result = source.octet(site, octet); result != success)
-            return source.fail(site, code::read_end_of_contents, result);
+            return is_bits ? failure : source.fail(site, code::read_end_of_contents, result);
         if (octet == 0)
             return success;
-        // A BIT STRING says so, an OCTET STRING does not.
-        return tag == tag::bit_string ? source.fail(site, code::read_end_of_contents) : failure;
+        return is_bits ? source.fail(site, code::read_end_of_contents) : failure;
     }
     if (!identifier.is(Class::universal, tag))
         return source.fail(site, code::incorrect_item);

@@ -3,6 +3,7 @@
 #include "kovra/asn1_time.h"
 
 #include <cstring>
+#include <new>
 
 #include "core/content.hpp"
 #include "core/descriptors.hpp"
@@ -140,15 +141,17 @@ Result decode_time(Decoder &decoder, const Type &type, Value *&out) {
     return success;
 }
 
-// A record of a time value, which is released.
-Time *new_time(uint8_t tag, kovra_time *value) {
+// A record of a moment in UTC, which is kept beside the text: a second of 60 cannot be read back from every text.
+Time *new_time(uint8_t tag, const TimeFields &fields) {
+    kovra_time *value = time_of(fields);
     if (value == nullptr)
         return nullptr;
     char text[longest_time_text];
     const uint32_t length = tag == tag::utc_time ? write_utc_time(value, text) : write_generalized_time(value, text);
     kovra_time_free(value);
-    auto *time = length != 0 ? new_root<Time>(length) : nullptr;
-    auto *copy = time != nullptr ? static_cast<uint8_t *>(time->arena->allocate(length)) : nullptr;
+    auto *time = length != 0 ? new_root<Time>(length + sizeof fields) : nullptr;
+    void *built = time != nullptr ? time->arena->allocate(sizeof fields) : nullptr;
+    auto *copy = built != nullptr ? static_cast<uint8_t *>(time->arena->allocate(length)) : nullptr;
     if (copy == nullptr) {
         if (time != nullptr)
             Arena::destroy(time->arena);
@@ -156,6 +159,7 @@ Time *new_time(uint8_t tag, kovra_time *value) {
     }
     std::memcpy(copy, text, length);
     time->tag = tag;
+    time->built = new (built) TimeFields(fields);
     time->text = {copy, 0, length};
     return time;
 }
@@ -199,12 +203,12 @@ kovra_asn1_value *kovra_asn1_utctime_new(int32_t year, int32_t month, int32_t da
                                          int32_t second) noexcept {
     if (!has_utc_time(year))
         return nullptr;
-    return new_time(tag::utc_time, kovra_time_newutctime(year, month, day, hour, minute, second, 0));
+    return new_time(tag::utc_time, {year, month, day, hour, minute, second});
 }
 
 kovra_asn1_value *kovra_asn1_gentime_new(int32_t year, int32_t month, int32_t day, int32_t hour, int32_t minute,
                                          int32_t second, int32_t ns) noexcept {
-    return new_time(tag::generalized_time, kovra_time_newutctime(year, month, day, hour, minute, second, ns));
+    return new_time(tag::generalized_time, {year, month, day, hour, minute, second, ns});
 }
 
 kovra_asn1_value *kovra_asn1_time_new(int32_t year, int32_t month, int32_t day, int32_t hour, int32_t minute,
@@ -238,6 +242,8 @@ kovra_asn1_value *kovra_asn1_time_newutctime(const kovra_time *time, uint32_t fl
 
 kovra_time *kovra_asn1_time_getutctime(const kovra_asn1_value *time) noexcept {
     const auto *record = as<Time>(time);
+    if (record != nullptr && record->built != nullptr)
+        return time_of(*record->built);
     TimeFields fields;
     if (record == nullptr || !read_text(record->tag, record->text.data(*record->arena), record->text.length, fields))
         return nullptr;

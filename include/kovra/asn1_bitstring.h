@@ -8,10 +8,10 @@
  * of a segment; 0x10203 for a length below -1, for segments longer than the length and for a primitive value without
  * the octet of unused bits; 0x10207 when that octet is above 7 or not 0 without data, and for unused bits in a segment
  * that is not the last. Codes of a segment, and of decoding the whole: 0x102e5 (identifier), 0x1020a (neither a BIT
- * STRING nor end-of-contents), 0x102e9 (00 not followed by 00), 0x102e7 (length), 0x10214 (end-of-contents instead of
- * a value). Encoding the content: 0x10002; 0x10001 for a content length of 0 or below -1; 0x10004 when the data are
- * not as long; for -1 0x10109, 0x102e4, 0x102e6 and 0x102e8. Encoding the whole: 0x10203 when the length cannot be
- * had, 0x102e6 on top of that of the length octets. */
+ * STRING nor end-of-contents), 0x102e9 (00 followed by another octet; a marker cut short leaves the entry of the
+ * stream only), 0x102e7 (length), 0x10214 (end-of-contents instead of a value). Encoding the content: 0x10002; 0x10001
+ * for a content length of 0 or below -1; 0x10004 when the data are not as long; for -1 0x10109, 0x102e4, 0x102e6 and
+ * 0x102e8. Encoding the whole: 0x10203 when the length cannot be had, 0x102e6 on top of that of the length octets. */
 #ifndef KOVRA_ASN1_BITSTRING_H
 #define KOVRA_ASN1_BITSTRING_H
 

@@ -26,8 +26,10 @@
 KOVRA_C_BEGIN
 
 /* kovra_asn1_time_new returns a new time of a moment in UTC: a UTCTime in the years 1950 to 2049, without the
- * nanoseconds, and a GeneralizedTime in others. Null for a date, time of day or `ns` (0 to 999,999,999) out of range,
- * and when memory is short. A second of 60 is accepted and written by GeneralizedTime; UTCTime writes 59. */
+ * nanoseconds, and a GeneralizedTime in others. Null for a date, time of day or `ns` (0 to 999,999,999; not looked at
+ * for a UTCTime) out of range, and when memory is short. A second of 60 is accepted for any minute and written by
+ * GeneralizedTime, which can be read again, or copied into a structure, only where there was a leap second; UTCTime
+ * writes 59. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_time_new(int32_t year, int32_t month, int32_t day, int32_t hour,
                                                      int32_t minute, int32_t second, int32_t ns) KOVRA_NOTHROW;
 
@@ -47,7 +49,8 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_gentime_new(int32_t year, int32_t mo
 KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_time_newutctime(const kovra_time *time, uint32_t flags) KOVRA_NOTHROW;
 
 /* kovra_asn1_time_getutctime returns a new companion's time of the value, released with kovra_time_free; null for null
- * and when memory is short. It is UTC but for a GeneralizedTime without Z or offset, which is local time. */
+ * and when memory is short. It is UTC but for a GeneralizedTime without Z or offset, which is local time. A second of
+ * 60 that a constructor was given is 60 here, for UTCTime too. */
 KOVRA_ASN1_API kovra_time *kovra_asn1_time_getutctime(const kovra_asn1_value *time) KOVRA_NOTHROW;
 
 KOVRA_C_END
