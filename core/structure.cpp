@@ -398,6 +398,8 @@ Result decode_kept_entered(Decoder &decoder, const Type &type, const Element &el
 
 Result decode_kept(Decoder &decoder, const Type &type, Value *&out) {
     const Structure &shape = shape_of(type);
+    if (const Result result = enter(decoder, in(shape)); result != success)
+        return result;
     Extent extent;
     if (const Result result = walk_element(decoder, extent); result != success)
         return decoder.fail(in(shape), code::decode_any, result);
