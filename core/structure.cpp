@@ -290,6 +290,8 @@ private:
 
     Result read_tested(const Component &component, Value *&slot) {
         if (state_ == State::between) {
+            if (component.within_content && decoder_.position() == end_)
+                return decoder_.fail(at(shape_, component), code::incorrect_item);
             if (const Result result = next_identifier(at(shape_, component)); result != success)
                 return result;
         } else if (component.tag.tagging == Tagging::none && component.type == KOVRA_ASN1_TYPE_ANY) {
