@@ -74,6 +74,9 @@ struct Component {
     const Default *fallback; // of a defaulted component
     int32_t line;
     Begins begins = Begins::usually;
+    // Required, and missing (0x1020a) where the content ends before it; else the octets behind the content are looked
+    // at.
+    bool within_content = false;
     // Codes that stand in for those of the component's type; 0: none does.
     int32_t encode_code = 0;
     int32_t decode_code = 0;
@@ -88,6 +91,11 @@ struct Component {
     constexpr Component begun(Begins how) const {
         Component changed = *this;
         changed.begins = how;
+        return changed;
+    }
+    constexpr Component only_within_content() const {
+        Component changed = *this;
+        changed.within_content = true;
         return changed;
     }
     constexpr Component codes(int32_t encode, int32_t decode) const {

@@ -280,13 +280,20 @@ private:
         return leave_absent(component, slot);
     }
 
+    Result next_identifier(Site site) {
+        identifier_start_ = decoder_.position();
+        const Result result = decode_identifier(decoder_, site, identifier_);
+        if (result == success)
+            state_ = State::pending;
+        return result;
+    }
+
     Result read_tested(const Component &component, Value *&slot) {
         if (state_ == State::between) {
-            identifier_start_ = decoder_.position();
-            if (const Result result = decode_identifier(decoder_, at(shape_, component), identifier_);
-                result != success)
+            if (component.within_content && decoder_.position() == end_)
+                return decoder_.fail(at(shape_, component), code::incorrect_item);
+            if (const Result result = next_identifier(at(shape_, component)); result != success)
                 return result;
-            state_ = State::pending;
         } else if (component.tag.tagging == Tagging::none && component.type == KOVRA_ASN1_TYPE_ANY) {
             state_ = State::between;
             decoder_.rewind(identifier_start_);
@@ -333,6 +340,9 @@ private:
         const Site site = in(shape_);
         if (state_ == State::ended)
             return success;
+        if (state_ == State::between && is_indefinite() && shape_.tests_end)
+            if (const Result result = next_identifier(site); result != success)
+                return result;
         if (state_ == State::pending) {
             if (!is_indefinite() || !identifier_.is_end_of_contents())
                 return decoder_.fail(site, code::incorrect_item);
@@ -397,6 +407,8 @@ Result decode_kept_entered(Decoder &decoder, const Type &type, const Element &el
 
 Result decode_kept(Decoder &decoder, const Type &type, Value *&out) {
     const Structure &shape = shape_of(type);
+    if (const Result result = enter(decoder, in(shape)); result != success)
+        return result;
     Extent extent;
     if (const Result result = walk_element(decoder, extent); result != success)
         return decoder.fail(in(shape), code::decode_any, result);

@@ -29,6 +29,9 @@ struct Structure {
     bool (*allows)(const Record &) = nullptr;
     int32_t refusal = 0;
     bool refuses_length = false; // and has no content length either
+    // What stands behind the last component in the indefinite form is read as an identifier first: an element there is
+    // an item too many (0x1020a), not a broken end-of-contents marker (0x102e9).
+    bool tests_end = false;
     // The only component is a list whose content is the structure's own; null: the components stand one after another.
     const Type *content = nullptr;
 
@@ -48,6 +51,13 @@ template <size_t count> constexpr Structure structure(const char *source, const 
             ((is_required && is_next) || components[i].type == KOVRA_ASN1_TYPE_ANY))
             made.read_whole |= uint32_t{1} << i;
     }
+    return made;
+}
+// A structure that tells an element behind its last component from a broken end.
+template <size_t count>
+constexpr Structure structure_with_tested_end(const char *source, const Component (&components)[count]) {
+    Structure made = structure(source, components);
+    made.tests_end = true;
     return made;
 }
 // A list that keeps its encoding, which lists by themselves do not.

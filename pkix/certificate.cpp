@@ -82,7 +82,7 @@ constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATE, "CERTIFICATE", nullptr};
 
 } // namespace
 
-constexpr Structure tbs_certificate = structure(source, tbs::components);
+constexpr Structure tbs_certificate = structure_with_tested_end(source, tbs::components);
 constexpr Structure certificate = signed_structure(source, certificate_components);
 constexpr Structure certificate_pair = structure(source, pair::components);
 

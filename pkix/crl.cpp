@@ -74,7 +74,7 @@ constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATE_LIST, "X509 CRL", "CRL"};
 
 } // namespace
 
-constexpr Structure tbs_cert_list = structure(source, tbs::components);
+constexpr Structure tbs_cert_list = structure_with_tested_end(source, tbs::components);
 constexpr Structure revoked_certificate = structure(source, revoked::components);
 constexpr ListShape revoked_certificates = {KOVRA_ASN1_TYPE_REVOKED_CERTIFICATE};
 constexpr Structure certificate_list = signed_structure(source, certificate_list_components);

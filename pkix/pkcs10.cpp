@@ -30,7 +30,7 @@ constexpr Component components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("subject", KOVRA_ASN1_TYPE_NAME),
     required("subjectPKInfo", KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO),
-    required("attributes", KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTES, implicit_tag(0)),
+    required("attributes", KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTES, implicit_tag(0)).only_within_content(),
 };
 } // namespace info
 

@@ -26,9 +26,10 @@
  * first: 0x102e5 when it cannot be read, 0x1020a alone when it begins no component that may stand there, form included,
  * 0x102e7 (length), then the decode code of the component's type on top of what the content recorded. 0x1020b when a
  * component ends behind the declared length, or the last one not at its end; 0x102e9 when there is no end-of-contents
- * at the end of indefinite length. Decoding the whole of a type that keeps its encoding: the entries of reading the
- * element with 0x10236 on top, 0x1020a for anything but a constructed SEQUENCE, then those of the content, which sees
- * no octets behind the element (0x10105).
+ * at the end of indefinite length (0x1020a when something else begins there and the last component is absent, or the
+ * structure is a TBSCertificate or a TBSCertList). Decoding the whole of a type that keeps its encoding: 0x10002; the
+ * entries of reading the element with 0x10236 on top, 0x1020a for anything but a constructed SEQUENCE, then those of
+ * the content, which sees no octets behind the element (0x10105).
  *
  * Codes of encoding content: 0x10002; 0x10001 (content_length below -1); for each component 0x102ea (the length of a
  * tagged one cannot be had), 0x102e4, 0x102e6, or the encode code of the component's type on top of what it recorded;
