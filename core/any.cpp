@@ -191,23 +191,6 @@ Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE())
     return failure;
 }
 
-// What is wrong with the handle of an element; the place for what is asked of it may be missing, too.
-int32_t fault_of(const kovra_asn1_value *any, const void *place) {
-    return any == nullptr || place == nullptr ? code::null_argument : code::bad_argument;
-}
-
-// The element that an object is to be made of; null, with an entry, when it or the place for the object is missing.
-Any *holder_of(kovra_asn1_value *any, kovra_asn1_value **out_value, kovra_err_ctx *ctx,
-               int32_t line = __builtin_LINE()) {
-    auto *element = as<Any>(any);
-    if (out_value != nullptr)
-        *out_value = nullptr;
-    if (element != nullptr && out_value != nullptr)
-        return element;
-    refuse(ctx, fault_of(any, out_value), line);
-    return nullptr;
-}
-
 } // namespace
 
 constexpr Operations any_operations = {
@@ -281,7 +264,7 @@ int32_t kovra_asn1_any_getcontent(kovra_asn1_value *any, int32_t mode, void *buf
 
 int32_t kovra_asn1_any_getobject(kovra_asn1_value *any, uint32_t type, kovra_asn1_value **out_value,
                                  kovra_err_ctx *ctx) noexcept {
-    Any *element = holder_of(any, out_value, ctx);
+    Any *element = holder_of<Any>(any, out_value, here(), ctx);
     if (element == nullptr)
         return failure;
     if (element->end_of_contents) // which has no content to go back in
@@ -291,7 +274,7 @@ int32_t kovra_asn1_any_getobject(kovra_asn1_value *any, uint32_t type, kovra_asn
 
 int32_t kovra_asn1_any_contenttoobject(kovra_asn1_value *any, uint32_t type, kovra_asn1_value **out_value,
                                        kovra_err_ctx *ctx) noexcept {
-    Any *element = holder_of(any, out_value, ctx);
+    Any *element = holder_of<Any>(any, out_value, here(), ctx);
     if (element == nullptr)
         return failure;
     if (element->end_of_contents) // which has no content to go back in
@@ -302,7 +285,7 @@ int32_t kovra_asn1_any_contenttoobject(kovra_asn1_value *any, uint32_t type, kov
 
 int32_t kovra_asn1_any_toobject(kovra_asn1_value *any, uint32_t type, kovra_asn1_value **out_value,
                                 kovra_err_ctx *ctx) noexcept {
-    Any *element = holder_of(any, out_value, ctx);
+    Any *element = holder_of<Any>(any, out_value, here(), ctx);
     if (element == nullptr)
         return failure;
     Encoder encoder(ctx);

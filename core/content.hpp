@@ -28,6 +28,23 @@ Result read_piece(Content &content, const Arena &arena, Site site, int32_t mode,
 Result decode_from(Content &content, const Arena &arena, Site site, uint32_t type, const Element *element,
                    kovra_asn1_value **out_value, kovra_err_ctx *ctx);
 
+// What is wrong with a handle that has no record of the wanted kind, or with the place for what is asked of it.
+inline int32_t fault_of(const kovra_asn1_value *value, const void *place) {
+    return value == nullptr || place == nullptr ? code::null_argument : code::bad_argument;
+}
+
+// The record whose content an object is to be decoded from; null, with an entry, when it or the place for the object
+// is missing. The place is cleared.
+template <class T> T *holder_of(kovra_asn1_value *value, kovra_asn1_value **out_value, Site site, kovra_err_ctx *ctx) {
+    T *holder = as<T>(value);
+    if (out_value != nullptr)
+        *out_value = nullptr;
+    if (holder != nullptr && out_value != nullptr)
+        return holder;
+    record(ctx, site, fault_of(value, out_value));
+    return nullptr;
+}
+
 // A record that is the root of an arena of its own and holds a copy of the octets. Null when memory is short.
 template <class T> T *new_with_content(const void *data, uint32_t length) {
     T *record = new_root<T>(length);

@@ -22,10 +22,12 @@ std::string encoding_of(const std::string &text) {
 TEST(JsonMapping, DescribesAndEncodes) {
     for (const auto &row : table("json.txt")) {
         SCOPED_TRACE(row[1] + " " + row[2]);
-        if (row[0] != "<")
+        if (row[0] != "<") {
             EXPECT_EQ(description_of(octets(row[1])), row[2]);
-        if (row[0] != ">")
+        }
+        if (row[0] != ">") {
             EXPECT_EQ(encoding_of(row[2]), row[1] == "-" ? "-" : hex(octets(row[1])));
+        }
     }
 }
 

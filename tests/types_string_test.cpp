@@ -103,6 +103,7 @@ template <class Get> void expect_pieces(const Value &value, const std::string &e
     EXPECT_EQ(count, 0);
     expect(0x10002, nullptr, 1, buffer, 3);
     expect(0x10002, value.get(), 1, nullptr, 3);
+    expect(0x10001, decoded(1, "01 01 FF").get(), 1, buffer, 3);
     expect(0x10001, value.get(), 1, buffer, -1);
     for (int32_t mode : {0, 3, -1})
         expect(0x10105, value.get(), mode, buffer, 3);

@@ -260,15 +260,15 @@ int32_t kovra_asn1_bitstring_get(kovra_asn1_value *bitstring, int32_t mode, void
                                  int32_t *out_count, kovra_err_ctx *ctx) noexcept {
     auto *bits = as<BitString>(bitstring);
     if (bits == nullptr || buffer == nullptr)
-        return refuse(ctx, code::null_argument);
+        return refuse(ctx, fault_of(bitstring, buffer));
     return read_piece(bits->content, *bits->arena, here(), mode, buffer, size, out_count, ctx);
 }
 
 int32_t kovra_asn1_bitstring_getobject(kovra_asn1_value *bitstring, uint32_t type, kovra_asn1_value **out_value,
                                        kovra_err_ctx *ctx) noexcept {
-    auto *bits = as<BitString>(bitstring);
-    if (bits == nullptr || out_value == nullptr)
-        return refuse(ctx, code::null_argument);
+    auto *bits = holder_of<BitString>(bitstring, out_value, here(), ctx);
+    if (bits == nullptr)
+        return failure;
     return decode_from(bits->content, *bits->arena, here(), type, nullptr, out_value, ctx);
 }
 

@@ -131,6 +131,8 @@ kovra_asn1_value *kovra_asn1_unsigned_integer_new(const void *magnitude, int32_t
     for (; length >= 2 && from[0] == 0x00 && from[1] < 0x80; --length)
         ++from;
     const uint32_t sign = from[0] >= 0x80 ? 1 : 0;
+    if (length == max_length && sign != 0)
+        return nullptr;
     uint8_t *copy = nullptr;
     Integer *integer = new_integer(static_cast<uint32_t>(length) + sign, copy);
     if (integer == nullptr)

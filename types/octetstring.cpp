@@ -279,15 +279,15 @@ int32_t kovra_asn1_octetstring_get(kovra_asn1_value *string, int32_t mode, void 
                                    int32_t *out_count, kovra_err_ctx *ctx) noexcept {
     auto *record = as<String>(string);
     if (record == nullptr || buffer == nullptr)
-        return refuse(ctx, code::null_argument);
+        return refuse(ctx, fault_of(string, buffer));
     return read_piece(record->content, *record->arena, here(), mode, buffer, size, out_count, ctx);
 }
 
 int32_t kovra_asn1_octetstring_getobject(kovra_asn1_value *string, uint32_t type, kovra_asn1_value **out_value,
                                          kovra_err_ctx *ctx) noexcept {
-    auto *record = as<String>(string);
-    if (record == nullptr || out_value == nullptr)
-        return refuse(ctx, code::null_argument);
+    auto *record = holder_of<String>(string, out_value, here(), ctx);
+    if (record == nullptr)
+        return failure;
     return decode_from(record->content, *record->arena, here(), type, nullptr, out_value, ctx);
 }
 
