@@ -29,7 +29,7 @@ constexpr bool is_possible(const Identifier &identifier) {
 }
 
 // Is the octet an identifier that an element, other than an end-of-contents marker, can have?
-inline constexpr auto begins_element = [] {
+inline constexpr auto begins_element = []() {
     std::array<bool, 256> table{};
     for (size_t octet = 1; octet < table.size(); ++octet)
         table[octet] = is_possible(identifier_of(static_cast<uint8_t>(octet)));

@@ -99,6 +99,8 @@ namespace {
 
 enum class Streams : uint8_t { copied, left };
 
+// Once more at most, when streams were left.
+// NOLINTNEXTLINE(misc-no-recursion)
 Value *convert_with(const Type &from, const Value *value, const Type &to, Streams streams, kovra_err_ctx *ctx) {
     Encoder encoder(ctx);
     if (streams == Streams::left)

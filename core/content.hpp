@@ -24,8 +24,9 @@ Result put_content(Encoder &encoder, Site site, const Content &content, const Ar
 Result read_piece(Content &content, const Arena &arena, Site site, int32_t mode, void *buffer, int32_t size,
                   int32_t *out_count, kovra_err_ctx *ctx);
 
-// Decodes a value, whole or as the content of `element`, from content octets, all of which it must take up.
-Result decode_from(Content &content, const Arena &arena, Site site, uint32_t type, const Element *element,
+// Decodes a value of the type with this number, whole or as the content of `element`, from content octets, all of which
+// it must take up.
+Result decode_from(Content &content, const Arena &arena, Site site, uint32_t number, const Element *element,
                    kovra_asn1_value **out_value, kovra_err_ctx *ctx);
 
 // What is wrong with a handle that has no record of the wanted kind, or with the place for what is asked of it.

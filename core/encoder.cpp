@@ -69,7 +69,7 @@ Result Encoder::put_more(Site site, const void *octets, size_t count) {
         if (const Result result = flush(); result != success)
             return result;
         // What is larger than a piece need not be gathered.
-        for (auto *next = static_cast<const uint8_t *>(octets); count > piece; octets = next) {
+        for (const auto *next = static_cast<const uint8_t *>(octets); count > piece; octets = next) {
             if (const Result result = kovra_stream_writen(stream_, next, static_cast<int32_t>(piece), nullptr, ctx_);
                 result != success)
                 return result;

@@ -193,10 +193,10 @@ void PushWalk::enter() {
     }
     const int64_t end = position_ + header_.length;
     if (end > open_.limit())
-        fail();
-    else if (header_.length == 0)
-        end_element();
-    else if (header_.identifier.form == Form::primitive)
+        return fail();
+    if (header_.length == 0)
+        return end_element();
+    if (header_.identifier.form == Form::primitive)
         remaining_ = static_cast<uint32_t>(header_.length);
     else if (open_.enter(end))
         header_ = {};

@@ -41,10 +41,10 @@ struct Structure {
 template <size_t count> constexpr Structure structure(const char *source, const Component (&components)[count]) {
     static_assert(count <= 32);
     Structure made{source, components, count};
-    for (uint8_t i = 0; i < count; ++i) {
+    for (uint32_t i = 0; i < count; ++i) {
         const bool is_required = components[i].presence == Presence::required;
         if (is_required)
-            made.required_end = i + 1;
+            made.required_end = static_cast<uint8_t>(i + 1);
         // What stands behind a component that may be absent is known by its identifier, whether that was there or not.
         const bool is_next = i == 0 || components[i - 1].presence == Presence::required;
         if (components[i].tag.tagging == Tagging::none &&

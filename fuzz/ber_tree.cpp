@@ -122,7 +122,7 @@ Nodes read_nodes(std::string_view octets) {
 }
 
 std::string write_node(const Node &node) {
-    const std::string content = node.lead + (node.inside.empty() ? node.content : write_nodes(node.inside));
+    std::string content = node.lead + (node.inside.empty() ? node.content : write_nodes(node.inside));
     if (!node.is_element())
         return content;
     const std::string shortest = length_octets(content.size());

@@ -22,7 +22,7 @@ const bool is_traced = std::getenv("KOVRA_FUZZ_TRACE") != nullptr;
 void run(Draw input) {
     const uint8_t scarce = input.octet();
     if (scarce >= 0x80)
-        fail_allocation((scarce & 0x3F) * 3, scarce < 0xC0);
+        fail_allocation(int64_t{scarce & 0x3F} * 3, scarce < 0xC0);
     Machine machine;
     while (!input.is_over() && !machine.is_full()) {
         const Function &function = function_of(static_cast<uint16_t>(input.number(2)));

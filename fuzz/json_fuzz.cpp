@@ -42,7 +42,7 @@ void check_print(const kovra_json *json) {
 bool may_be_refused(const kovra_json *json) {
     const std::string text = print(json, 0);
     for (const char *part : {R"("utc":false)", R"("second":60)", R"("type":"OID","value":"")", "18446744073709551615"})
-        if (text.find(part) != text.npos)
+        if (text.find(part) != std::string::npos)
             return true;
     return false;
 }

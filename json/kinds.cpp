@@ -41,7 +41,7 @@ constexpr JsonKind kinds[] = {
 struct ByTag {
     uint8_t index[32];
     constexpr ByTag() : index{} {
-        for (uint8_t i = 0; i < std::size(kinds); ++i)
+        for (size_t i = 0; i < std::size(kinds); ++i)
             if (!kinds[i].is_input_only)
                 index[kinds[i].tag] = static_cast<uint8_t>(i + 1);
     }

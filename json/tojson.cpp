@@ -142,7 +142,7 @@ private:
         return walk_element(decoder, again) == success;
     }
 
-    bool put_type(kovra_json *object, const char *name) {
+    static bool put_type(kovra_json *object, const char *name) {
         return kovra_json_putstring(object, "type", name, -1) != nullptr;
     }
 
@@ -218,7 +218,7 @@ private:
                put_hex(value, bits.content.octets);
     }
 
-    bool put_time(kovra_json *object, const Value *value) {
+    static bool put_time(kovra_json *object, const Value *value) {
         kovra_time *time = kovra_asn1_time_getutctime(value);
         if (time == nullptr)
             return false;

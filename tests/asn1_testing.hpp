@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <fstream>
@@ -249,7 +250,7 @@ inline std::vector<std::vector<std::string>> table(const std::string &name) {
     std::ifstream file(KOVRA_SOURCE_DIR "/tests/data/" + name);
     EXPECT_TRUE(file) << name;
     for (std::string line; std::getline(file, line);) {
-        line = line.substr(0, line.find('#'));
+        line.erase(std::min(line.find('#'), line.size()));
         if (line.find_first_not_of(' ') == line.npos)
             continue;
         std::vector<std::string> row;

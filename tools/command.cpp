@@ -17,8 +17,12 @@ std::string hexadecimal(int32_t code) {
     return text;
 }
 
-const Trouble::Cause incorrect_item = {0x1020a, "incorrect item", "kovra-asn1"};
-const Trouble::Cause octets_left = {0x1027f, "there is some bytes not decode", "kovra-asn1"};
+Trouble::Cause incorrect_item() {
+    return {0x1020a, "incorrect item", "kovra-asn1"};
+}
+Trouble::Cause octets_left() {
+    return {0x1027f, "there is some bytes not decode", "kovra-asn1"};
+}
 
 } // namespace
 
@@ -36,7 +40,7 @@ Trouble explain(const Refusal &refusal, std::initializer_list<uint32_t> types) {
             kovra_stream_peek(stream.get(), &unread, &left);
             if (left == 0 || !refusal.is_whole)
                 continue;
-            return {refusal.limit - static_cast<size_t>(left), {octets_left}};
+            return {refusal.limit - static_cast<size_t>(left), {octets_left()}};
         }
         if (type != KOVRA_ASN1_TYPE_ANY)
             kovra_asn1_decode_puterr(context.get(), type, "kovra-asn1", 0);
@@ -50,7 +54,7 @@ Trouble explain(const Refusal &refusal, std::initializer_list<uint32_t> types) {
         if (!trouble.chain.empty())
             return trouble;
     }
-    return {refusal.begin, {incorrect_item}};
+    return {refusal.begin, {incorrect_item()}};
 }
 
 Trouble bad_armour() {

@@ -135,7 +135,8 @@ public:
     }
 
 private:
-    // Matches up to the end of the pattern's level.
+    // Matches up to the end of the pattern's level. As deep as the pattern at most.
+    // NOLINTNEXTLINE(misc-no-recursion)
     bool level(size_t end) {
         while (next_ < pattern_.size() && pattern_[next_] != ')') {
             if (pattern_[next_] == '*') {
@@ -185,9 +186,11 @@ private:
         header.length = head[1] < 0x80 ? head[1] : 0;
         for (size_t i = 0; i < count; ++i)
             header.length = header.length << 8 | head[2 + i];
-        return true;
+        // No element is longer; where a size has 32 bits, its end would be none.
+        return header.length <= INT32_MAX;
     }
 
+    // NOLINTNEXTLINE(misc-no-recursion)
     bool element(const Header &header, size_t end) {
         ++seen_;
         ++next_;

@@ -125,7 +125,7 @@ struct Free {
 };
 
 // The type of a universal tag that has a description of its own and no members; 0 for others.
-constexpr auto leaf_types = [] {
+constexpr auto leaf_types = []() {
     std::array<uint8_t, 32> of{};
     of[1] = KOVRA_ASN1_TYPE_BOOLEAN;
     of[2] = KOVRA_ASN1_TYPE_INTEGER;
@@ -149,7 +149,7 @@ constexpr auto leaf_types = [] {
 
 // What of a string can be printed between quotation marks as it is.
 bool is_plain_text(const uint8_t *octets, size_t length, uint32_t tag) {
-    constexpr auto plain = [] {
+    constexpr auto plain = []() {
         // Bits: 1 for PrintableString, 2 for the others.
         std::array<uint8_t, 256> of{};
         for (uint8_t c = 0x20; c < 0x7F; ++c)
@@ -176,7 +176,7 @@ bool read_plain_time(const uint8_t *text, size_t length, bool is_short, Moment &
     const size_t digits = is_short ? 12 : 14;
     if (length != digits + 1 || text[digits] != 'Z')
         return false;
-    uint32_t pairs[7];
+    uint32_t pairs[7] = {};
     for (size_t i = 0; i < digits; i += 2) {
         const uint32_t tens = text[i] - uint32_t{'0'};
         const uint32_t ones = text[i + 1] - uint32_t{'0'};

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 
 #include "command.hpp"
 #include "platform.hpp"
@@ -120,7 +121,8 @@ int main(int argc, char **argv) {
 #endif
     try {
         return run(utf8_arguments(argc, argv));
-    } catch (const std::bad_alloc &) {
+    } catch (const std::exception &) {
+        // No memory for it, or more than a vector can hold where addresses have 32 bits: nothing else is thrown.
         std::fputs("kovra-asn1: memory is short\n", stderr);
         return static_cast<int>(Status::io);
     }

@@ -34,6 +34,7 @@ private:
     }
 
     // As deep as directories nest, which the length of a path limits.
+    // NOLINTNEXTLINE(misc-no-recursion)
     void directory(const fs::path &path) {
         std::error_code error;
         std::vector<fs::directory_entry> entries;

@@ -117,7 +117,7 @@ template <class Function> void for_each(kovra_asn1_value *list, Function functio
 // Values within a line.
 void put_integer(Printer &printer, const kovra_asn1_value *integer); // decimal, hexadecimal beyond 64 bits
 void put_serial(Printer &printer, const kovra_asn1_value *integer);  // hexadecimal, 0x7f
-void put_time(Printer &printer, const kovra_asn1_value *time);
+void put_time(Printer &printer, const kovra_asn1_value *value);
 void put_unquoted(Printer &printer, std::string_view text);
 void put_quoted(Printer &printer, uint32_t tag, std::string_view octets);
 void put_bits(Printer &printer, kovra_asn1_value *bit_string, std::span<const std::string_view> names);
@@ -154,7 +154,7 @@ void show_certificate_pair(Printer &printer, kovra_asn1_value *pair);
 void show_crl(Printer &printer, kovra_asn1_value *crl);
 void show_revoked(Printer &printer, kovra_asn1_value *entry);
 void show_request(Printer &printer, kovra_asn1_value *request);
-void show_public_key(Printer &printer, kovra_asn1_value *key);
+void show_public_key(Printer &printer, kovra_asn1_value *info);
 void show_algorithm(Printer &printer, kovra_asn1_value *algorithm);
 void show_extension(Printer &printer, kovra_asn1_value *extension);
 void show_extensions(Printer &printer, kovra_asn1_value *extensions);

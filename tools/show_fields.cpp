@@ -121,9 +121,9 @@ bool read_any(kovra_asn1_value *any, uint32_t type, Value &out) {
 
 size_t bit_length(const std::string &octets) {
     const size_t first = octets.find_first_not_of('\0');
-    return first == octets.npos ? 0
-                                : (octets.size() - first - 1) * 8 +
-                                      static_cast<size_t>(std::bit_width(static_cast<uint8_t>(octets[first])));
+    return first == std::string::npos ? 0
+                                      : (octets.size() - first - 1) * 8 +
+                                            static_cast<size_t>(std::bit_width(static_cast<uint8_t>(octets[first])));
 }
 
 } // namespace kovra::tool

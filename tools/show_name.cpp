@@ -164,21 +164,21 @@ void put_name(Printer &printer, const kovra_asn1_value *name) {
     }
 }
 
-void put_address(Printer &printer, std::string_view text) {
-    const auto *octets = reinterpret_cast<const uint8_t *>(text.data());
-    const bool has_mask = text.size() == 8 || text.size() == 32;
-    const size_t size = has_mask ? text.size() / 2 : text.size();
+void put_address(Printer &printer, std::string_view octets) {
+    const auto *first = reinterpret_cast<const uint8_t *>(octets.data());
+    const bool has_mask = octets.size() == 8 || octets.size() == 32;
+    const size_t size = has_mask ? octets.size() / 2 : octets.size();
     if (size != 4 && size != 16)
-        return printer.hex(text);
+        return printer.hex(octets);
     const auto put = size == 4 ? put_version_4 : put_version_6;
-    put(printer, octets);
+    put(printer, first);
     if (!has_mask)
         return;
     printer.out.put('/');
-    if (const int prefix = prefix_of(octets + size, size); prefix >= 0)
+    if (const int prefix = prefix_of(first + size, size); prefix >= 0)
         printer.out.put_number(static_cast<uint64_t>(prefix));
     else
-        put(printer, octets + size);
+        put(printer, first + size);
 }
 
 std::string_view kind_of_general_name(const kovra_asn1_value *name) {

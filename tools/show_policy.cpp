@@ -28,7 +28,7 @@ void show_notice(Printer &printer, kovra_asn1_value *notice) {
     put_display_text(printer, kovra_pkixnoticeref_getorg(reference));
     printer.end();
     printer.begin("numbers");
-    std::string_view between("");
+    std::string_view between;
     for_each(kovra_pkixnoticeref_getnums(reference), [&](const kovra_asn1_value *number) {
         printer.out.put(between);
         put_integer(printer, number);

@@ -136,8 +136,8 @@ const char *text_of(ObjectIdentifier &oid) {
             *end++ = '.';
         if (is_root) {
             // The first subidentifier holds two arcs.
-            const uint32_t root = value < 40 ? 0 : value < 80 ? 1 : 2;
-            *end++ = static_cast<char>('0' + root);
+            const uint64_t root = value < 40 ? 0 : value < 80 ? 1 : 2;
+            *end++ = static_cast<char>('0' + static_cast<char>(root));
             *end++ = '.';
             value -= root * 40;
             is_root = false;

@@ -9,12 +9,11 @@ bool OpenStrings::open(int64_t end) {
         if (capacity_ > UINT32_MAX / (2 * sizeof(Level)))
             return false;
         const size_t size = size_t{capacity_} * 2 * sizeof(Level);
-        auto *grown =
-            static_cast<Level *>(levels_ == first_ ? kovra_malloc(size, "ASN1_OctetString", __LINE__)
-                                                   : kovra_realloc(levels_, size, "ASN1_OctetString", __LINE__));
+        Level *on_heap = levels_ == first_ ? nullptr : levels_;
+        auto *grown = static_cast<Level *>(kovra_realloc(on_heap, size, "ASN1_OctetString", __LINE__));
         if (grown == nullptr)
             return false;
-        if (levels_ == first_)
+        if (on_heap == nullptr)
             std::memcpy(grown, first_, sizeof first_);
         levels_ = grown;
         capacity_ *= 2;

@@ -21,7 +21,7 @@ struct Meanings {
     uint8_t of[256];
 };
 
-constexpr Meanings meanings = [] {
+constexpr Meanings meanings = []() {
     Meanings table{};
     for (uint8_t &meaning : table.of)
         meaning = invalid;

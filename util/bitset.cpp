@@ -72,7 +72,7 @@ kovra_bitset *kovra_bitset_new(int32_t unused_bits, const void *data, int32_t le
         return set;
     const auto octets = static_cast<size_t>(length);
     if (!reserve(*set, octets)) {
-        kovra_bitset_free(set);
+        release_record(set);
         return nullptr;
     }
     std::memcpy(set->octets, data, octets);

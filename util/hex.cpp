@@ -23,7 +23,7 @@ struct Values {
     uint16_t of[256];
 };
 
-constexpr Values values = [] {
+constexpr Values values = []() {
     Values table{};
     for (int i = 0; i < 256; ++i)
         table.of[i] = static_cast<uint16_t>(value_of(static_cast<char>(i)));

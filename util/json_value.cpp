@@ -70,7 +70,7 @@ int32_t add(kovra_json *value, const char *name, kovra_json *item) {
     return 1;
 }
 
-constexpr auto hex_pairs = [] {
+constexpr auto hex_pairs = []() {
     constexpr char digits[] = "0123456789abcdef";
     std::array<std::array<char, 2>, 256> pairs{};
     for (size_t i = 0; i < pairs.size(); ++i)

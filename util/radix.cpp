@@ -104,6 +104,7 @@ void multiply_plainly<Decimal>(uint32_t *product, const uint32_t *left, const ui
 // Karatsuba: a0 b1 + a1 b0 = a0 b0 + a1 b1 + (a0 - a1)(b1 - b0). The product has 2 * count digits, the scratch room as
 // many. A count above plain_product is even, and so is its half while above it. Depth: log2 of the count.
 template <class Base>
+// NOLINTNEXTLINE(misc-no-recursion)
 void multiply(uint32_t *product, const uint32_t *left, const uint32_t *right, size_t count, uint32_t *scratch) {
     if (count <= plain_product) {
         multiply_plainly<Base>(product, left, right, count);
