@@ -64,15 +64,15 @@ bool make_slots(List &list, uint32_t wanted) {
 }
 
 // Calls visit(element) with each element, in order, until one call gives something else than success. An element that
-// is not built is built for the call only.
-template <class Visit> Result for_each(List &list, Visit visit) {
+// is not built is built for the call only; where memory is too short for that, the result is that of lack().
+template <class Visit, class Lack> Result for_each(List &list, Visit visit, Lack lack) {
     for (uint32_t i = 0; i < list.count; ++i) {
         Value *element = list.items != nullptr ? list.items[i] : nullptr;
         if (element == nullptr) {
             Decoder decoder(*list.arena, list.places[i]);
             Decoder::Scratch scratch(decoder);
             if (!scratch.begin(false) || decode(decoder, *list.element, element) != success)
-                return failure;
+                return lack();
             if (const Result result = visit(element); result != success)
                 return result;
             continue;
@@ -88,11 +88,12 @@ int32_t measure_list(List *list, const Type &element) {
         return unknown;
     int64_t total = 0;
     list->measured = unknown;
-    const Result result = for_each(*list, [&](Value *value) {
+    const auto add = [&](Value *value) {
         const int32_t length = whole_length(element, value);
         total = length < 0 ? length : total + length;
         return length < 0 || total > max_length ? failure : success;
-    });
+    };
+    const Result result = for_each(*list, add, [] { return failure; });
     if (result != success && total >= 0)
         return unknown;
     list->measured = static_cast<int32_t>(total);
@@ -104,12 +105,13 @@ Result encode_elements(Encoder &encoder, const Type &element, List *list, int32_
         return encoder.fail(here(), code::null_argument);
     if (length < indefinite)
         return encoder.fail(here(), code::bad_argument);
-    const Result result = for_each(*list, [&](Value *value) {
+    const auto put_one = [&](Value *value) {
         // What was measured holds only as long as all of the list could be measured, and only for elements that stay.
         const bool is_measured = length >= 0 && list->measured >= 0 && list->places == nullptr;
         const Result put = encode(encoder, element, value, is_measured ? Measure::known : Measure::fresh);
         return put == success ? success : encoder.fail(here(), is_any ? code::encode_any : element.base, put);
-    });
+    };
+    const Result result = for_each(*list, put_one, [&] { return encoder.fail(here(), code::no_memory); });
     if (result != success)
         return result;
     if (length == indefinite)

@@ -163,6 +163,121 @@ TEST(Functions, SeveralValuesOfAnyKind) {
     EXPECT_EQ(encodings(), before);
 }
 
+// Where a part of a record stands: in one of its slots, or in a slot of what is in its first one.
+using Part = std::pair<int, int>;
+
+std::map<const void *, Part> parts_of(const core::Record &record) {
+    std::map<const void *, Part> found;
+    for (uint8_t i = 0; i < record.shape->count; ++i) {
+        if (const core::Value *part = record.slot(i); part != nullptr)
+            found.emplace(part, Part(i, -1));
+        if (i == 0 && record.shape->signed_slot == 0) {
+            const auto *within = static_cast<const core::Record *>(record.slot(0));
+            for (uint8_t j = 0; j < within->shape->count; ++j)
+                if (within->slot(j) != nullptr)
+                    found.emplace(within->slot(j), Part(0, j));
+        }
+    }
+    return found;
+}
+
+// Two names for what has one structure.
+const std::set<std::string> &shared_parts() {
+    static const std::set<std::string> all = {
+        "kovra_pkcs1digestinfo_getdigest kovra_tsp_messageimprint_gethashedmessage",
+        "kovra_pkcs1digestinfo_getdigestalgorithm kovra_tsp_messageimprint_gethashalgo",
+        "kovra_x509algoid_getalgo kovra_x509polqualifierinfo_getid",
+        "kovra_x509algoid_getparam kovra_x509polqualifierinfo_getqualifier",
+    };
+    return all;
+}
+
+// Each part of a record is what just one function gives, and where functions say which are there, they are right.
+TEST(Functions, EachPartHasItsFunction) {
+    std::set<std::string> shared;
+    for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type) {
+        const core::Type &row = core::row(type);
+        if (!is_structure(row))
+            continue;
+        std::vector<std::string> values = {samples(type)[1 % samples(type).size()].octets};
+        for (const Combination &combination : combinations(type))
+            values.push_back(combination.octets);
+        std::map<Part, std::set<std::string>> givers;
+        std::set<Part> all;
+        for (const std::string &data : values) {
+            const Kept kept = {type, data, decode(type, data).value};
+            const auto &record = *static_cast<const core::Record *>(record_of(kept.value.get()));
+            const std::map<const void *, Part> parts = parts_of(record);
+            for (const auto &[address, part] : parts)
+                all.insert(part);
+            std::map<std::string, bool> given, said;
+            for (const Function &function : functions()) {
+                const std::string name = function.name;
+                if (function.letters != "v")
+                    continue;
+                const std::vector<Identity> &kinds = kinds_of(function);
+                if (std::find(kinds.begin(), kinds.end(), identity(kept.value.get())) == kinds.end())
+                    continue;
+                const int64_t found = call_with(function, {&kept}, 0, [&](const Call &call) {
+                    const auto at = parts.find(call.made[0]);
+                    given[name] = call.made[0] != nullptr;
+                    if (at != parts.end())
+                        givers[at->second].insert(name);
+                });
+                said[name] = found == 1;
+            }
+            for (const auto &[name, is_there] : said) {
+                const size_t has = name.rfind("_has");
+                const std::string getter = has != name.npos ? name.substr(0, has) + "_get" + name.substr(has + 4) : "";
+                if (given.count(getter) != 0) {
+                    EXPECT_EQ(is_there, given[getter]) << name;
+                }
+            }
+        }
+        if (givers.empty())
+            continue;
+        // What is signed is given as a whole, or by its parts.
+        const bool is_taken_apart =
+            givers[Part(0, -1)].empty() &&
+            std::any_of(all.begin(), all.end(), [](const Part &part) { return part.first == 0 && part.second >= 0; });
+        for (const Part &part : all) {
+            if (part.second == -1 ? part.first == 0 && is_taken_apart : !is_taken_apart)
+                continue;
+            if (givers[part].size() == 1)
+                continue;
+            std::string names;
+            for (const std::string &name : givers[part])
+                names += (names.empty() ? "" : " ") + name;
+            shared.insert(names);
+            EXPECT_NE(names, "") << "nothing gives part " << part.first << '.' << part.second << " of type " << type;
+        }
+    }
+    EXPECT_EQ(shared, shared_parts());
+}
+
+// Each constructor of a choice makes one of its alternatives, and no two the same.
+TEST(Functions, EachAlternativeHasItsConstructor) {
+    std::map<std::pair<const void *, uint32_t>, std::string> made;
+    for (const Function &function : functions()) {
+        if (function.letters != "v")
+            continue;
+        std::set<std::pair<const void *, uint32_t>> found;
+        for (const Kept &kept : pool())
+            call_with(function, {&kept}, 0, [&](const Call &call) {
+                const core::Value *value = record_of(call.made[0]);
+                if (value != nullptr && value->kind == core::Kind::choice && is_free(call.made[0]))
+                    found.emplace(static_cast<const core::Choice *>(value)->shape,
+                                  static_cast<const core::Choice *>(value)->alternative);
+            });
+        EXPECT_LE(found.size(), 1u) << function.name;
+        for (const auto &one : found) {
+            const auto [at, is_new] = made.emplace(one, function.name);
+            EXPECT_TRUE(is_new) << function.name << " makes what " << at->second << " does";
+        }
+    }
+    EXPECT_GT(made.size(), 30u);
+}
+
 // A function of one value that makes something of it, where memory is short.
 TEST(Functions, EveryAllocationMayFail) {
     for (const Function &function : functions()) {
