@@ -8,6 +8,7 @@
 #include "kovra/util_coding.h"
 #include "kovra/util_ustring.h"
 #include "tests/asn1_testing.hpp"
+#include "tests/failing_memory.hpp"
 #include "tests/harness/functions.hpp"
 #include "tests/harness/samples.hpp"
 
@@ -98,9 +99,22 @@ TEST(Edges, NothingIsReadBehindTheOctets) {
                                  std::string(2, '\0'),
                                  "-1e"};
     Page page;
+    read_everything(pool()[0].value.get()); // what it keeps for later is no leak
     for (const std::string &text : texts)
-        for (const auto &taker : takers)
-            taker(page.end_with(text), size_of(text));
+        for (const auto &taker : takers) {
+            SCOPED_TRACE(std::to_string(&taker - takers) + " " + hex(text));
+            const char *data = page.end_with(text);
+            const int64_t before = live_blocks();
+            taker(data, size_of(text));
+            EXPECT_EQ(live_blocks(), before);
+            for (const bool fails_once : {false, true})
+                fail_each_allocation(
+                    [&] {
+                        taker(data, size_of(text));
+                        return true;
+                    },
+                    fails_once);
+        }
 }
 
 // The samples as well: whole and cut, each a decode of its own.

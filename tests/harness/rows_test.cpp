@@ -427,15 +427,17 @@ TEST(Rows, FormsTagsAndArguments) {
     }
 }
 
-// Where a component is broken, one of the entries has its code.
-TEST(Rows, EntriesNameTheComponent) {
-    size_t count = 0;
+// Where the components of a structure stand in its octets.
+struct Part {
+    const core::Component &component;
+    size_t place; // of the outermost identifier
+};
+
+// Calls look(combination, places, part) with each component of each structure, in each of the combinations.
+template <class Look> void for_each_component(Look look) {
     for (uint32_t type = 0; type < type_count; ++type) {
-        const core::Type &row = core::row(type);
         for (const Combination &combination : combinations(type)) {
-            const auto &shape = *static_cast<const core::Structure *>(row.shape);
-            if (row.operations == &core::kept_structure_operations || shape.signed_slot == 0)
-                break; // walked first, which finds the fault
+            const auto &shape = *static_cast<const core::Structure *>(core::row(type).shape);
             std::vector<Place> places;
             std::vector<size_t> around;
             find_places(combination.octets, 0, combination.octets.size(), around, places);
@@ -445,23 +447,62 @@ TEST(Rows, EntriesNameTheComponent) {
                     continue;
                 while ((combination.present >> slot & 1) == 0)
                     ++slot;
-                const core::Component &component = shape.components[slot++];
-                // What an explicit tag holds is the component.
-                const Place &place = places[component.tag.tagging == core::Tagging::explicit_ ? i + 1 : i];
-                const std::string changed = with(combination.octets, places, place,
-                                                 combination.octets.substr(place.begin, 1) + octets("84 7F FF FF FF"));
-                const Decoded read = decode(type, changed);
-                EXPECT_EQ(read.result, 0);
-                const int32_t code = core::decode_code(component);
-                EXPECT_TRUE(code == core::no_code ||
-                            std::find(read.codes.begin(), read.codes.end(), code) != read.codes.end())
-                    << "type " << type << ", " << component.name << ": " << hex(changed) << read.codes << std::hex
-                    << code;
-                ++count;
+                SCOPED_TRACE("type " + std::to_string(type) + ", " + shape.components[slot].name + ": " +
+                             hex(combination.octets));
+                look(type, combination.octets, places, Part{shape.components[slot++], i});
             }
         }
     }
+}
+
+// Where a component is broken, one of the entries has its code.
+TEST(Rows, EntriesNameTheComponent) {
+    size_t count = 0;
+    for_each_component([&](uint32_t type, const std::string &data, const std::vector<Place> &places, const Part &part) {
+        const core::Type &row = core::row(type);
+        if (row.operations == &core::kept_structure_operations ||
+            static_cast<const core::Structure *>(row.shape)->signed_slot == 0)
+            return; // walked first, which finds the fault
+        // What an explicit tag holds is the component.
+        const bool is_explicit = part.component.tag.tagging == core::Tagging::explicit_;
+        const Place &place = places[part.place + (is_explicit ? 1 : 0)];
+        const Decoded read =
+            decode(type, with(data, places, place, data.substr(place.begin, 1) + octets("84 7F FF FF FF")));
+        EXPECT_EQ(read.result, 0);
+        const int32_t code = core::decode_code(part.component);
+        EXPECT_TRUE(code == core::no_code || std::find(read.codes.begin(), read.codes.end(), code) != read.codes.end())
+            << read.codes << std::hex << code;
+        ++count;
+    });
     EXPECT_GT(count, 1000u);
+}
+
+// An identifier that no component begins with is refused, and so is what an explicit tag holds too much or too little.
+TEST(Rows, IdentifiersAreTheirComponents) {
+    size_t count = 0;
+    for_each_component([&](uint32_t type, const std::string &data, const std::vector<Place> &places, const Part &part) {
+        const auto &shape = *static_cast<const core::Structure *>(core::row(type).shape);
+        const Place &place = places[part.place];
+        const std::string whole = data.substr(place.begin, place.end - place.begin);
+        const auto expect_refused = [&](const std::string &instead) {
+            ++count;
+            EXPECT_EQ(decode(type, with(data, places, place, instead)).result, 0) << hex(instead);
+        };
+        if (part.component.tag.tagging == core::Tagging::explicit_) {
+            const std::string content = whole.substr(place.header);
+            expect_refused(element(whole[0] ^ 0x20, content));
+            expect_refused(element(whole[0], ""));
+            expect_refused(element(whole[0], content + content));
+            expect_refused(element(whole[0], content + octets("00 00")));
+        }
+        if (std::any_of(shape.components, shape.components + shape.count,
+                        [](const core::Component &other) { return other.type == KOVRA_ASN1_TYPE_ANY; }))
+            return;
+        for (const int identifier : {0xDE, 0xFE, 0x0E, 0x2E, 0x5E, 0x7E})
+            expect_refused(element(identifier, whole.substr(place.header)));
+        expect_refused(whole + octets("DE 01 00"));
+    });
+    EXPECT_GT(count, 5000u);
 }
 
 // Every open type is each of the universal types, in each form, and nothing takes it for what it is not.
