@@ -278,6 +278,30 @@ TEST(Functions, EachAlternativeHasItsConstructor) {
     EXPECT_GT(made.size(), 30u);
 }
 
+// What gives the value of a choice gives it for one alternative, or, as is documented of those of CMS, for whichever
+// it is.
+TEST(Functions, EachAlternativeHasItsFunction) {
+    std::map<std::string, std::set<uint32_t>> given;
+    for (const Kept &kept : pool()) {
+        const core::Value *value = record_of(kept.value.get());
+        if (value->kind != core::Kind::choice)
+            continue;
+        const auto &choice = *static_cast<const core::Choice *>(value);
+        for (const Function &function : functions()) {
+            const std::vector<Identity> &kinds = kinds_of(function);
+            if (function.letters != "v" || kinds.size() != 1 || kinds[0] != identity(kept.value.get()))
+                continue;
+            call_with(function, {&kept}, 0, [&](const Call &call) {
+                if (call.made[0] != nullptr && call.made[0] == choice.value)
+                    given[function.name].insert(choice.alternative);
+            });
+        }
+    }
+    for (const auto &[name, alternatives] : given)
+        EXPECT_EQ(alternatives.size() == 1, !name.starts_with("kovra_cms")) << name;
+    EXPECT_GT(given.size(), 30u);
+}
+
 // A function of one value that makes something of it, where memory is short.
 TEST(Functions, EveryAllocationMayFail) {
     for (const Function &function : functions()) {
