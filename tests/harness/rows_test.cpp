@@ -4,6 +4,7 @@
 
 #include "core/choice.hpp"
 #include "core/descriptors.hpp"
+#include "core/list.hpp"
 #include "core/structure.hpp"
 #include "tests/asn1_testing.hpp"
 #include "tests/failing_memory.hpp"
@@ -400,6 +401,11 @@ TEST(Rows, FormsTagsAndArguments) {
                   0x10002);
         EXPECT_EQ(encode(type, nullptr).codes.at(0), 0x10002);
         EXPECT_EQ(kovra_asn1_length(type, nullptr), -2);
+        if (is_list(row)) {
+            const bool may_be_empty = !static_cast<const core::ListShape *>(row.shape)->nonempty;
+            EXPECT_EQ(decode(type, element(data[0], "")).result, may_be_empty ? 1 : 0);
+            EXPECT_EQ(decode(type, std::string{data[0], '\x80', 0, 0}).result, may_be_empty ? 1 : 0);
+        }
         if (is_choice(row)) {
             if (row.operations != &core::any_time_operations) {
                 EXPECT_EQ(decode_content(type, data.substr(2), 0, size_of(data) - 2).codes.at(0), 0x1026d);
