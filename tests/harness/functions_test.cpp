@@ -309,12 +309,41 @@ TEST(Functions, EveryAllocationMayFail) {
         if (function.values() != 1 || function.may_change())
             continue;
         for (const Identity &kind : kinds_of(function)) {
-            const auto first = std::find_if(pool().begin(), pool().end(), [&](const Kept &kept) {
-                return identity(kept.value.get()) == kind && call_with(function, {&kept}) == 1;
-            });
-            if (first != pool().end())
-                fail_each_allocation([&] { return call_with(function, {&*first}) == 1; });
+            for (const int32_t number : numbers) {
+                const auto first = std::find_if(pool().begin(), pool().end(), [&](const Kept &kept) {
+                    return identity(kept.value.get()) == kind && call_with(function, {&kept}, number) == 1;
+                });
+                if (first != pool().end())
+                    fail_each_allocation([&] { return call_with(function, {&*first}, number) == 1; });
+            }
         }
+    }
+}
+
+// A value has one holder: it is taken over once, never from within another, and never by what it holds itself.
+TEST(Functions, AValueIsTakenOverOnce) {
+    for (const Kept &kept : pool()) {
+        SCOPED_TRACE("type " + std::to_string(kept.type) + ": " + hex(kept.octets));
+        const Value list(24, kovra_asn1_list_new()), other(24, kovra_asn1_list_new());
+        const Handle value = decode(kept.type, kept.octets).value.release();
+        ASSERT_EQ(kovra_asn1_list_put(list.get(), value), 1);
+        EXPECT_EQ(kovra_asn1_list_put(list.get(), value), 0);
+        EXPECT_EQ(kovra_asn1_list_put(other.get(), value), 0);
+        EXPECT_EQ(kovra_asn1_list_put(value, list.get()), 0);
+        EXPECT_EQ(kovra_asn1_list_put(list.get(), list.get()), 0);
+        Handle part = nullptr;
+        if (kovra_asn1_list_get(value, 0, &part) == 1) {
+            EXPECT_EQ(kovra_asn1_list_put(other.get(), part), 0);
+            EXPECT_EQ(kovra_asn1_list_put(part, list.get()), 0);
+        }
+        const core::Value *record = record_of(value);
+        if (record->kind == core::Kind::record)
+            for (uint8_t i = 0; i < static_cast<const core::Record *>(record)->shape->count; ++i) {
+                EXPECT_EQ(kovra_asn1_list_put(other.get(), static_cast<const core::Record *>(record)->slot(i)), 0);
+            }
+        kovra_asn1_value_free(kept.type, value); // not the caller's any more
+        EXPECT_EQ(kovra_asn1_list_getsize(list.get()), 1);
+        EXPECT_EQ(kovra_asn1_list_getsize(other.get()), 0);
     }
 }
 
