@@ -17,6 +17,7 @@ namespace {
 // One row of a definition or a table: `name [0] EXPLICIT OPTIONAL`, and the type.
 struct Row {
     std::string name, rest, type;
+    std::string fallback = {}; // what an absent one stands for: in words, or encoded
 
     bool operator==(const Row &other) const { return name == other.name && rest == other.rest; }
 };
@@ -40,6 +41,11 @@ Rows rows_of(const core::Component *components, size_t count, core::Tag core::Co
         if (component.presence != core::Presence::required)
             rest += component.presence == core::Presence::optional ? " OPTIONAL" : " DEFAULT";
         rows.push_back({component.name, rest, std::to_string(component.type)});
+        if (component.presence == core::Presence::defaulted) {
+            core::Arena *arena = core::Arena::create(0);
+            rows.back().fallback = hex(encode(component.type, component.fallback->make(*arena)).octets);
+            core::Arena::destroy(arena);
+        }
     }
     return rows;
 }
@@ -52,7 +58,9 @@ Row parsed(const std::string &text) {
     for (std::string word; words >> word;)
         if (word[0] == '[' || word == "IMPLICIT" || word == "EXPLICIT" || word == "OPTIONAL" || word == "DEFAULT")
             row.rest += ' ' + word;
-        else if (row.rest.find("DEFAULT") == row.rest.npos)
+        else if (row.rest.find("DEFAULT") != row.rest.npos)
+            row.fallback += word;
+        else
             row.type += (row.type.empty() ? "" : " ") + word;
     return row;
 }
@@ -91,6 +99,25 @@ void find_definitions(const std::filesystem::path &path, std::vector<Rows> &foun
     }
 }
 
+// What is within the encoding of a default that is given in words.
+std::string within(const std::string &words) {
+    static const std::map<std::string, std::string> named = {
+        {"FALSE", "010100"},
+        {"TRUE", "0101FF"},
+        {"sha1", "06052B0E03021A"},
+        {"mgf1SHA1", "06092A864886F70D010108"},
+        {"pSpecifiedEmpty", "06092A864886F70D010109"},
+        {"algid-hmacWithSHA1", "06082A864886F70D0207"},
+        {"{algorithmid-sha256}", "0609608648016503040201"},
+    };
+    if (const auto found = named.find(words); found != named.end())
+        return found->second;
+    // A number, perhaps behind its name.
+    const size_t digits = words.find_first_of("0123456789", words.find('(') == words.npos ? 0 : words.find('('));
+    return digits != words.npos ? hex(std::string{2, 1, static_cast<char>(std::stoi(words.substr(digits)))})
+                                : "unknown";
+}
+
 TEST(Definitions, AreWhatTheTablesSay) {
     std::vector<Rows> definitions;
     for (const char *directory : {"core", "types", "pkix", "cms", "services", "keys"})
@@ -120,9 +147,14 @@ TEST(Definitions, AreWhatTheTablesSay) {
         if (found == definitions.end())
             ADD_FAILURE() << "type " << type << ": " << text_of(read);
         else
-            for (size_t i = 0; i < read.size(); ++i)
+            for (size_t i = 0; i < read.size(); ++i) {
+                if (!read[i].fallback.empty()) {
+                    EXPECT_NE(read[i].fallback.find(within((*found)[i].fallback)), std::string::npos)
+                        << read[i].name << " is " << read[i].fallback << ", not " << (*found)[i].fallback;
+                }
                 if (const std::string &name = (*found)[i].type; !name.empty())
                     numbers[name].insert(read[i].type);
+            }
     }
     EXPECT_GT(seen.size(), 100u);
     // A name is one type, but for these.

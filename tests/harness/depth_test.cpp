@@ -84,6 +84,20 @@ TEST(Depth, OfEveryOpenType) {
     EXPECT_GT(read, 20u);
 }
 
+// Values that were put into each other, and are released with the outermost.
+TEST(Depth, OfValuesPutIntoEachOther) {
+    run_on_small_stack([] {
+        Value outer(24, kovra_asn1_list_new());
+        for (size_t i = 0; i < million / 5; ++i) {
+            Value around(24, kovra_asn1_list_new());
+            ASSERT_EQ(kovra_asn1_list_put(around.get(), outer.get()), 1);
+            outer.release();
+            outer = std::move(around);
+        }
+        EXPECT_EQ(kovra_asn1_length(24, outer.get()), -2); // lists are no open types
+    });
+}
+
 TEST(Depth, OfDescriptionsAndPieces) {
     for (const Nest &nest : nests(million)) {
         SCOPED_TRACE(nest.name);

@@ -55,6 +55,14 @@ bool leaks(const Function &function) {
     return std::string_view(function.name) == "kovra_x509basicconstraints_new";
 }
 
+// Those that do not look whether an open type is an end-of-contents marker, which cannot be read again.
+bool takes_end_of_contents(const Function &function) {
+    static const std::set<std::string_view> all = {"kovra_cmsothercertformat_new",    "kovra_cmsotherkeyattr_new",
+                                                   "kovra_cmsotherrecipientinfo_new", "kovra_cmsotherrevinfoformat_new",
+                                                   "kovra_pkcs7contentinfo_new",      "kovra_x509polqualifierinfo_new"};
+    return all.count(function.name) != 0;
+}
+
 // Without the arguments that may be absent, in every combination: the record has copies of just those that were given,
 // and no defaulted part is missing. Any allocation may fail.
 void expect_built(const Function &function, const core::Type &type, const std::vector<const Kept *> &arguments) {
@@ -152,6 +160,12 @@ TEST(Functions, SeveralValuesOfAnyKind) {
                         EXPECT_TRUE(made == nullptr || made->slot(static_cast<uint8_t>(place)) == nullptr ||
                                     core::holds(*shape->components[place].copied_as, record_of(kept.value.get())))
                             << "place " << place << " takes a value of type " << kept.type;
+                        if (made == nullptr || !is_written_as_read(core::row(type)) || takes_end_of_contents(function))
+                            return;
+                        // What is made can be written, and read again.
+                        const Encoded written = encode(type, call.made[0]);
+                        EXPECT_TRUE(written.result != 1 || decode(type, written.octets).result == 1)
+                            << "place " << place << " with a value of type " << kept.type << ": " << hex(kept.octets);
                     });
                 }
             }
