@@ -34,7 +34,8 @@ constexpr Component locator_components[] = {
     required("locator", KOVRA_ASN1_TYPE_INFORMATION_ACCESS),
 };
 
-// PreferredSignatureAlgorithms ::= SEQUENCE { SET OF AlgorithmIdentifier }
+// PreferredSignatureAlgorithms ::= SEQUENCE {
+//     algorithms  SET OF AlgorithmIdentifier }
 // The standard has a SEQUENCE OF another structure here.
 constexpr Component preferred_components[] = {
     required("algorithms", KOVRA_ASN1_TYPE_DIGEST_ALGORITHM_IDENTIFIERS),

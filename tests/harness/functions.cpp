@@ -214,4 +214,26 @@ void read_everything(kovra_asn1_value *value) {
     const_cast<Value &>(kept.value).release();
 }
 
+void read_everything_within(kovra_asn1_value *value) {
+    std::vector<kovra_asn1_value *> left = {value};
+    while (!left.empty()) {
+        const Handle handle = left.back();
+        left.pop_back();
+        read_everything(handle);
+        const core::Value *record = record_of(handle);
+        const auto add = [&](core::Value *part) {
+            if (part != nullptr)
+                left.push_back(part);
+        };
+        if (record->kind == core::Kind::record)
+            for (uint8_t i = 0; i < static_cast<const core::Record *>(record)->shape->count; ++i)
+                add(static_cast<const core::Record *>(record)->slot(i));
+        else if (record->kind == core::Kind::choice)
+            add(static_cast<const core::Choice *>(record)->value);
+        Handle part = nullptr;
+        for (int32_t i = 0; kovra_asn1_list_get(handle, i, &part) == 1; ++i)
+            left.push_back(part);
+    }
+}
+
 } // namespace kovra::test

@@ -79,5 +79,7 @@ const std::vector<Identity> &kinds_of(const Function &function);
 
 // Hands a value to every function of one value that is for its kind and changes nothing.
 void read_everything(kovra_asn1_value *value);
+// The same with all values that it is made of.
+void read_everything_within(kovra_asn1_value *value);
 
 } // namespace kovra::test

@@ -55,6 +55,14 @@ bool leaks(const Function &function) {
     return std::string_view(function.name) == "kovra_x509basicconstraints_new";
 }
 
+// Those that do not look whether an open type is an end-of-contents marker, which cannot be read again.
+bool takes_end_of_contents(const Function &function) {
+    static const std::set<std::string_view> all = {"kovra_cmsothercertformat_new",    "kovra_cmsotherkeyattr_new",
+                                                   "kovra_cmsotherrecipientinfo_new", "kovra_cmsotherrevinfoformat_new",
+                                                   "kovra_pkcs7contentinfo_new",      "kovra_x509polqualifierinfo_new"};
+    return all.count(function.name) != 0;
+}
+
 // Without the arguments that may be absent, in every combination: the record has copies of just those that were given,
 // and no defaulted part is missing. Any allocation may fail.
 void expect_built(const Function &function, const core::Type &type, const std::vector<const Kept *> &arguments) {
@@ -152,6 +160,12 @@ TEST(Functions, SeveralValuesOfAnyKind) {
                         EXPECT_TRUE(made == nullptr || made->slot(static_cast<uint8_t>(place)) == nullptr ||
                                     core::holds(*shape->components[place].copied_as, record_of(kept.value.get())))
                             << "place " << place << " takes a value of type " << kept.type;
+                        if (made == nullptr || !is_written_as_read(core::row(type)) || takes_end_of_contents(function))
+                            return;
+                        // What is made can be written, and read again.
+                        const Encoded written = encode(type, call.made[0]);
+                        EXPECT_TRUE(written.result != 1 || decode(type, written.octets).result == 1)
+                            << "place " << place << " with a value of type " << kept.type << ": " << hex(kept.octets);
                     });
                 }
             }
@@ -163,6 +177,145 @@ TEST(Functions, SeveralValuesOfAnyKind) {
     EXPECT_EQ(encodings(), before);
 }
 
+// Where a part of a record stands: in one of its slots, or in a slot of what is in its first one.
+using Part = std::pair<int, int>;
+
+std::map<const void *, Part> parts_of(const core::Record &record) {
+    std::map<const void *, Part> found;
+    for (uint8_t i = 0; i < record.shape->count; ++i) {
+        if (const core::Value *part = record.slot(i); part != nullptr)
+            found.emplace(part, Part(i, -1));
+        if (i == 0 && record.shape->signed_slot == 0) {
+            const auto *within = static_cast<const core::Record *>(record.slot(0));
+            for (uint8_t j = 0; j < within->shape->count; ++j)
+                if (within->slot(j) != nullptr)
+                    found.emplace(within->slot(j), Part(0, j));
+        }
+    }
+    return found;
+}
+
+// Two names for what has one structure.
+const std::set<std::string> &shared_parts() {
+    static const std::set<std::string> all = {
+        "kovra_pkcs1digestinfo_getdigest kovra_tsp_messageimprint_gethashedmessage",
+        "kovra_pkcs1digestinfo_getdigestalgorithm kovra_tsp_messageimprint_gethashalgo",
+        "kovra_x509algoid_getalgo kovra_x509polqualifierinfo_getid",
+        "kovra_x509algoid_getparam kovra_x509polqualifierinfo_getqualifier",
+    };
+    return all;
+}
+
+// Each part of a record is what just one function gives, and where functions say which are there, they are right.
+TEST(Functions, EachPartHasItsFunction) {
+    std::set<std::string> shared;
+    for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type) {
+        const core::Type &row = core::row(type);
+        if (!is_structure(row))
+            continue;
+        std::vector<std::string> values = {samples(type)[1 % samples(type).size()].octets};
+        for (const Combination &combination : combinations(type))
+            values.push_back(combination.octets);
+        std::map<Part, std::set<std::string>> givers;
+        std::set<Part> all;
+        for (const std::string &data : values) {
+            const Kept kept = {type, data, decode(type, data).value};
+            const auto &record = *static_cast<const core::Record *>(record_of(kept.value.get()));
+            const std::map<const void *, Part> parts = parts_of(record);
+            for (const auto &[address, part] : parts)
+                all.insert(part);
+            std::map<std::string, bool> given, said;
+            for (const Function &function : functions()) {
+                const std::string name = function.name;
+                if (function.letters != "v")
+                    continue;
+                const std::vector<Identity> &kinds = kinds_of(function);
+                if (std::find(kinds.begin(), kinds.end(), identity(kept.value.get())) == kinds.end())
+                    continue;
+                const int64_t found = call_with(function, {&kept}, 0, [&](const Call &call) {
+                    const auto at = parts.find(call.made[0]);
+                    given[name] = call.made[0] != nullptr;
+                    if (at != parts.end())
+                        givers[at->second].insert(name);
+                });
+                said[name] = found == 1;
+            }
+            for (const auto &[name, is_there] : said) {
+                const size_t has = name.rfind("_has");
+                const std::string getter = has != name.npos ? name.substr(0, has) + "_get" + name.substr(has + 4) : "";
+                if (given.count(getter) != 0) {
+                    EXPECT_EQ(is_there, given[getter]) << name;
+                }
+            }
+        }
+        if (givers.empty())
+            continue;
+        // What is signed is given as a whole, or by its parts.
+        const bool is_taken_apart =
+            givers[Part(0, -1)].empty() &&
+            std::any_of(all.begin(), all.end(), [](const Part &part) { return part.first == 0 && part.second >= 0; });
+        for (const Part &part : all) {
+            if (part.second == -1 ? part.first == 0 && is_taken_apart : !is_taken_apart)
+                continue;
+            if (givers[part].size() == 1)
+                continue;
+            std::string names;
+            for (const std::string &name : givers[part])
+                names += (names.empty() ? "" : " ") + name;
+            shared.insert(names);
+            EXPECT_NE(names, "") << "nothing gives part " << part.first << '.' << part.second << " of type " << type;
+        }
+    }
+    EXPECT_EQ(shared, shared_parts());
+}
+
+// Each constructor of a choice makes one of its alternatives, and no two the same.
+TEST(Functions, EachAlternativeHasItsConstructor) {
+    std::map<std::pair<const void *, uint32_t>, std::string> made;
+    for (const Function &function : functions()) {
+        if (function.letters != "v")
+            continue;
+        std::set<std::pair<const void *, uint32_t>> found;
+        for (const Kept &kept : pool())
+            call_with(function, {&kept}, 0, [&](const Call &call) {
+                const core::Value *value = record_of(call.made[0]);
+                if (value != nullptr && value->kind == core::Kind::choice && is_free(call.made[0]))
+                    found.emplace(static_cast<const core::Choice *>(value)->shape,
+                                  static_cast<const core::Choice *>(value)->alternative);
+            });
+        EXPECT_LE(found.size(), 1u) << function.name;
+        for (const auto &one : found) {
+            const auto [at, is_new] = made.emplace(one, function.name);
+            EXPECT_TRUE(is_new) << function.name << " makes what " << at->second << " does";
+        }
+    }
+    EXPECT_GT(made.size(), 30u);
+}
+
+// What gives the value of a choice gives it for one alternative, or, as is documented of those of CMS, for whichever
+// it is.
+TEST(Functions, EachAlternativeHasItsFunction) {
+    std::map<std::string, std::set<uint32_t>> given;
+    for (const Kept &kept : pool()) {
+        const core::Value *value = record_of(kept.value.get());
+        if (value->kind != core::Kind::choice)
+            continue;
+        const auto &choice = *static_cast<const core::Choice *>(value);
+        for (const Function &function : functions()) {
+            const std::vector<Identity> &kinds = kinds_of(function);
+            if (function.letters != "v" || kinds.size() != 1 || kinds[0] != identity(kept.value.get()))
+                continue;
+            call_with(function, {&kept}, 0, [&](const Call &call) {
+                if (call.made[0] != nullptr && call.made[0] == choice.value)
+                    given[function.name].insert(choice.alternative);
+            });
+        }
+    }
+    for (const auto &[name, alternatives] : given)
+        EXPECT_EQ(alternatives.size() == 1, !name.starts_with("kovra_cms")) << name;
+    EXPECT_GT(given.size(), 30u);
+}
+
 // A function of one value that makes something of it, where memory is short.
 TEST(Functions, EveryAllocationMayFail) {
     for (const Function &function : functions()) {
@@ -170,12 +323,41 @@ TEST(Functions, EveryAllocationMayFail) {
         if (function.values() != 1 || function.may_change())
             continue;
         for (const Identity &kind : kinds_of(function)) {
-            const auto first = std::find_if(pool().begin(), pool().end(), [&](const Kept &kept) {
-                return identity(kept.value.get()) == kind && call_with(function, {&kept}) == 1;
-            });
-            if (first != pool().end())
-                fail_each_allocation([&] { return call_with(function, {&*first}) == 1; });
+            for (const int32_t number : numbers) {
+                const auto first = std::find_if(pool().begin(), pool().end(), [&](const Kept &kept) {
+                    return identity(kept.value.get()) == kind && call_with(function, {&kept}, number) == 1;
+                });
+                if (first != pool().end())
+                    fail_each_allocation([&] { return call_with(function, {&*first}, number) == 1; });
+            }
         }
+    }
+}
+
+// A value has one holder: it is taken over once, never from within another, and never by what it holds itself.
+TEST(Functions, AValueIsTakenOverOnce) {
+    for (const Kept &kept : pool()) {
+        SCOPED_TRACE("type " + std::to_string(kept.type) + ": " + hex(kept.octets));
+        const Value list(24, kovra_asn1_list_new()), other(24, kovra_asn1_list_new());
+        const Handle value = decode(kept.type, kept.octets).value.release();
+        ASSERT_EQ(kovra_asn1_list_put(list.get(), value), 1);
+        EXPECT_EQ(kovra_asn1_list_put(list.get(), value), 0);
+        EXPECT_EQ(kovra_asn1_list_put(other.get(), value), 0);
+        EXPECT_EQ(kovra_asn1_list_put(value, list.get()), 0);
+        EXPECT_EQ(kovra_asn1_list_put(list.get(), list.get()), 0);
+        Handle part = nullptr;
+        if (kovra_asn1_list_get(value, 0, &part) == 1) {
+            EXPECT_EQ(kovra_asn1_list_put(other.get(), part), 0);
+            EXPECT_EQ(kovra_asn1_list_put(part, list.get()), 0);
+        }
+        const core::Value *record = record_of(value);
+        if (record->kind == core::Kind::record)
+            for (uint8_t i = 0; i < static_cast<const core::Record *>(record)->shape->count; ++i) {
+                EXPECT_EQ(kovra_asn1_list_put(other.get(), static_cast<const core::Record *>(record)->slot(i)), 0);
+            }
+        kovra_asn1_value_free(kept.type, value); // not the caller's any more
+        EXPECT_EQ(kovra_asn1_list_getsize(list.get()), 1);
+        EXPECT_EQ(kovra_asn1_list_getsize(other.get()), 0);
     }
 }
 

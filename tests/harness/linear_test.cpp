@@ -34,9 +34,25 @@ std::string nested(char identifier, size_t depth, const std::string &innermost) 
     return repeated(std::string{identifier, '\x80'}, depth) + innermost + std::string(2 * depth, '\0');
 }
 
+// Indefinite and definite lengths in turn.
+std::string nested_in_turn(size_t depth) {
+    std::string begun;
+    for (size_t left = depth; left-- > 0;) {
+        const size_t length = 10 * left;
+        begun += std::string("\x30\x80\x30\x84");
+        for (int shift = 24; shift >= 0; shift -= 8)
+            begun += static_cast<char>(length >> shift);
+    }
+    return begun + std::string(2 * depth, '\0');
+}
+
 std::vector<Growth> growths() {
     std::vector<Growth> found = {
         {"nested sequences", 23, [](size_t n) { return nested('\x30', n, ""); }},
+        {"nested definite sequences", 23, [](size_t n) { return nested_with_lengths('\x30', n, ""); }},
+        {"nested definite tags", 23, [](size_t n) { return nested_with_lengths('\xA0', n, octets("05 00")); }},
+        {"nested definite strings", 4, [](size_t n) { return nested_with_lengths('\x24', n, "\x04\x01x"); }},
+        {"nested in turn", 23, nested_in_turn},
         {"nested tags", 23, [](size_t n) { return nested('\xA0', n, ""); }, false},
         {"nested strings", 4, [](size_t n) { return nested('\x24', n, "\x04\x01x"); }, false},
         {"nested bit strings", 3, [](size_t n) { return nested('\x23', n, octets("03 02 00 78")); }, false},
@@ -152,9 +168,82 @@ TEST(Linear, MemoryAndTimeGrowAsTheInputDoes) {
     }
 }
 
+// Texts of JSON, of which there can be any number of something.
+TEST(Linear, TextsOfJson) {
+    const std::pair<const char *, std::function<std::string(size_t)>> texts[] = {
+        {"depth", [](size_t n) { return std::string(n, '[') + std::string(n, ']'); }},
+        {"depth of objects", [](size_t n) { return repeated("{\"a\":", n) + "1" + std::string(n, '}'); }},
+        {"items", [](size_t n) { return "[" + repeated("1,", n) + "2]"; }},
+        {"members",
+         [](size_t n) {
+             std::string text = "{";
+             for (size_t i = 0; i < n; ++i)
+                 text += "\"m" + std::to_string(i) + "\":null,";
+             return text + "\"m\":0}";
+         }},
+        {"members of one name", [](size_t n) { return "{" + repeated("\"a\":0,", n) + "\"a\":1}"; }},
+        {"characters", [](size_t n) { return "\"" + repeated("\\u00e9x", n) + "\""; }},
+    };
+    for (const auto &[what, make] : texts) {
+        SCOPED_TRACE(what);
+        const auto cost = [&, &make = make](size_t n) {
+            const std::string text = make(n);
+            const MemoryMeter meter;
+            const std::clock_t begin = std::clock();
+            const Json json(kovra_json_parse(text.data(), size_of(text), nullptr));
+            EXPECT_NE(json, nullptr);
+            // Each is looked up, and one more is put.
+            for (size_t i = 0; i < n; ++i) {
+                kovra_json_getarrayitem(json.get(), static_cast<int32_t>(i));
+                kovra_json_getobjectvalue(json.get(), ("m" + std::to_string(i)).c_str());
+                kovra_json_getobjectitem(json.get(), static_cast<int32_t>(i), nullptr);
+            }
+            const Memory<char> printed(kovra_json_print(json.get(), 0, nullptr));
+            EXPECT_NE(printed, nullptr);
+            return Cost{meter.use().allocated, meter.use().peak, 0, std::clock() - begin};
+        };
+        constexpr size_t n = 4000;
+        const Cost one = cost(n), two = cost(2 * n), eight = cost(8 * n);
+        EXPECT_LT(two.allocated, one.allocated * 5 / 2 + allowance);
+        EXPECT_LT(eight.allocated, one.allocated * 10 + allowance);
+        EXPECT_LT(eight.time, one.time * 24 + time_slack);
+    }
+}
+
+// A list that grows by elements that are put in it, values that are adopted by values, and what gives them back.
+TEST(Linear, ValuesThatGrow) {
+    const auto cost = [](size_t n) {
+        const MemoryMeter meter;
+        const std::clock_t begin = std::clock();
+        const Value flat(24, kovra_asn1_list_new());
+        Value deep(24, kovra_asn1_list_new());
+        for (size_t i = 0; i < n; ++i) {
+            EXPECT_EQ(kovra_asn1_list_put(flat.get(), kovra_asn1_any_new(0, 1, 5, 0, nullptr, 0)), 1);
+            Value around(24, kovra_asn1_list_new());
+            EXPECT_EQ(kovra_asn1_list_put(around.get(), deep.release()), 1);
+            deep = std::move(around);
+        }
+        // Looked at while it grows.
+        const Json object(kovra_json_newobject()), array(kovra_json_newarray());
+        for (size_t i = 0; i < n; ++i) {
+            const std::string name = "m" + std::to_string(i);
+            EXPECT_NE(kovra_json_putnumber(object.get(), name.c_str(), 1), nullptr);
+            EXPECT_NE(kovra_json_getobjectvalue(object.get(), name.c_str()), nullptr);
+            EXPECT_NE(kovra_json_putnull(array.get(), nullptr), nullptr);
+            EXPECT_NE(kovra_json_getarrayitem(array.get(), static_cast<int32_t>(i)), nullptr);
+        }
+        return Cost{meter.use().allocated, meter.use().peak, 0, std::clock() - begin};
+    };
+    constexpr size_t n = 2000;
+    const Cost one = cost(n), two = cost(2 * n), eight = cost(8 * n);
+    EXPECT_LT(two.allocated, one.allocated * 5 / 2 + allowance);
+    EXPECT_LT(eight.allocated, one.allocated * 10 + allowance);
+    EXPECT_LT(eight.time, one.time * 24 + time_slack);
+}
+
 // What decoding holds at its peak, whatever comes of it.
-int64_t peak_of_decoding(uint32_t type, const std::string &data) {
-    const Input input(data);
+int64_t peak_of_decoding(uint32_t type, const std::string &data, Feed feed = Feed::memory) {
+    const Input input(data, feed);
     const MemoryMeter meter;
     Handle out = nullptr;
     kovra_asn1_decode(input.stream(), type, &out, nullptr, nullptr);
@@ -177,8 +266,37 @@ TEST(Linear, AnnouncedLengthsTakeNoMemory) {
                     break;
                 const std::string data = begun + sample.octets.substr(at + 2, 1) + octets("84 7F FF FF FF 00");
                 ASSERT_LT(peak_of_decoding(type, data), allowance) << type << ": " << hex(data);
+                ASSERT_LT(peak_of_decoding(type, data, Feed::trickle), allowance) << type << ": " << hex(data);
             }
         }
+        // The content alone, of a length that is only announced.
+        const std::string content = minimal_sample(type).substr(2);
+        for (const int32_t form : {0, 1}) {
+            for (const Feed feed : {Feed::memory, Feed::trickle}) {
+                const Input input(content, feed);
+                const MemoryMeter meter;
+                Handle out = nullptr;
+                kovra_asn1_decode_content(input.stream(), type, &out, form, INT32_MAX, nullptr, nullptr);
+                EXPECT_LT(meter.use().peak, allowance) << type;
+                EXPECT_EQ(out, nullptr) << type;
+            }
+        }
+    }
+}
+
+// Each sample, and much of all there can be much of.
+TEST(Linear, SamplesTakeAFewTimesTheInput) {
+    for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type)
+        for (const Sample &sample : samples(type))
+            for (const Feed feed : {Feed::memory, Feed::trickle})
+                EXPECT_LE(peak_of_decoding(type, sample.octets, feed),
+                          memory_factor * size_of(sample.octets) + allowance)
+                    << type << ' ' << sample.what;
+    for (const Growth &growth : growths()) {
+        const std::string data = growth.make(20000);
+        for (const Feed feed : {Feed::memory, Feed::trickle})
+            EXPECT_LE(peak_of_decoding(growth.type, data, feed), memory_factor * size_of(data) + allowance)
+                << growth.what;
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "core/choice.hpp"
 #include "core/descriptors.hpp"
+#include "core/list.hpp"
 #include "core/structure.hpp"
 #include "tests/asn1_testing.hpp"
 #include "tests/failing_memory.hpp"
@@ -23,6 +24,11 @@ bool has_no_value(uint32_t type) {
 // Types of which there are contents only.
 bool has_no_whole(uint32_t type) {
     return core::row(type).operations->refuses_whole;
+}
+
+bool is_leaf(uint32_t type) {
+    const core::Type &row = core::row(type);
+    return !is_structure(row) && !is_list(row) && (!is_choice(row) || row.operations == &core::any_time_operations);
 }
 
 std::string name_of(uint32_t type, const Sample &sample) {
@@ -52,6 +58,8 @@ Outcome outcome(uint32_t type, const std::string &data, Feed feed) {
     for (int32_t i = 0, line = 0, code = 0; kovra_err_ctx_getentry(ctx.get(), i, &source, &line, &code, &text) == 1;
          ++i)
         found.entries.append(std::to_string(code)).append(source).append(text).append(1, '\n');
+    // A segment that is no end of contents, at the place of one, is refused without a word by a string alone.
+    EXPECT_TRUE(found.result == 1 || !found.entries.empty() || is_leaf(type)) << "a failure without an entry";
     // An INTEGER without content is zero, which is noted and is no failure.
     EXPECT_TRUE(found.result != 1 || found.entries.empty() || found.entries.starts_with("66275")) << found.entries;
     return found;
@@ -68,6 +76,45 @@ Outcome outcome(uint32_t type, const std::string &data) {
         EXPECT_EQ(encode(type, memory.value.get()).octets, encode(type, trickle.value.get()).octets);
     }
     return memory;
+}
+
+// Takes one octet at a time, and refuses when it has as many as it wants.
+struct Sink {
+    static constexpr int32_t refusal = -4711;
+
+    std::string octets;
+    size_t room;
+
+    static int32_t write(void *user, const void *data, int32_t size, int32_t *out_count) {
+        Sink &self = *static_cast<Sink *>(user);
+        *out_count = 0;
+        if (self.octets.size() == self.room)
+            return refusal;
+        self.octets.append(static_cast<const char *>(data), size > 0 ? 1 : 0);
+        *out_count = size > 0 ? 1 : 0;
+        return 1;
+    }
+    Stream stream() {
+        kovra_stream_callbacks callbacks = {};
+        callbacks.write = write;
+        return Stream(kovra_stream_new_callbacks(&callbacks, this, nullptr));
+    }
+};
+
+// Any stream gets the same octets, and what it says when it wants no more is passed up.
+void expect_written(uint32_t type, kovra_asn1_value *value, const std::string &octets) {
+    for (size_t room = 0; room <= octets.size(); ++room) {
+        Sink sink{"", room};
+        const Stream stream = sink.stream();
+        const Errors ctx(kovra_err_ctx_new());
+        int32_t written = -7;
+        const int32_t result = kovra_asn1_encode(stream.get(), type, value, &written, ctx.get());
+        const bool is_whole = room == octets.size();
+        ASSERT_EQ(result, is_whole ? 1 : Sink::refusal) << "room for " << room;
+        EXPECT_EQ(written, is_whole ? size_of(octets) : -7);
+        EXPECT_EQ(kovra_err_ctx_getcount(ctx.get()) == 0, is_whole);
+        EXPECT_EQ(hex(sink.octets), hex(octets.substr(0, room)));
+    }
 }
 
 // What was read can be written as long as announced, and that is read as what is written alike.
@@ -141,7 +188,9 @@ TEST(Rows, WhatIsReadIsWrittenAndReadAgain) {
             if (written.result != 1)
                 continue;
             expect_sound_content(type, read.value.get());
-            const Value copy(type, kovra_asn1_dupobject(type, read.value.get(), nullptr));
+            if (sample.what != "long")
+                expect_written(type, read.value.get(), written.octets);
+            Value copy(type, kovra_asn1_dupobject(type, read.value.get(), nullptr));
             EXPECT_TRUE(copy || !is_written_as_read(core::row(type)));
             if (copy) {
                 EXPECT_EQ(hex(encode(type, copy.get()).octets), hex(written.octets));
@@ -150,6 +199,12 @@ TEST(Rows, WhatIsReadIsWrittenAndReadAgain) {
             if (sample.what == "minimal" || sample.what == "full" || sample.what == "long") {
                 EXPECT_TRUE(hex(written.octets) == hex(sample.octets) || !is_written_as_read(core::row(type)))
                     << hex(written.octets);
+            }
+            // To release takes no memory.
+            {
+                const ScarceMemory scarce(0);
+                copy = Value();
+                EXPECT_FALSE(ScarceMemory::has_failed());
             }
             // What stands behind a value is left where it is.
             const Outcome followed = outcome(type, sample.octets + "\x30\x80");
@@ -195,8 +250,15 @@ TEST(Rows, Truncations) {
             if (sample.what == "long")
                 continue;
             SCOPED_TRACE(name_of(type, sample));
-            for (size_t end = 0; end < sample.octets.size(); ++end)
+            for (size_t end = 0; end < sample.octets.size(); ++end) {
                 ASSERT_NE(outcome(type, sample.octets.substr(0, end)).result, 1) << "cut at " << end;
+                // What a stream says that has no more is passed up.
+                const Input input(sample.octets, Feed::trickle, end, Sink::refusal);
+                kovra_asn1_value *out = nullptr;
+                const int32_t result = kovra_asn1_decode(input.stream(), type, &out, nullptr, nullptr);
+                ASSERT_TRUE(result == Sink::refusal || has_no_whole(type)) << "refused at " << end;
+                ASSERT_EQ(out, nullptr);
+            }
         }
     }
 }
@@ -264,6 +326,8 @@ std::vector<std::string> changes_of(const std::string &data, const std::vector<P
     put(std::string(1, static_cast<char>(identifier | 0x20)) + '\x80' + content + end);
     put(std::string(1, static_cast<char>(identifier)) + "\x84" +
         std::string{0, 0, static_cast<char>(content.size() >> 8), static_cast<char>(content.size())} + content);
+    for (const char *length : {"\x84\x7F\xFF\xFF\xFF", "\x84\x80", "\x84\xFF\xFF\xFF\xFF", "\x85\x01"})
+        put(whole.substr(0, 1) + (std::string(length) + std::string(4, '\0')).substr(0, 1 + (length[0] & 7)) + content);
     // Lengths that are wrong.
     const size_t last = place.begin + place.header - 1;
     for (const int octet : {data[last] + 1, data[last] - 1, 0x00, 0x80, 0x84, 0xFF}) {
@@ -337,6 +401,11 @@ TEST(Rows, FormsTagsAndArguments) {
                   0x10002);
         EXPECT_EQ(encode(type, nullptr).codes.at(0), 0x10002);
         EXPECT_EQ(kovra_asn1_length(type, nullptr), -2);
+        if (is_list(row)) {
+            const bool may_be_empty = !static_cast<const core::ListShape *>(row.shape)->nonempty;
+            EXPECT_EQ(decode(type, element(data[0], "")).result, may_be_empty ? 1 : 0);
+            EXPECT_EQ(decode(type, std::string{data[0], '\x80', 0, 0}).result, may_be_empty ? 1 : 0);
+        }
         if (is_choice(row)) {
             if (row.operations != &core::any_time_operations) {
                 EXPECT_EQ(decode_content(type, data.substr(2), 0, size_of(data) - 2).codes.at(0), 0x1026d);
@@ -364,8 +433,119 @@ TEST(Rows, FormsTagsAndArguments) {
     }
 }
 
-TEST(Rows, EveryAllocationMayFail) {
+// Where the components of a structure stand in its octets.
+struct Part {
+    const core::Component &component;
+    size_t place; // of the outermost identifier
+};
+
+// Calls look(combination, places, part) with each component of each structure, in each of the combinations.
+template <class Look> void for_each_component(Look look) {
     for (uint32_t type = 0; type < type_count; ++type) {
+        for (const Combination &combination : combinations(type)) {
+            const auto &shape = *static_cast<const core::Structure *>(core::row(type).shape);
+            std::vector<Place> places;
+            std::vector<size_t> around;
+            find_places(combination.octets, 0, combination.octets.size(), around, places);
+            uint8_t slot = 0;
+            for (size_t i = 1; i < places.size(); ++i) {
+                if (places[i].around.size() != 1)
+                    continue;
+                while ((combination.present >> slot & 1) == 0)
+                    ++slot;
+                SCOPED_TRACE("type " + std::to_string(type) + ", " + shape.components[slot].name + ": " +
+                             hex(combination.octets));
+                look(type, combination.octets, places, Part{shape.components[slot++], i});
+            }
+        }
+    }
+}
+
+// Where a component is broken, one of the entries has its code.
+TEST(Rows, EntriesNameTheComponent) {
+    size_t count = 0;
+    for_each_component([&](uint32_t type, const std::string &data, const std::vector<Place> &places, const Part &part) {
+        const core::Type &row = core::row(type);
+        if (row.operations == &core::kept_structure_operations ||
+            static_cast<const core::Structure *>(row.shape)->signed_slot == 0)
+            return; // walked first, which finds the fault
+        // What an explicit tag holds is the component.
+        const bool is_explicit = part.component.tag.tagging == core::Tagging::explicit_;
+        const Place &place = places[part.place + (is_explicit ? 1 : 0)];
+        const Decoded read =
+            decode(type, with(data, places, place, data.substr(place.begin, 1) + octets("84 7F FF FF FF")));
+        EXPECT_EQ(read.result, 0);
+        const int32_t code = core::decode_code(part.component);
+        EXPECT_TRUE(code == core::no_code || std::find(read.codes.begin(), read.codes.end(), code) != read.codes.end())
+            << read.codes << std::hex << code;
+        ++count;
+    });
+    EXPECT_GT(count, 1000u);
+}
+
+// An identifier that no component begins with is refused, and so is what an explicit tag holds too much or too little.
+TEST(Rows, IdentifiersAreTheirComponents) {
+    size_t count = 0;
+    for_each_component([&](uint32_t type, const std::string &data, const std::vector<Place> &places, const Part &part) {
+        const auto &shape = *static_cast<const core::Structure *>(core::row(type).shape);
+        const Place &place = places[part.place];
+        const std::string whole = data.substr(place.begin, place.end - place.begin);
+        const auto expect_refused = [&](const std::string &instead) {
+            ++count;
+            EXPECT_EQ(decode(type, with(data, places, place, instead)).result, 0) << hex(instead);
+        };
+        if (part.component.tag.tagging == core::Tagging::explicit_) {
+            const std::string content = whole.substr(place.header);
+            expect_refused(element(whole[0] ^ 0x20, content));
+            expect_refused(element(whole[0], ""));
+            expect_refused(element(whole[0], content + content));
+            expect_refused(element(whole[0], content + octets("00 00")));
+        }
+        if (std::any_of(shape.components, shape.components + shape.count,
+                        [](const core::Component &other) { return other.type == KOVRA_ASN1_TYPE_ANY; }))
+            return;
+        for (const int identifier : {0xDE, 0xFE, 0x0E, 0x2E, 0x5E, 0x7E})
+            expect_refused(element(identifier, whole.substr(place.header)));
+        expect_refused(whole + octets("DE 01 00"));
+    });
+    EXPECT_GT(count, 5000u);
+}
+
+// Every open type is each of the universal types, in each form, and nothing takes it for what it is not.
+TEST(Rows, OpenTypesAreAnything) {
+    size_t read = 0;
+    read_everything(pool()[0].value.get());
+    const std::string contents[] = {"", std::string("A\0B", 3), octets("04 01 41"), octets("02 01 05 30 80 00 00"),
+                                    std::string(9, '\xFF')};
+    for (uint32_t type = 0; type < type_count && !HasFailure(); ++type) {
+        if (with_open_type(type, octets("DF 1F 00")).empty())
+            continue;
+        for (int identifier = 0; identifier < 0x40; ++identifier) {
+            for (const std::string &content : contents) {
+                const bool is_open = &content == &contents[3];
+                const std::string open =
+                    is_open ? std::string{static_cast<char>(identifier), '\x80'} + content + std::string(2, '\0')
+                            : element(identifier, content);
+                for (const std::string &data : with_open_type(type, open)) {
+                    SCOPED_TRACE("type " + std::to_string(type) + ": " + hex(data));
+                    const Outcome found = outcome(type, data);
+                    if (!found.value)
+                        continue;
+                    ++read;
+                    expect_sound(type, found.value.get());
+                    read_everything_within(found.value.get());
+                }
+            }
+        }
+    }
+    EXPECT_GT(read, 5000u);
+}
+
+// A quarter of the types at a time.
+class Scarcity : public testing::TestWithParam<uint32_t> {};
+
+TEST_P(Scarcity, EveryAllocationMayFail) {
+    for (uint32_t type = GetParam(); type < type_count; type += 4) {
         for (const Sample &sample : samples(type)) {
             if (has_no_whole(type))
                 continue;
@@ -390,7 +570,13 @@ TEST(Rows, EveryAllocationMayFail) {
                         }
                         if (has_no_value(type))
                             return true;
-                        const Value copy(type, kovra_asn1_dupobject(type, value.get(), nullptr));
+                        const Value copy(type, kovra_asn1_dupobject(type, value.get(), ctx.get()));
+                        EXPECT_TRUE(copy || !is_written || kovra_err_ctx_getcount(ctx.get()) != 0);
+                        kovra_err_ctx_clear(ctx.get());
+                        const Stream stream = memory_stream();
+                        const int32_t put =
+                            stream == nullptr ? 1 : kovra_asn1_encode(stream.get(), type, out, nullptr, ctx.get());
+                        EXPECT_TRUE(put == 1 || !is_written || kovra_err_ctx_getcount(ctx.get()) != 0);
                         const Blob encoding(kovra_asn1_mem_encode(type, value.get()));
                         const Value any(KOVRA_ASN1_TYPE_ANY, kovra_asn1_objecttoany(type, value.get()));
                         kovra_asn1_value *back = nullptr;
@@ -406,6 +592,8 @@ TEST(Rows, EveryAllocationMayFail) {
         }
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Rows, Scarcity, testing::Range(0u, 4u));
 
 // The examples, read as all that they can be read as: cut, and where memory is short.
 TEST(Rows, FilesAreCutAndReadWithoutMemory) {

@@ -42,6 +42,7 @@ struct Flavour {
     const char *integer;
     const char *octets;
     const char *any;
+    const std::string *open = nullptr; // the octets of every open type, instead
 };
 constexpr Flavour flavours[] = {
     {"02 01 03", "04 02 AB CD", "05 00"},
@@ -105,6 +106,8 @@ std::vector<std::string> leaves(const Type &type, const Flavour &flavour) {
             found.push_back(element(24, "20300102030405Z"));
             found.push_back(element(24, "20300102030405.25Z"));
         }
+    } else if (operations == &core::any_operations && flavour.open != nullptr) {
+        found.push_back(*flavour.open);
     } else if (operations == &core::any_operations) {
         for (const char *hex : {flavour.any, "A0 03 02 01 05", "7F 83 00 02 05 00", "30 80 02 01 05 24 80 00 00 00 00",
                                 "04 03 41 00 42", "DF 1F 00"})
@@ -298,6 +301,19 @@ std::string element(int identifier, const std::string &content) {
     return whole + content;
 }
 
+std::string nested_with_lengths(char identifier, size_t depth, const std::string &innermost) {
+    constexpr size_t header = 6;
+    std::string nest;
+    nest.reserve(header * depth + innermost.size());
+    for (size_t left = depth; left-- > 0;) {
+        const size_t length = header * left + innermost.size();
+        nest += std::string{identifier, '\x84'};
+        for (int shift = 24; shift >= 0; shift -= 8)
+            nest += static_cast<char>(length >> shift);
+    }
+    return nest + innermost;
+}
+
 bool is_structure(const Type &type) {
     return type.operations == &core::structure_operations || type.operations == &core::kept_structure_operations;
 }
@@ -339,14 +355,54 @@ std::vector<Combination> combinations(uint32_t number) {
     return found;
 }
 
+std::vector<std::string> with_open_type(uint32_t number, const std::string &open) {
+    const Type &type = core::row(number);
+    std::vector<std::string> found;
+    for (const Extent extent : {Extent::minimal, Extent::full}) {
+        Flavour flavour = flavour_of(type, extent);
+        flavour.open = &open;
+        const std::string whole = make(type, extent, flavour, 0);
+        if (whole.find(open) != whole.npos && (found.empty() || found[0] != whole))
+            found.push_back(whole);
+    }
+    return found;
+}
+
+namespace {
+
+// A value that is none of those that are taken, like the given one but for an octet.
+std::string another(const Type &type, const std::string &data, const std::vector<std::string> &taken) {
+    const auto is_free = [&](const std::string &one) {
+        return std::find(taken.begin(), taken.end(), one) == taken.end() && is_read(type, one) &&
+               encode(type.number, decode(type.number, one).value.get()).octets == one;
+    };
+    std::string changed = data;
+    for (size_t at = data.size(); !is_free(changed) && at-- > 2;)
+        for (int step = 0; step < 16 && !is_free(changed); ++step) {
+            changed = data;
+            changed[at] = static_cast<char>(data[at] ^ (step < 8 ? step : step << 4));
+        }
+    return is_free(changed) ? changed : data;
+}
+
+} // namespace
+
 std::vector<Sample> component_values(const Type &type) {
     std::vector<Sample> found;
+    std::vector<std::string> taken;
     if (is_structure(type)) {
         const Structure &shape = shape_of<Structure>(type);
         const Flavour &flavour = flavour_of(type, Extent::minimal);
-        for (uint32_t i = 0; i < shape.count; ++i)
-            found.push_back(
-                {shape.components[i].name, make(*shape.components[i].copied_as, Extent::minimal, flavour, 0)});
+        for (uint32_t i = 0; i < shape.count; ++i) {
+            const Type &component = *shape.components[i].copied_as;
+            std::string data = make(component, Extent::minimal, flavour, 0);
+            if (std::find(taken.begin(), taken.end(), data) != taken.end())
+                data = make(component, Extent::full, flavour, 0);
+            if (shape.allows == nullptr)
+                data = another(component, data, taken);
+            taken.push_back(data);
+            found.push_back({shape.components[i].name, data});
+        }
     }
     return found;
 }

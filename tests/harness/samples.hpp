@@ -30,7 +30,11 @@ struct Combination {
 };
 std::vector<Combination> combinations(uint32_t type);
 
-// A value of each component of a structure, as constructors take it; empty when the row is none.
+// A minimal and a full value in which every open type is the given element; none where there is no open type.
+std::vector<std::string> with_open_type(uint32_t type, const std::string &open);
+
+// A value of each component of a structure, as constructors take it, no two alike where that can be; empty when the row
+// is none.
 std::vector<Sample> component_values(const core::Type &type);
 
 // Is everything in the type written as it is read? A few components are written under another tag, or not at all.
@@ -45,5 +49,8 @@ bool is_choice(const core::Type &type); // of any kind: no content without the i
 
 // An element of definite length.
 std::string element(int identifier, const std::string &content);
+
+// Elements of one identifier around each other, with lengths of four octets.
+std::string nested_with_lengths(char identifier, size_t depth, const std::string &innermost);
 
 } // namespace kovra::test

@@ -1,0 +1,253 @@
+// Contents at the end of what may be read, numbers of all signs and forms, and the largest tags and lengths.
+#include <array>
+#include <functional>
+
+#include "kovra/asn1_any.h"
+#include "kovra/asn1_integer.h"
+#include "kovra/asn1_json.h"
+#include "kovra/util_coding.h"
+#include "kovra/util_ustring.h"
+#include "tests/asn1_testing.hpp"
+#include "tests/failing_memory.hpp"
+#include "tests/harness/functions.hpp"
+#include "tests/harness/samples.hpp"
+
+#ifndef _WIN32
+#include <sys/mman.h>
+#include <unistd.h>
+#endif
+
+namespace kovra::test {
+namespace {
+
+#ifndef _WIN32
+
+// Pages and, behind them, one that nobody may touch.
+class Page {
+public:
+    Page() {
+        void *memory = mmap(nullptr, 2 * size_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        EXPECT_NE(memory, MAP_FAILED);
+        EXPECT_EQ(mprotect(static_cast<char *>(memory) + size_, size_, PROT_NONE), 0);
+        begin_ = static_cast<char *>(memory);
+    }
+    ~Page() { munmap(begin_, 2 * size_); }
+    Page(const Page &) = delete;
+    Page &operator=(const Page &) = delete;
+
+    // The octets, where the page ends.
+    const char *end_with(std::string_view data) {
+        char *place = begin_ + size_ - data.size();
+        std::memcpy(place, data.data(), data.size());
+        return place;
+    }
+
+private:
+    size_t size_ = 16 * static_cast<size_t>(sysconf(_SC_PAGESIZE));
+    char *begin_ = nullptr;
+};
+
+// Each function that takes octets and how many there are. The value is read again, by everything that reads one.
+TEST(Edges, NothingIsReadBehindTheOctets) {
+    const auto keep = [](kovra_asn1_value *made) {
+        const Value value(KOVRA_ASN1_TYPE_ANY, made);
+        if (value)
+            read_everything(made);
+    };
+    const std::function<void(const char *, int32_t)> takers[] = {
+        [&](const char *data, int32_t length) { keep(kovra_asn1_octetstring_new(data, length)); },
+        [&](const char *data, int32_t length) { keep(kovra_asn1_string_new(data, length)); },
+        [&](const char *data, int32_t length) { keep(kovra_asn1_integer_new(data, length)); },
+        [&](const char *data, int32_t length) { keep(kovra_asn1_unsigned_integer_new(data, length)); },
+        [&](const char *data, int32_t length) { keep(kovra_asn1_bitstring_new(3, data, length)); },
+        [&](const char *data, int32_t length) { keep(kovra_asn1_any_new(0, 1, 4, length, data, length)); },
+        [](const char *data, int32_t length) { Blob(kovra_data_blob_new(data, length)); },
+        [](const char *data, int32_t length) { BitSet(kovra_bitset_new(0, data, length)); },
+        [](const char *data, int32_t length) { BigInteger(kovra_biginteger_newdata(data, length)); },
+        [](const char *data, int32_t length) { kovra_ustring_free(kovra_ustring_newutf8(data, length)); },
+        [](const char *data, int32_t length) { kovra_ustring_free(kovra_ustring_newutf16be(data, length)); },
+        [](const char *data, int32_t length) { kovra_ustring_free(kovra_ustring_newutf32be(data, length)); },
+        [](const char *data, int32_t length) { kovra_ustring_free(kovra_ustring_newbmp(data, length)); },
+        [](const char *data, int32_t length) { kovra_json_free(kovra_json_parse(data, length, nullptr)); },
+        [](const char *data, int32_t length) { kovra_json_free(kovra_json_newstring(data, length)); },
+        [](const char *data, int32_t length) { kovra_json_free(kovra_asn1_tojson(data, length)); },
+        [](const char *data, int32_t length) { Memory<char>(kovra_hexencode(data, length, 0, nullptr)); },
+        [](const char *data, int32_t length) { Memory<char>(kovra_base64encode(data, length, 1, nullptr)); },
+        [](const char *data, int32_t length) { Memory<char>(kovra_pemencode(data, length, "X", nullptr)); },
+        [](const char *data, int32_t length) {
+            int32_t size = 0;
+            Memory<void>(kovra_hexdecode(data, length, &size));
+            for (const int32_t mode : {KOVRA_BASE64_STRICT, KOVRA_BASE64_IGNORE_SPACE})
+                Memory<void>(kovra_base64decode(data, length, mode, &size));
+        },
+    };
+    const std::string texts[] = {"",
+                                 "a",
+                                 std::string("a\0b", 3),
+                                 std::string(1, '\0'),
+                                 "QUJD",
+                                 "41424",
+                                 "QUI=",
+                                 "\xE2\x82",
+                                 "\xF0\x9F\x98",
+                                 "\xD8\x3D",
+                                 "[1,2",
+                                 "\"\\ud83d",
+                                 "123",
+                                 "{\"a\":tru",
+                                 "\"open",
+                                 std::string(2, '\0'),
+                                 "-1e"};
+    Page page;
+    read_everything(pool()[0].value.get()); // what it keeps for later is no leak
+    for (const std::string &text : texts)
+        for (const auto &taker : takers) {
+            SCOPED_TRACE(std::to_string(&taker - takers) + " " + hex(text));
+            const char *data = page.end_with(text);
+            const int64_t before = live_blocks();
+            taker(data, size_of(text));
+            EXPECT_EQ(live_blocks(), before);
+            for (const bool fails_once : {false, true})
+                fail_each_allocation(
+                    [&] {
+                        taker(data, size_of(text));
+                        return true;
+                    },
+                    fails_once);
+        }
+}
+
+// The samples as well: whole and cut, each a decode of its own.
+TEST(Edges, NothingIsReadBehindAnEncoding) {
+    Page page;
+    for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type)
+        for (const Sample &sample : samples(type))
+            for (size_t end = sample.what == "long" ? sample.octets.size() : 0; end <= sample.octets.size(); ++end) {
+                const char *data = page.end_with(std::string_view(sample.octets).substr(0, end));
+                kovra_asn1_value *out = nullptr;
+                const int32_t read = kovra_asn1_mem_decode(data, static_cast<int32_t>(end), type, &out);
+                const Value value(type, out);
+                EXPECT_TRUE(end == sample.octets.size() || read <= 0) << type << ' ' << sample.what << ' ' << end;
+            }
+}
+
+#endif
+
+// Calls look(octets) with all contents of one and two octets, and longer ones of the octets at which something changes.
+template <class Look> void for_each_integer(Look look) {
+    std::string content(1, '\0');
+    for (int first = 0; first < 256; ++first) {
+        look(std::string(1, static_cast<char>(first)));
+        for (int second = 0; second < 256; ++second)
+            look(std::string{static_cast<char>(first), static_cast<char>(second)});
+    }
+    constexpr char edges[] = {0x00, 0x01, 0x7F, '\x80', '\xFF'};
+    for (const size_t length : {3, 4, 5, 8, 9, 17})
+        for (int pattern = 0; pattern < 625; ++pattern) {
+            // The first two, one in the middle and the last.
+            std::string octets(length, edges[pattern % 5]);
+            octets[0] = edges[pattern / 125];
+            octets[1] = edges[pattern / 25 % 5];
+            octets[length - 1] = edges[pattern / 5 % 5];
+            look(octets);
+        }
+}
+
+TEST(Edges, IntegersOfAllSignsAndForms) {
+    for_each_integer([](const std::string &octets) {
+        SCOPED_TRACE(hex(octets));
+        const auto at = [&](size_t i) { return static_cast<uint8_t>(octets[i]); };
+        size_t redundant = 0;
+        while (redundant + 1 < octets.size() && (at(redundant) == 0x00 || at(redundant) == 0xFF) &&
+               (at(redundant) ^ (at(redundant + 1) >= 0x80 ? 0xFF : 0x00)) == 0)
+            ++redundant;
+        const std::string minimal = octets.substr(redundant);
+        int64_t number = at(0) >= 0x80 ? -1 : 0;
+        for (const char octet : minimal)
+            number = static_cast<int64_t>(static_cast<uint64_t>(number) << 8 | static_cast<uint8_t>(octet));
+        const bool is_small = minimal.size() <= 4 && number != INT32_MIN;
+        for (const uint32_t type : {KOVRA_ASN1_TYPE_INTEGER, KOVRA_ASN1_TYPE_ENUMERATED}) {
+            const int tag = type == KOVRA_ASN1_TYPE_INTEGER ? 2 : 10;
+            const Value made(type, kovra_asn1_integer_new(octets.data(), size_of(octets)));
+            EXPECT_EQ(hex(encode(type, made.get()).octets), hex(element(tag, minimal)));
+            // What is read is kept as it is.
+            const Decoded read = decode(type, element(tag, octets));
+            ASSERT_EQ(read.result, 1);
+            EXPECT_EQ(read.codes.size(), redundant != 0 ? 1u : 0u);
+            EXPECT_EQ(hex(encode(type, read.value.get()).octets), hex(element(tag, octets)));
+            EXPECT_EQ(kovra_asn1_integer_equals(made.get(), read.value.get()), redundant == 0 ? 1 : 0);
+            for (const Value *value : {&made, &read.value}) {
+                int32_t small = 0;
+                EXPECT_EQ(kovra_asn1_integer_getlong(value->get(), &small), is_small ? 1 : 0);
+                EXPECT_EQ(small, is_small ? number : 0);
+                const BigInteger big(kovra_asn1_integer_getbigintger(value->get()));
+                const Value back(type, kovra_asn1_integer_newbigint(big.get()));
+                EXPECT_EQ(hex(encode(type, back.get()).octets), hex(element(tag, minimal)));
+            }
+        }
+        // The same octets as a magnitude.
+        const size_t zeros = std::min(octets.find_first_not_of('\0'), octets.size() - 1);
+        const std::string magnitude = (at(zeros) >= 0x80 ? std::string(1, '\0') : "") + octets.substr(zeros);
+        const Value magnitude_made(2, kovra_asn1_unsigned_integer_new(octets.data(), size_of(octets)));
+        EXPECT_EQ(encoding(magnitude_made), hex(element(2, magnitude)));
+    });
+}
+
+// Every tag number with one bit, and its neighbours, in each class and form.
+TEST(Edges, TagsOfEverySize) {
+    std::vector<int32_t> tags = {INT32_MAX};
+    for (int bit = 0; bit < 31; ++bit)
+        for (const int64_t tag : {(int64_t{1} << bit) - 1, int64_t{1} << bit, (int64_t{1} << bit) + 1})
+            tags.push_back(static_cast<int32_t>(tag));
+    for (const int32_t tag : tags)
+        for (const uint32_t tag_class : {0x40U, 0x80U, 0xC0U})
+            for (const int32_t form : {0, 1}) {
+                SCOPED_TRACE(std::to_string(tag_class) + " " + std::to_string(tag));
+                const std::string content = octets("04 01 41");
+                const Value made(
+                    23, kovra_asn1_any_new(tag_class, form, tag, size_of(content), content.data(), size_of(content)));
+                const std::string data = encode(23, made.get()).octets;
+                std::string identifier(1, static_cast<char>(tag_class | (form == 0 ? 0x20U : 0U) |
+                                                            static_cast<uint32_t>(std::min(tag, 31))));
+                for (int shift = 28; shift >= 0 && tag >= 31; shift -= 7)
+                    if (tag >> shift != 0)
+                        identifier += static_cast<char>((tag >> shift & 0x7F) | (shift != 0 ? 0x80 : 0));
+                ASSERT_EQ(hex(data), hex(identifier + '\x03' + content));
+                const Decoded read = decode(23, data);
+                ASSERT_EQ(read.result, 1) << read.codes;
+                int32_t found = -1;
+                EXPECT_EQ(kovra_asn1_any_gettagnumber(read.value.get(), &found), 1);
+                EXPECT_EQ(found, tag);
+                const std::unique_ptr<kovra_json, Releaser<kovra_json_free>> json(
+                    kovra_asn1_tojson(data.data(), size_of(data)));
+                const Blob back(kovra_asn1_encodejson(json.get()));
+                ASSERT_NE(back, nullptr);
+                EXPECT_EQ(hex(text_of(back.get())), hex(data));
+            }
+    for (const char *identifier : {"9F 1E", "9F 00", "9F 80 1E", "9F 88 80 80 80 00", "9F FF FF FF FF 7F",
+                                   "9F 90 80 80 80 80 00", "9F 81 80 80 80 80 80 00"})
+        EXPECT_EQ(decode(23, octets(identifier) + octets("01 00")).result, 0) << identifier;
+}
+
+// Lengths around the largest that there is, announced and given, of every type.
+TEST(Edges, LengthsOfEverySize) {
+    for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type) {
+        SCOPED_TRACE(type);
+        const std::string &data = minimal_sample(type);
+        const std::string content = data.substr(2);
+        for (const char *length : {"84 7F FF FF FF", "84 80 00 00 00", "84 FF FF FF FF", "85 01 00 00 00 00",
+                                   "88 FF FF FF FF FF FF FF FF", "FE 01", "FF"}) {
+            for (const Feed feed : {Feed::memory, Feed::trickle}) {
+                const Decoded read = decode(type, data.substr(0, 1) + octets(length) + content, feed);
+                EXPECT_EQ(read.result, 0) << length;
+                EXPECT_FALSE(read.codes.empty()) << length;
+            }
+        }
+        for (const int32_t length : {INT32_MAX, INT32_MAX - 1, -2, INT32_MIN})
+            for (const int32_t form : {0, 1})
+                EXPECT_NE(decode_content(type, content, form, length).result, 1) << length;
+    }
+}
+
+} // namespace
+} // namespace kovra::test
