@@ -155,9 +155,16 @@ bool Arena::adopt(Value *value) {
     Arena *arena = value->arena;
     if (!arena->is_root(value) || arena->is_owned())
         return false;
-    for (const Arena *holder = this; holder != nullptr; holder = holder->owner_)
-        if (holder == arena)
-            return false;
+    // What nobody owns holds this one only as the outermost. The links are shortened on the way, so that a chain that
+    // grows at its inner end is not walked again and again.
+    Arena *outermost = this;
+    while (outermost->owner_ != nullptr) {
+        if (outermost->owner_->owner_ != nullptr)
+            outermost->owner_ = outermost->owner_->owner_;
+        outermost = outermost->owner_;
+    }
+    if (outermost == arena)
+        return false;
     arena->owner_ = this;
     arena->sibling_ = adopted_;
     adopted_ = arena;

@@ -53,6 +53,19 @@ TEST(Descriptions, OfWhatTheyEncode) {
         if (der == sample.octets) {
             EXPECT_EQ(printed(again), text);
         }
+        // Under a tag, which stands around it or in the place of its own identifier.
+        for (const bool is_explicit : {true, false}) {
+            const std::string tagged =
+                "{\"type\":\"TAGGEDTYPE\",\"number\":5,\"explicit\":" + std::string(is_explicit ? "true" : "false") +
+                ",\"value\":" + text + "}";
+            const Json wrapped(kovra_json_parse(tagged.data(), size_of(tagged), nullptr));
+            if (is_explicit) {
+                EXPECT_EQ(hex(encoded(wrapped)), hex(element(0xA5, der)));
+            } else if ((der[0] & 0xDF) < 0x1F) {
+                EXPECT_EQ(hex(encoded(wrapped)),
+                          hex(std::string(1, static_cast<char>(0x85 | (der[0] & 0x20))) + der.substr(1)));
+            }
+        }
         int64_t offset = 0;
         const Json parsed(kovra_json_parse(text.data(), size_of(text), &offset));
         EXPECT_EQ(printed(parsed), text);

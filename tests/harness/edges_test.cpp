@@ -193,6 +193,26 @@ TEST(Edges, IntegersOfAllSignsAndForms) {
     });
 }
 
+// An arc in the fewest octets that fits 64 bits is read; what is behind the last whole one does not matter.
+TEST(Edges, ObjectIdentifiersOfAllForms) {
+    for_each_integer([](const std::string &octets) {
+        bool is_good = true;
+        for (size_t begin = 0, at = 0; at < octets.size(); ++at) {
+            if (octets[at] < 0)
+                continue;
+            // Ten octets hold 70 bits.
+            const size_t count = at + 1 - begin;
+            const bool fits = count < 10 || (count == 10 && static_cast<uint8_t>(octets[begin]) <= 0x81);
+            is_good = is_good && fits && static_cast<uint8_t>(octets[begin]) != 0x80;
+            begin = at + 1;
+        }
+        for (const auto &[type, tag] : {std::pair(KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER, 6), std::pair(90, 13)}) {
+            const Decoded read = decode(static_cast<uint32_t>(type), element(tag, octets));
+            EXPECT_EQ(read.result, is_good ? 1 : 0) << type << ' ' << hex(octets);
+        }
+    });
+}
+
 // Every tag number with one bit, and its neighbours, in each class and form.
 TEST(Edges, TagsOfEverySize) {
     std::vector<int32_t> tags = {INT32_MAX};

@@ -173,7 +173,8 @@ TEST(Functions, SeveralValuesOfAnyKind) {
         }
     }
     RecordProperty("understood", static_cast<int>(understood));
-    EXPECT_GT(understood, 100u);
+    // All that take the parts of a structure: one that makes nothing any more is missed here.
+    EXPECT_GE(understood, 109u);
     EXPECT_EQ(encodings(), before);
 }
 

@@ -223,6 +223,12 @@ TEST(Linear, ValuesThatGrow) {
             EXPECT_EQ(kovra_asn1_list_put(around.get(), deep.release()), 1);
             deep = std::move(around);
         }
+        Handle innermost = deep.get();
+        for (size_t i = 0; i < n; ++i) {
+            const Handle inner = kovra_asn1_list_new();
+            EXPECT_EQ(kovra_asn1_list_put(innermost, inner), 1);
+            innermost = inner;
+        }
         // Looked at while it grows.
         const Json object(kovra_json_newobject()), array(kovra_json_newarray());
         for (size_t i = 0; i < n; ++i) {
