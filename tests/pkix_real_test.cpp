@@ -53,9 +53,6 @@ void expect_fields(const std::string &data) {
     EXPECT_EQ(encoded(34, kovra_x509pubkeycert_getvalidity(cert.get())), hex(rest[3]));
     EXPECT_EQ(encoded(32, kovra_x509pubkeycert_getsubject(cert.get())), hex(rest[4]));
     EXPECT_EQ(encoded(35, kovra_x509pubkeycert_getpubkey(cert.get())), hex(rest[5]));
-    EXPECT_EQ(kovra_x509pubkeycert_hasissueruid(cert.get()), 0);
-    EXPECT_EQ(kovra_x509pubkeycert_hassubjectuid(cert.get()), 0);
-    EXPECT_EQ(kovra_x509pubkeycert_hasexts(cert.get()), rest.size() > 6);
     if (rest.size() > 6) {
         EXPECT_EQ(encoded(37, kovra_x509pubkeycert_getexts(cert.get())), hex(children(rest[6])[0]));
     }
@@ -126,15 +123,9 @@ TEST(PkixReal, EveryFieldOfEveryCertificate) {
                                 kovra_x509crl_getnextupdate(crl.get()), revoked, 1, kovra_x509crl_getexts(crl.get())));
         const Value built(41, kovra_x509crl_create(tbs.get(), kovra_x509crl_getsignvalue(crl.get())));
         EXPECT_EQ(encoding(built), hex(data));
-        EXPECT_EQ(kovra_x509crl_hasversion(crl.get()), kovra_x509crl_getversion(crl.get()) != nullptr);
-        EXPECT_EQ(kovra_x509crl_hasnextupdate(crl.get()), kovra_x509crl_getnextupdate(crl.get()) != nullptr);
-        EXPECT_EQ(kovra_x509crl_hasrevcerts(crl.get()), revoked != nullptr);
-        EXPECT_EQ(kovra_x509crl_hasexts(crl.get()), kovra_x509crl_getexts(crl.get()) != nullptr);
-        EXPECT_EQ(encoded(33, kovra_x509crl_getsignalgo(crl.get())), hex(children(data)[1]));
     }
     for (const std::string &data : objects(kinds[2])) {
         const Value request = load(kinds[2], data);
-        EXPECT_EQ(kovra_pkcs10certreq_hasattrs(request.get()), 1);
         const Value info(45, kovra_pkcs10certreqinfo_new(kovra_pkcs10certreq_getversion(request.get()),
                                                          kovra_pkcs10certreq_getsubject(request.get()),
                                                          kovra_pkcs10certreq_getpubkey(request.get()),

@@ -41,10 +41,13 @@ std::vector<std::string> words(const std::string &text) {
 
 // A value for a component that is unlike those of the components before it, and unlike a default. Where only some
 // records are allowed, version 1 makes one of them.
-Kept value_for(const core::Type &type, size_t place, bool is_any_allowed) {
+Kept value_for(const core::Component &component, size_t place, bool is_any_allowed) {
+    const core::Type &type = *component.copied_as;
     const auto digit = static_cast<char>((is_any_allowed ? 0x20 : 1) + place);
     std::string data;
-    if (type.number == KOVRA_ASN1_TYPE_INTEGER) {
+    if (type.number == KOVRA_ASN1_TYPE_BOOLEAN) {
+        data = octets(component.fallback == &core::default_true ? "01 01 00" : "01 01 FF");
+    } else if (type.number == KOVRA_ASN1_TYPE_INTEGER) {
         data = octets("02 01") + digit;
     } else if (type.number == KOVRA_ASN1_TYPE_OCTET_STRING) {
         data = octets("04 08") + std::string(8, digit);
@@ -55,7 +58,7 @@ Kept value_for(const core::Type &type, size_t place, bool is_any_allowed) {
         for (const Sample &sample : samples(type.number))
             if (sample.what != "long" && decode(type.number, sample.octets).result == 1)
                 found.push_back(sample.octets);
-        data = type.number == KOVRA_ASN1_TYPE_BOOLEAN ? found[0] : found[place % found.size()];
+        data = found[place % found.size()];
     }
     return {type.number, data, decode(type.number, data).value};
 }
@@ -65,6 +68,7 @@ struct Row {
     std::string prefix, maker;
     std::vector<size_t> order; // of the constructor's arguments
     std::vector<std::string> getters;
+    uint32_t holder = 0; // the signed type that is asked for what stands in its first component; 0: none
 };
 
 // A constructor of another prefix is told by its whole name.
@@ -79,6 +83,8 @@ const core::Structure &shape_of(const Row &row) {
 // Getters give just the components; a part with a default is never missing. Who asks whether there is one is told.
 void expect_parts(const Row &row, Handle value) {
     const auto *record = static_cast<const core::Record *>(record_of(value));
+    if (row.holder != 0)
+        record = static_cast<const core::Record *>(record->slot(0));
     for (size_t i = 0; i < row.getters.size(); ++i) {
         if (row.getters[i] == "-")
             continue;
@@ -138,13 +144,22 @@ TEST(Parts, ConstructorsFillAndGettersGiveTheComponentsOfTheirNames) {
         SCOPED_TRACE(fields[0] + " " + row.prefix);
         const std::vector<std::string> maker = words(fields[2]);
         row.maker = maker[0];
+        if (const size_t inside = fields[0].find(" in "); inside != std::string::npos)
+            row.holder = static_cast<uint32_t>(std::stoul(fields[0].substr(inside + 4)));
         ASSERT_EQ(row.getters.size(), shape_of(row).count);
         const Value boolean = decoded(1, "01 01 FF"), integer = decoded(2, "02 01 05");
         for (const std::string &getter : row.getters)
             for (Handle none : {Handle{nullptr}, boolean.get(), integer.get()})
                 EXPECT_EQ(getter == "-" ? nullptr : ask(row.prefix + "_get" + getter, none).value, nullptr) << getter;
-        for (const Combination &combination : combinations(row.type))
-            expect_parts(row, decode(row.type, combination.octets).value.get());
+        const std::vector<Sample> around = component_values(core::row(row.holder));
+        for (const Combination &combination : combinations(row.type)) {
+            std::string data = combination.octets;
+            if (row.holder != 0)
+                data = element(data[0], data + around.at(1).octets + around.at(2).octets);
+            const Value value = decode(row.holder != 0 ? row.holder : row.type, data).value;
+            ASSERT_TRUE(value);
+            expect_parts(row, value.get());
+        }
         if (row.maker == "-")
             continue;
         const Function *function = maker_of(row.prefix, row.maker);
@@ -155,7 +170,7 @@ TEST(Parts, ConstructorsFillAndGettersGiveTheComponentsOfTheirNames) {
         std::map<const core::Type *, size_t> places;
         for (size_t i = 0; i < shape_of(row).count; ++i) {
             const core::Type *type = shape_of(row).components[i].copied_as;
-            values.push_back(value_for(*type, places[type]++, shape_of(row).allows == nullptr));
+            values.push_back(value_for(shape_of(row).components[i], places[type]++, shape_of(row).allows == nullptr));
         }
         // Two flags exclude each other; of some structures only some records are allowed.
         int made = expect_made(row, values, true, SIZE_MAX);
