@@ -264,4 +264,13 @@ inline std::vector<std::vector<std::string>> table(const std::string &name) {
     return rows;
 }
 
+// What stands between commas.
+inline std::vector<std::string> parts_of(const std::string &field) {
+    std::vector<std::string> parts;
+    std::istringstream text(field);
+    for (std::string part; std::getline(text, part, ',');)
+        parts.push_back(part);
+    return parts.empty() ? std::vector<std::string>{""} : parts;
+}
+
 } // namespace kovra::test

@@ -15,9 +15,14 @@ struct Row {
 const std::vector<Row> &registry() {
     static const std::vector<Row> rows = [] {
         std::vector<Row> read;
-        for (const auto &fields : table("registry.txt"))
-            read.push_back({static_cast<uint32_t>(std::stoul(fields[0])), std::stoi(fields[1]), std::stoi(fields[2]),
-                            std::stoi(fields[3], nullptr, 16)});
+        for (const auto &fields : table("registry.txt")) {
+            for (const std::string &field : fields) {
+                std::istringstream text(field);
+                Row row = {};
+                text >> row.type >> row.tag >> row.form >> std::hex >> row.base;
+                read.push_back(row);
+            }
+        }
         return read;
     }();
     return rows;
@@ -66,6 +71,7 @@ TEST(Registry, EveryTypeReportsItsCodesWithTheDocumentedTexts) {
     for (const Row &row : registry()) {
         Entry encoding = entry_of([&](auto *ctx) { kovra_asn1_encode_puterr(ctx, row.type, "me", 12); });
         Entry decoding = entry_of([&](auto *ctx) { kovra_asn1_decode_puterr(ctx, row.type, "me", 34); });
+        EXPECT_EQ(&row - registry().data(), row.type);
         EXPECT_EQ(encoding.code, row.base) << row.type;
         EXPECT_EQ(decoding.code, row.base + 1) << row.type;
         EXPECT_EQ(encoding.text, texts[row.base]);

@@ -20,7 +20,8 @@ const std::vector<Sample> &samples() {
     static const std::vector<Sample> all = [] {
         std::vector<Sample> found;
         for (const auto &row : table("decodings.txt"))
-            found.push_back({static_cast<uint32_t>(std::stoul(row[0])), octets(row[1])});
+            for (const std::string &encoding : parts_of(row[1]))
+                found.push_back({static_cast<uint32_t>(std::stoul(row[0])), octets(encoding)});
         for (const auto &row : table("times.txt"))
             found.push_back(
                 {20, std::string{static_cast<char>(std::stoi(row[0])), static_cast<char>(row[1].size())} + row[1]});
@@ -86,38 +87,17 @@ TEST(Properties, EveryTruncationAndEveryChangedOctetIsReadAlikeFromAnyStream) {
     }
 }
 
-// Kinds of records.
-enum Kind : unsigned { boolean = 1, integer = 2, bits = 4, string = 8, oid = 16, moment = 32, any = 64, list = 128 };
-
-const std::vector<std::pair<Kind, Value>> &values_of_all_kinds() {
-    static const std::vector<std::pair<Kind, Value>> all = [] {
-        std::vector<std::pair<Kind, Value>> made;
-        made.emplace_back(boolean, decoded(1, "01 01 FF"));
-        made.emplace_back(integer, decoded(2, "02 01 05"));
-        made.emplace_back(integer, Value(2, kovra_asn1_integer_value(5)));
-        made.emplace_back(bits, decoded(3, "03 02 04 F0"));
-        made.emplace_back(string, decoded(4, "04 01 41"));
-        made.emplace_back(oid, decoded(6, "06 01 2A"));
-        made.emplace_back(moment, decoded(21, "17 0B 31323131323030383330 5A"));
-        made.emplace_back(any, decoded(23, "A0 03 02 01 05"));
-        made.emplace_back(list, decoded(24, "30 02 05 00"));
-        return made;
-    }();
-    return all;
-}
-
 TEST(Properties, OnlyIntegersAreCompared) {
-    const auto &all = values_of_all_kinds();
-    for (const auto &[kind, left] : all) {
-        for (const auto &[other, right] : all) {
-            bool same = kind == integer && other == integer;
-            EXPECT_EQ(kovra_asn1_integer_equals(left.get(), right.get()), same) << kind << other;
-            if (kind != integer && other == integer) {
-                EXPECT_EQ(kovra_asn1_integer_encodecmp(left.get(), right.get()), -1);
-                EXPECT_EQ(kovra_asn1_integer_encodecmp(right.get(), left.get()), 1);
-            }
-        }
+    const Value left = decoded(2, "02 01 05"), right(2, kovra_asn1_integer_value(5));
+    EXPECT_EQ(kovra_asn1_integer_equals(left.get(), right.get()), 1);
+    for (const Value &other : {decoded(1, "01 01 FF"), decoded(4, "04 01 41"), decoded(6, "06 01 2A")}) {
+        EXPECT_EQ(kovra_asn1_integer_equals(left.get(), other.get()), 0);
+        EXPECT_EQ(kovra_asn1_integer_equals(other.get(), left.get()), 0);
+        EXPECT_EQ(kovra_asn1_integer_equals(other.get(), other.get()), 0);
     }
+    const Value string = decoded(4, "04 01 41");
+    EXPECT_EQ(kovra_asn1_integer_encodecmp(string.get(), left.get()), -1);
+    EXPECT_EQ(kovra_asn1_integer_encodecmp(left.get(), string.get()), 1);
 }
 
 // Runs on a thread with a small stack, and says how many seconds it took.

@@ -1,5 +1,4 @@
-// A notation for encodings in tables of test data: hexadecimal octets, "text", { } around content whose length octets
-// are to be put in front, and @name for what was named before. What is not balanced or not known fails the test.
+// Octets written as nested elements, for tables of test data.
 #pragma once
 
 #include <map>
@@ -9,64 +8,92 @@
 
 namespace kovra::test {
 
+// Octets of a notation: hexadecimal digits; "text"; {name} for octets that were defined before; behind identifier
+// octets (content) for a definite length, <content> for one in five octets, [content] for the indefinite form. The
+// length is more or less by the digit in (+1 content) and (-1 content).
 class Notation {
 public:
-    // Rows `let; name; notation` name parts; the others are left for the caller.
-    std::vector<std::vector<std::string>> read(const std::string &file) {
-        std::vector<std::vector<std::string>> rest;
-        for (std::vector<std::string> &row : table(file)) {
-            if (row[0] == "let")
-                names_[row[1]] = octets_of(row[2]);
-            else
-                rest.push_back(row);
-        }
-        return rest;
-    }
+    void define(const std::string &name, std::string_view text) { names_[name] = octets(text); }
 
-    std::string octets_of(std::string_view text) const {
-        std::vector<std::string> open(1);
-        for (size_t at = 0; at < text.size();) {
-            if (text[at] == '{') {
-                open.emplace_back();
-            } else if (text[at] == '}' && open.size() > 1) {
-                std::string content = std::move(open.back());
-                open.pop_back();
-                open.back() += length(content.size()) + content;
-            } else if (text[at] == '"') {
-                const size_t end = text.find('"', at + 1);
-                open.back() += text.substr(at + 1, end - at - 1);
-                at = end;
-            } else if (text[at] == '@') {
-                const size_t end = std::min(text.find_first_of(" {}", at), text.size());
-                const auto named = names_.find(std::string(text.substr(at + 1, end - at - 1)));
-                EXPECT_NE(named, names_.end()) << text.substr(at);
-                if (named != names_.end())
-                    open.back() += named->second;
-                at = end;
-                continue;
-            } else {
-                const size_t end = std::min(text.find_first_of("{}\"@", at), text.size());
-                open.back() += octets(text.substr(at, end - at));
-                at = end;
-                continue;
-            }
-            ++at;
-        }
-        EXPECT_EQ(open.size(), 1u) << text;
-        return open[0];
+    [[nodiscard]] std::string octets(std::string_view text) const {
+        std::string result = sequence(text);
+        EXPECT_TRUE(text.empty()) << "not understood: " << text;
+        return result;
     }
 
 private:
-    static std::string length(size_t count) {
-        if (count < 0x80)
-            return {static_cast<char>(count)};
-        std::string digits;
-        for (; count != 0; count >>= 8)
-            digits.insert(digits.begin(), static_cast<char>(count));
-        return static_cast<char>(0x80 + digits.size()) + digits;
+    std::string sequence(std::string_view &text) const {
+        std::string result;
+        while (!text.empty()) {
+            const char c = text[0];
+            if (c == ')' || c == ']' || c == '>')
+                break;
+            text.remove_prefix(1);
+            if (c == '"') {
+                result += text.substr(0, text.find('"'));
+                text.remove_prefix(text.find('"') + 1);
+            } else if (c == '{') {
+                auto found = names_.find(std::string(text.substr(0, text.find('}'))));
+                EXPECT_NE(found, names_.end()) << text;
+                result += found != names_.end() ? found->second : "";
+                text.remove_prefix(text.find('}') + 1);
+            } else if (c == '(' || c == '[' || c == '<') {
+                result += element_content(c, text);
+            } else if (c != ' ') {
+                result += test::octets({&c, 1}).empty() ? test::octets({text.data() - 1, 2}) : "?";
+                text.remove_prefix(1);
+            }
+        }
+        return result;
+    }
+
+    std::string element_content(char bracket, std::string_view &text) const {
+        int lie = 0;
+        if (text[0] == '+' || text[0] == '-') {
+            lie = (text[1] - '0') * (text[0] == '+' ? 1 : -1);
+            text.remove_prefix(2);
+        }
+        std::string content = sequence(text);
+        EXPECT_FALSE(text.empty()) << "an element is not closed";
+        text.remove_prefix(text.empty() ? 0 : 1);
+        const auto length = static_cast<int>(content.size()) + lie;
+        std::string header;
+        auto add = [&](int octet) { header += static_cast<char>(octet); };
+        if (bracket == '[') {
+            add(0x80);
+            return header + content + std::string(2, '\0');
+        }
+        if (bracket == '<') {
+            add(0x84);
+            add(0);
+            add(0);
+            add(length >> 8);
+        } else if (length > 255) {
+            add(0x82);
+            add(length >> 8);
+        } else if (length > 127) {
+            add(0x81);
+        }
+        add(length);
+        return header + content;
     }
 
     std::map<std::string, std::string> names_;
 };
+
+// Names that definitions at the head of a table in tests/data give to octets.
+inline const Notation &notation(const std::string &file) {
+    static std::map<std::string, Notation> known;
+    const auto [at, is_new] = known.emplace(file, Notation());
+    if (is_new)
+        for (const auto &row : table(file))
+            if (row[0] == "let")
+                at->second.define(row[1], row[2]);
+    return at->second;
+}
+
+inline std::string noted(std::string_view text, const std::string &file = "structures.txt") {
+    return notation(file).octets(text);
+}
 
 } // namespace kovra::test

@@ -51,7 +51,7 @@ TEST_F(Show, ExamplesAreShownAsRecorded) {
         EXPECT_EQ(result.code, 0) << result.error;
         ++files;
     }
-    EXPECT_EQ(files, 11U);
+    EXPECT_EQ(files, 9U);
 }
 
 TEST_F(Show, AllOfEveryExampleIsShown) {

@@ -1,5 +1,6 @@
 // BIT STRING.
 #include "tests/asn1_testing.hpp"
+#include "tests/failing_memory.hpp"
 
 namespace kovra::test {
 namespace {
@@ -80,6 +81,16 @@ TEST(BitString, DecodesIntoTheCallersStream) {
                                     });
         EXPECT_EQ(found.read, 12);
         EXPECT_EQ(kovra_asn1_bitstring_getunusedbits(found.value.get()), 4);
+        // Bits are told by the stream, from bit 0 on; those behind the end are not set.
+        const BitSet set(kovra_asn1_bitstring_getbitset(found.value.get()));
+        std::string bits;
+        for (int32_t i = 0; i < 14; ++i) {
+            bits += kovra_asn1_bitstring_getbit(found.value.get(), i) == 1 ? '1' : '0';
+            EXPECT_EQ(kovra_bitset_test(set.get(), i), bits.back() - '0') << i;
+        }
+        EXPECT_EQ(bits, "10101010101100");
+        EXPECT_EQ(kovra_bitset_getsize(set.get()), 12);
+        fail_each_allocation([&] { return BitSet(kovra_asn1_bitstring_getbitset(found.value.get())) != nullptr; });
         found = decode_with(3, Input(octets("04 C0"), feed), [&](auto *stream, auto **out, auto *read, auto *c) {
             return kovra_asn1_decode_bitstring_content_ex(stream, content.get(), out, 1, 2, read, c);
         });

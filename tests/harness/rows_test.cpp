@@ -410,6 +410,7 @@ TEST(Rows, FormsTagsAndArguments) {
             if (row.operations != &core::any_time_operations) {
                 EXPECT_EQ(decode_content(type, data.substr(2), 0, size_of(data) - 2).codes.at(0), 0x1026d);
             }
+            EXPECT_EQ(encode_content(type, value.get(), -2).codes, Codes({0x10001}));
             continue;
         }
         // Refused before anything is read.
