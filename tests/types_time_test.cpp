@@ -60,8 +60,9 @@ TEST(Time, IsWritten) {
         SCOPED_TRACE(row.general);
         auto expect = [second = second](const Value &value, std::string_view text) {
             EXPECT_EQ(text_of(value), text);
-            if (!text.empty())
+            if (!text.empty()) {
                 EXPECT_EQ(std::stoi(moment_of(value).substr(17)), second);
+            }
         };
         expect(Value(20, kovra_asn1_time_new(year, month, day, hour, minute, second, ns)), row.by_year);
         expect(Value(21, kovra_asn1_utctime_new(year, month, day, hour, minute, second)), row.utc);
