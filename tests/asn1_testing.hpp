@@ -264,6 +264,15 @@ inline std::vector<std::vector<std::string>> table(const std::string &name) {
     return rows;
 }
 
+// What stands before and behind an arrow.
+inline std::pair<std::string, std::string> sides_of(const std::string &field) {
+    const size_t arrow = field.find("->");
+    std::string left = field.substr(0, arrow), right = field.substr(std::min(arrow + 2, field.size()));
+    left.erase(left.find_last_not_of(' ') + 1);
+    right.erase(0, right.find_first_not_of(' '));
+    return {left, right};
+}
+
 // What stands between commas.
 inline std::vector<std::string> parts_of(const std::string &field) {
     std::vector<std::string> parts;

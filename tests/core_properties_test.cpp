@@ -23,8 +23,11 @@ const std::vector<Sample> &samples() {
             for (const std::string &encoding : parts_of(row[1]))
                 found.push_back({static_cast<uint32_t>(std::stoul(row[0])), octets(encoding)});
         for (const auto &row : table("times.txt"))
-            found.push_back(
-                {20, std::string{static_cast<char>(std::stoi(row[0])), static_cast<char>(row[1].size())} + row[1]});
+            for (size_t i = 1; i < row.size(); ++i) {
+                const std::string text = sides_of(row[i]).first;
+                found.push_back(
+                    {20, std::string{static_cast<char>(std::stoi(row[0])), static_cast<char>(text.size())} + text});
+            }
         return found;
     }();
     return all;

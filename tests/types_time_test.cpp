@@ -89,26 +89,29 @@ TEST(Time, IsWritten) {
     EXPECT_EQ(kovra_asn1_gentime_new(2013, 4, 1, 0, 0, 0, -1), nullptr);
 }
 
-TEST(Time, IsRead) {
-    for (const auto &row : table("times.txt")) {
-        const std::string &text = row[1], &moment = row[2];
-        SCOPED_TRACE(text);
-        bool utc = row[0] == "23", refused = moment == "-";
-        std::string data = encoding_of(utc ? 23 : 24, text);
-        uint32_t type = utc ? 21 : 22, other = utc ? 22 : 21;
-        for (uint32_t as : {type, 20u}) {
-            Decoded found = decode(as, data);
-            EXPECT_EQ(moment_of(found.value), moment);
-            EXPECT_EQ(found.codes, refused ? Codes({0x102ec}) : Codes());
-            if (found.result == 1) {
-                EXPECT_EQ(encode(as, found.value.get()).octets, data) << "kept as it was";
-                EXPECT_EQ(encode(other, found.value.get()).codes, Codes({0x10208}));
-                EXPECT_EQ(encode_content(other, found.value.get(), size_of(text)).codes, Codes({0x10002}));
-                EXPECT_EQ(encode_content(20, found.value.get(), size_of(text)).octets, text);
-            }
+void expect_read(bool utc, const std::string &text, const std::string &moment) {
+    SCOPED_TRACE(text);
+    const bool refused = moment == "-";
+    std::string data = encoding_of(utc ? 23 : 24, text);
+    uint32_t type = utc ? 21 : 22, other = utc ? 22 : 21;
+    for (uint32_t as : {type, 20u}) {
+        Decoded found = decode(as, data);
+        EXPECT_EQ(moment_of(found.value), moment);
+        EXPECT_EQ(found.codes, refused ? Codes({0x102ec}) : Codes());
+        if (found.result == 1) {
+            EXPECT_EQ(encode(as, found.value.get()).octets, data) << "kept as it was";
+            EXPECT_EQ(encode(other, found.value.get()).codes, Codes({0x10208}));
+            EXPECT_EQ(encode_content(other, found.value.get(), size_of(text)).codes, Codes({0x10002}));
+            EXPECT_EQ(encode_content(20, found.value.get(), size_of(text)).octets, text);
         }
-        EXPECT_EQ(decode(other, data).codes, refused ? Codes({0x102ec}) : Codes({0x10208}));
     }
+    EXPECT_EQ(decode(other, data).codes, refused ? Codes({0x102ec}) : Codes({0x10208}));
+}
+
+TEST(Time, IsRead) {
+    for (const auto &row : table("times.txt"))
+        for (size_t i = 1; i < row.size(); ++i)
+            expect_read(row[0] == "23", sides_of(row[i]).first, sides_of(row[i]).second);
 }
 
 TEST(Time, DecodesWhatBerHas) {

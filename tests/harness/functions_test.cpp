@@ -199,6 +199,8 @@ std::map<const void *, Part> parts_of(const core::Record &record) {
 // Two names for what has one structure.
 const std::set<std::string> &shared_parts() {
     static const std::set<std::string> all = {
+        "kovra_cmsothercertformat_getformat kovra_cmsotherrevinfoformat_getformat",
+        "kovra_cmsothercertformat_getothercert kovra_cmsotherrevinfoformat_getotherrevinfo",
         "kovra_pkcs1digestinfo_getdigest kovra_tsp_messageimprint_gethashedmessage",
         "kovra_pkcs1digestinfo_getdigestalgorithm kovra_tsp_messageimprint_gethashalgo",
         "kovra_x509algoid_getalgo kovra_x509polqualifierinfo_getid",
