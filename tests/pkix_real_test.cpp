@@ -396,7 +396,8 @@ std::string extension_text(const std::string &oid, Handle value) {
 
 std::string find_extension(Handle list, std::string oid) {
     const bool is_critical = oid.back() == '!';
-    oid = oid.substr(0, oid.size() - (is_critical ? 1 : 0));
+    if (is_critical)
+        oid.pop_back();
     Handle extension = nullptr;
     for (int32_t i = 0; kovra_asn1_list_get(list, i, &extension) == 1; ++i) {
         if (oid_text(kovra_x509extension_getid(extension)) != oid)

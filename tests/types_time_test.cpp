@@ -63,8 +63,8 @@ TEST(Time, IsWritten) {
         kovra_time *time = kovra_time_newutctime(year, month, day, hour, minute, second, ns);
         auto of_time = [&](uint32_t flags) { return text_of(Value(20, kovra_asn1_time_newutctime(time, flags))); };
         std::string whole_second = row.general;
-        if (size_t dot = whole_second.find('.'); dot != whole_second.npos)
-            whole_second = whole_second.substr(0, dot) + "Z";
+        if (size_t dot = whole_second.find('.'); dot != std::string::npos)
+            whole_second.replace(dot, std::string::npos, "Z");
         EXPECT_EQ(of_time(0x00), row.utc);
         EXPECT_EQ(of_time(0x11), row.general);
         EXPECT_EQ(of_time(0x01), whole_second);

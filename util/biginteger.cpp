@@ -37,8 +37,9 @@ struct Octets {
 
 // Without the leading octets that only repeat the sign.
 Octets minimal(Octets number) {
-    while (number.length > 1 &&
-           ((number.data[0] == 0x00 && number.data[1] < 0x80) || (number.data[0] == 0xFF && number.data[1] >= 0x80))) {
+    // The analyzer loses sight of what was written from the last octet to the first.
+    // NOLINTNEXTLINE(clang-analyzer-core.UndefinedBinaryOperatorResult)
+    while (number.length > 1 && number.data[0] == (number.data[1] < 0x80 ? 0x00 : 0xFF)) {
         ++number.data;
         --number.length;
     }
