@@ -293,7 +293,7 @@ TEST(Codec, WholeEncodingsInMemory) {
 }
 
 TEST(Codec, DuplicatesAreEncodedAndDecoded) {
-    auto dup = [](const Value &value, Codes expected) {
+    auto dup = [](const Value &value, const Codes &expected) {
         Errors ctx(kovra_err_ctx_new());
         Value copy(value.type(), kovra_asn1_dupobject(value.type(), value.get(), ctx.get()));
         EXPECT_EQ(Codes(ctx.get()), expected);

@@ -271,7 +271,7 @@ TEST(Push, SamplesInAllPieces) {
             for (size_t cut = 1; cut < data.size(); ++cut)
                 ways.push_back(cut_at(cut));
         for (uint32_t seed = 1; seed <= 20; ++seed)
-            ways.push_back(random_pieces(seed, seed * 7));
+            ways.push_back(random_pieces(seed, size_t{seed} * 7));
         for (const auto &way : ways) {
             AnyCtx ctx(kovra_asn1_decode_any_ctx_new());
             ASSERT_EQ(feed_any(ctx.get(), data, way), found);

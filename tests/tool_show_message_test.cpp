@@ -9,7 +9,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-using kovra::test::count;
 using kovra::test::der;
 using kovra::test::octets;
 using kovra::test::oid;

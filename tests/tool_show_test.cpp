@@ -331,9 +331,11 @@ TEST_F(Show, MutationsAreShownOrRefused) {
                                      example("key-ec-explicit.der")};
     for (int i = 0; i < 3000; ++i) {
         std::string mutated = originals[random() % std::size(originals)];
-        for (size_t changes = 1 + random() % 3; changes > 0; --changes)
-            mutated[4 + random() % (mutated.size() - 4)] ^=
-                static_cast<char>(random() % 2 == 0 ? random() : 1U << (random() % 8));
+        for (size_t changes = 1 + random() % 3; changes > 0; --changes) {
+            const auto change = static_cast<char>(random() % 2 == 0 ? random() : 1U << (random() % 8));
+            char &octet = mutated[4 + random() % (mutated.size() - 4)];
+            octet = static_cast<char>(octet ^ change);
+        }
         input += pem(i % 10 == 0 ? mutated.substr(0, random() % mutated.size()) : mutated, "X");
     }
     const Result shown = run("show", input);

@@ -169,9 +169,11 @@ TEST_F(Tool, MutationsAreJudgedAsByTheLibrary) {
         std::string mutated = i % 4 == 0 ? sequence(nested) : octets(elements[random() % std::size(elements)]);
         if (i % 4 == 1)
             mutated = octets(ber_elements[random() % std::size(ber_elements)]);
-        for (size_t count = 1 + random() % 2; count > 0; --count)
-            mutated[random() % mutated.size()] ^=
-                static_cast<char>(random() % 3 == 0 ? random() : 1U << (random() % 8));
+        for (size_t count = 1 + random() % 2; count > 0; --count) {
+            const auto change = static_cast<char>(random() % 3 == 0 ? random() : 1U << (random() % 8));
+            char &octet = mutated[random() % mutated.size()];
+            octet = static_cast<char>(octet ^ change);
+        }
         mutated = sequence(mutated);
         input += pem(mutated, "DATA");
         const std::string text = description(mutated, 2);

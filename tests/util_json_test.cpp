@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -207,7 +208,7 @@ void expect_same(const kovra_json *left, const kovra_json *right) {
     ASSERT_STREQ(kovra_json_getstring(left), kovra_json_getstring(right));
     double numbers[2] = {};
     ASSERT_EQ(kovra_json_getnumber(left, &numbers[0]), kovra_json_getnumber(right, &numbers[1]));
-    ASSERT_EQ(std::memcmp(&numbers[0], &numbers[1], sizeof(double)), 0) << numbers[0] << " and " << numbers[1];
+    ASSERT_EQ(std::bit_cast<uint64_t>(numbers[0]), std::bit_cast<uint64_t>(numbers[1])) << numbers[0];
     ASSERT_EQ(kovra_json_istrue(left), kovra_json_istrue(right));
     ASSERT_EQ(kovra_json_getarraysize(left), kovra_json_getarraysize(right));
     for (int32_t i = 0; i < kovra_json_getarraysize(left); ++i)
