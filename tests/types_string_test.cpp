@@ -118,12 +118,34 @@ TEST(String, IsReadInPieces) {
     expect_pieces(decoded(23, "00 00"), "", kovra_asn1_any_getcontent);
 }
 
-TEST(String, HoldsNoObjectForNull) {
-    Errors ctx(kovra_err_ctx_new());
-    kovra_asn1_value *out = nullptr;
-    EXPECT_EQ(kovra_asn1_octetstring_getobject(nullptr, 2, &out, ctx.get()), 0);
-    EXPECT_EQ(kovra_asn1_octetstring_getobject(string("").get(), 2, nullptr, ctx.get()), 0);
-    EXPECT_EQ(Codes(ctx.get()), Codes({0x10002, 0x10002}));
+// An object within the content, which all of it has to be.
+TEST(String, HoldsAnObjectWhereverItsContentIs) {
+    const std::string path = (std::filesystem::path(testing::TempDir()) / "kovra_object_string").string();
+    auto expect = [](kovra_asn1_value *holder, const std::string &expected, const Codes &codes) {
+        Errors ctx(kovra_err_ctx_new());
+        kovra_asn1_value *out = nullptr;
+        EXPECT_EQ(kovra_asn1_octetstring_getobject(holder, 2, &out, ctx.get()), expected.empty() ? 0 : 1);
+        EXPECT_EQ(encoding(Value(2, out)), expected);
+        EXPECT_EQ(Codes(ctx.get()), codes);
+    };
+    for (const char *more : {"", "00"}) {
+        const std::string content = octets(std::string("02 01 05") + more);
+        const Codes codes = *more == '\0' ? Codes() : Codes({0x1027f});
+        const std::string expected = *more == '\0' ? "020105" : "";
+        Stream file(kovra_stream_new_file(path.c_str(), KOVRA_FILE_READ_WRITE, nullptr));
+        ASSERT_EQ(kovra_stream_writen(file.get(), content.data(), size_of(content), nullptr, nullptr), 1);
+        expect(string(content).get(), expected, codes);
+        const Value from_file(4, kovra_asn1_octetstring_newstream(file.get()));
+        expect(from_file.get(), expected, codes);
+        expect(from_file.get(), expected, codes);
+    }
+    std::filesystem::remove(path);
+    const Input once(octets("02 01 05"), Feed::trickle);
+    expect(Value(4, kovra_asn1_octetstring_newstream(once.stream())).get(), "", Codes({0x10109}));
+    expect(string(octets("04 00")).get(), "", Codes({0x1020a, 0x10210}));
+    expect(nullptr, "", Codes({0x10002}));
+    expect(decoded(1, "01 01 FF").get(), "", Codes({0x10001}));
+    EXPECT_EQ(kovra_asn1_octetstring_getobject(string("").get(), 2, nullptr, nullptr), 0);
 }
 
 // From 5 MiB on, what is not in memory is written in segments.
