@@ -73,19 +73,9 @@ Result encode_choice_content(Encoder &encoder, const Type &type, Value *value, i
     if (length < indefinite)
         return encoder.fail(in(shape), code::bad_argument);
     const Component &component = chosen(*choice);
-    const Type &content = encode_row(component);
-    const Site site = at(shape, component);
-    const bool is_explicit = component.encode_tag.tagging == Tagging::explicit_;
     if (component.encode_tag.tagging == Tagging::bare)
-        length = content_length(content, choice->value);
-    Result result = is_explicit ? encode(encoder, content, choice->value)
-                                : encode_component_content(encoder, site, component, choice->value, length);
-    if (result != success)
-        return fail_encode(encoder, site, component, result);
-    if (is_explicit && length == indefinite)
-        if (result = encoder.end_of_contents(site); result != success)
-            return encoder.fail(site, code::write_end_of_contents, result);
-    return success;
+        length = content_length(encode_row(component), choice->value);
+    return encode_within_tag(encoder, at(shape, component), component, choice->value, length, Measure::fresh);
 }
 
 // The alternative that an identifier begins; the table's count when it begins none.

@@ -40,14 +40,7 @@ Result encode_tagged(Encoder &encoder, Site site, const Component &component, Va
         return encoder.fail(site, code::write_identifier, result);
     if (result = encoder.length(site, length); result != success)
         return encoder.fail(site, code::write_length, result);
-    result = is_explicit ? encode(encoder, type, value, length >= 0 ? measure : Measure::fresh)
-                         : encode_component_content(encoder, site, component, value, length);
-    if (result != success)
-        return fail_encode(encoder, site, component, result);
-    if (is_explicit && length == indefinite)
-        if (result = encoder.end_of_contents(site); result != success)
-            return encoder.fail(site, code::write_end_of_contents, result);
-    return success;
+    return encode_within_tag(encoder, site, component, value, length, length >= 0 ? measure : Measure::fresh);
 }
 
 } // namespace
@@ -57,6 +50,19 @@ Result encode_component(Encoder &encoder, Site site, const Component &component,
         return encode_tagged(encoder, site, component, value, measure);
     const Result result = encode(encoder, encode_row(component), value, measure);
     return result == success ? success : fail_encode(encoder, site, component, result);
+}
+
+Result encode_within_tag(Encoder &encoder, Site site, const Component &component, Value *value, int32_t length,
+                         Measure measure) {
+    const bool is_explicit = component.encode_tag.tagging == Tagging::explicit_;
+    Result result = is_explicit ? encode(encoder, encode_row(component), value, measure)
+                                : encode_component_content(encoder, site, component, value, length);
+    if (result != success)
+        return fail_encode(encoder, site, component, result);
+    if (is_explicit && length == indefinite)
+        if (result = encoder.end_of_contents(site); result != success)
+            return encoder.fail(site, code::write_end_of_contents, result);
+    return success;
 }
 
 Result encode_component_content(Encoder &encoder, Site site, const Component &component, Value *value, int32_t length) {

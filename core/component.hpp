@@ -188,6 +188,9 @@ inline Result fail_decode(Decoder &decoder, Site site, const Component &componen
 int32_t component_length(const Component &component, Value *value, Measure measure = Measure::fresh);
 // Writes a value under the component's tag.
 Result encode_component(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure);
+// Writes what the component's own tag holds, `length` octets or of indefinite length.
+Result encode_within_tag(Encoder &encoder, Site site, const Component &component, Value *value, int32_t length,
+                         Measure measure);
 // Writes the content octets of a value, `length` being what measuring gave.
 Result encode_component_content(Encoder &encoder, Site site, const Component &component, Value *value, int32_t length);
 // Reads what an explicit tag whose length was read holds.

@@ -146,6 +146,16 @@ struct Cost {
     int64_t allocated, peak, reads, time;
 };
 
+// What `cost` says of n, 2n and 8n. Arrays that grow make steps; four times as much would be quadratic.
+template <class CostOf> Cost expect_linear(size_t n, CostOf cost) {
+    const Cost one = cost(n), two = cost(2 * n), eight = cost(8 * n);
+    EXPECT_LT(two.allocated, one.allocated * 5 / 2 + allowance);
+    EXPECT_LT(eight.allocated, one.allocated * 10 + allowance);
+    EXPECT_LT(two.peak, one.peak * 5 / 2 + allowance);
+    EXPECT_LT(eight.time, one.time * 24 + time_slack);
+    return eight;
+}
+
 Cost cost_of(const Growth &growth, size_t n) {
     const std::string data = growth.make(n);
     const MemoryMeter meter;
@@ -158,13 +168,8 @@ TEST(Linear, MemoryAndTimeGrowAsTheInputDoes) {
     for (const Growth &growth : growths()) {
         SCOPED_TRACE(growth.what);
         constexpr size_t n = 2000;
-        const Cost one = cost_of(growth, n), two = cost_of(growth, 2 * n), eight = cost_of(growth, 8 * n);
-        // Arrays that grow make steps; four times as much would be quadratic.
-        EXPECT_LT(two.allocated, one.allocated * 5 / 2 + allowance);
-        EXPECT_LT(eight.allocated, one.allocated * 10 + allowance);
-        EXPECT_LT(two.peak, one.peak * 5 / 2 + allowance);
+        const Cost eight = expect_linear(n, [&](size_t count) { return cost_of(growth, count); });
         EXPECT_LE(eight.reads, static_cast<int64_t>(growth.make(8 * n).size()) + 1);
-        EXPECT_LT(eight.time, one.time * 24 + time_slack);
     }
 }
 
@@ -202,11 +207,7 @@ TEST(Linear, TextsOfJson) {
             EXPECT_NE(printed, nullptr);
             return Cost{meter.use().allocated, meter.use().peak, 0, std::clock() - begin};
         };
-        constexpr size_t n = 4000;
-        const Cost one = cost(n), two = cost(2 * n), eight = cost(8 * n);
-        EXPECT_LT(two.allocated, one.allocated * 5 / 2 + allowance);
-        EXPECT_LT(eight.allocated, one.allocated * 10 + allowance);
-        EXPECT_LT(eight.time, one.time * 24 + time_slack);
+        expect_linear(4000, cost);
     }
 }
 
@@ -240,11 +241,7 @@ TEST(Linear, ValuesThatGrow) {
         }
         return Cost{meter.use().allocated, meter.use().peak, 0, std::clock() - begin};
     };
-    constexpr size_t n = 2000;
-    const Cost one = cost(n), two = cost(2 * n), eight = cost(8 * n);
-    EXPECT_LT(two.allocated, one.allocated * 5 / 2 + allowance);
-    EXPECT_LT(eight.allocated, one.allocated * 10 + allowance);
-    EXPECT_LT(eight.time, one.time * 24 + time_slack);
+    expect_linear(2000, cost);
 }
 
 // What decoding holds at its peak, whatever comes of it.
