@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -32,9 +31,7 @@ public:
     void put(std::string_view text) {
         if (text.size() > largest_room)
             return put_long(text);
-        char *out = room(text.size());
-        std::memcpy(out, text.data(), text.size());
-        used_ += text.size();
+        used_ += text.copy(room(text.size()), text.size());
     }
     void put(char character) {
         *room(1) = character;
