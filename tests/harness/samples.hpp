@@ -28,7 +28,7 @@ struct Combination {
     uint32_t present; // a bit for each component
     std::string octets;
 };
-std::vector<Combination> combinations(uint32_t type);
+std::vector<Combination> combinations(uint32_t number);
 
 // A value of each component of a structure, as constructors take it; empty when the row is none.
 std::vector<Sample> component_values(const core::Type &type);
