@@ -214,7 +214,8 @@ void check_string(std::string_view octets, uint8_t how) {
         return;
     }
     check_same(content,
-               push_string(std::move(ctx), octets.substr(static_cast<size_t>(header + length_read)), how, true));
+               push_string(std::move(ctx),
+                           octets.substr(static_cast<size_t>(header) + static_cast<size_t>(length_read)), how, true));
 }
 
 void run(Draw input) {

@@ -14,7 +14,7 @@ namespace {
 using Handle = kovra_asn1_value *;
 using Json = std::unique_ptr<kovra_json, Releaser<kovra_json_free>>;
 
-constexpr int64_t allowance = 64 * 1024;
+constexpr int64_t allowance = int64_t{64} * 1024;
 constexpr int64_t memory_factor = 8; // of an input, to decode it
 constexpr int64_t time_slack = CLOCKS_PER_SEC / 20;
 

@@ -28,7 +28,7 @@ struct Combination {
     uint32_t present; // a bit for each component
     std::string octets;
 };
-std::vector<Combination> combinations(uint32_t type);
+std::vector<Combination> combinations(uint32_t number);
 
 // A minimal and a full value in which every open type is the given element; none where there is no open type.
 std::vector<std::string> with_open_type(uint32_t type, const std::string &open);
