@@ -1,0 +1,31 @@
+// Every size at which the libraries or the tool go another way: first capacities, buffers, what is done at once.
+//
+// In a tight build all of them are as small as they can be, so that the smallest input takes every way and meets the
+// border between two ways; nothing that a caller can see depends on them but for what each says. Tests ask `is_tight`
+// where they count with the real ones.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace kovra {
+
+#ifdef KOVRA_TIGHT
+inline constexpr bool is_tight = true;
+#else
+inline constexpr bool is_tight = false;
+#endif
+
+template <class T> consteval T threshold(T real, T tight) {
+    return is_tight ? tight : real;
+}
+
+// The capacity that follows one that is used up: `more` above it; in a tight build 1 above it as long as it is small.
+constexpr size_t next_capacity(size_t capacity, size_t more) {
+    constexpr size_t small = threshold<size_t>(0, 64);
+    if (capacity < small)
+        more = 1;
+    return more < SIZE_MAX - capacity ? capacity + more : SIZE_MAX;
+}
+
+} // namespace kovra
