@@ -1,7 +1,10 @@
 #include "core/arena.hpp"
 
+#include <algorithm>
+#include <functional>
 #include <new>
 
+#include "base/ensure.hpp"
 #include "core/value.hpp"
 #include "kovra/util_memory.h"
 
@@ -10,8 +13,13 @@ namespace kovra::asn1 {
 namespace {
 
 constexpr char source[] = "ASN1_Arena";
-constexpr size_t smallest_block = 1024;
-constexpr size_t largest_block = size_t{256} * 1024;
+constexpr size_t smallest_block = threshold<size_t>(1024, 16);
+constexpr size_t largest_block = threshold<size_t>(size_t{256} * 1024, 64);
+
+// Null when memory is short, or the size more than a size can be.
+void *get(size_t size) {
+    return size < too_large ? kovra_malloc(size, source, __LINE__) : nullptr;
+}
 
 } // namespace
 
@@ -20,22 +28,26 @@ struct Arena::OwnedStream {
     kovra_stream *stream;
 };
 
-Arena *Arena::create(size_t reserve) {
-    if (reserve > SIZE_MAX - sizeof(Arena) - alignment)
-        return nullptr;
-    reserve = (reserve + alignment - 1) & ~(alignment - 1);
-    void *memory = kovra_malloc(sizeof(Arena) + reserve, source, __LINE__);
+Arena *Arena::create(size_t records, size_t content) {
+    const size_t reserve = rounded_up(sum(records, content), alignment);
+    void *memory = get(sum(sizeof(Arena), reserve));
     if (memory == nullptr)
         return nullptr;
     auto *arena = new (memory) Arena;
     arena->next_ = static_cast<uint8_t *>(memory) + sizeof(Arena);
     arena->end_ = arena->next_ + reserve;
-    arena->next_size_ = reserve < smallest_block ? smallest_block : reserve;
+    arena->next_size_ = std::clamp(records, smallest_block, largest_block);
     return arena;
 }
 
 void Arena::destroy(Arena *arena) {
-    while (arena != nullptr) {
+    if (arena != nullptr)
+        destroy_all(arena, arena->sibling_);
+}
+
+// Those of a chain of siblings before `until`.
+void Arena::destroy_all(Arena *arena, const Arena *until) {
+    while (arena != until) {
         // The adopted are put in front of what is still to be released: the chain is the work list.
         Arena *rest = arena->sibling_;
         if (Arena *first = arena->adopted_; first != nullptr) {
@@ -60,25 +72,30 @@ void Arena::destroy(Arena *arena) {
 }
 
 Arena::Block *Arena::new_block(size_t size) {
-    if (size > SIZE_MAX - sizeof(Block))
+    auto *block = static_cast<Block *>(get(sum(sizeof(Block), size)));
+    if (block == nullptr)
         return nullptr;
-    auto *block = static_cast<Block *>(kovra_malloc(sizeof(Block) + size, source, __LINE__));
-    if (block != nullptr)
-        *block = {nullptr, nullptr};
+    block->next = block->previous = nullptr;
+    block->note_size(size);
     return block;
 }
 
 Arena::Block *Arena::resize_block(Block *block, size_t size) {
-    if (size > SIZE_MAX - sizeof(Block))
+    const size_t whole = sum(sizeof(Block), size);
+    if (whole == too_large)
         return nullptr;
-    return static_cast<Block *>(kovra_realloc(block, sizeof(Block) + size, source, __LINE__));
+    auto *resized = static_cast<Block *>(kovra_realloc(block, whole, source, __LINE__));
+    if (resized != nullptr)
+        resized->note_size(size);
+    return resized;
 }
 
 void Arena::drop_block(Block *block) {
     kovra_free(block);
 }
 
-void Arena::link(Block *block) {
+void Arena::link(Block *block, const void *holder) {
+    block->note_holder(holder);
     block->previous = nullptr;
     block->next = blocks_;
     if (blocks_ != nullptr)
@@ -97,9 +114,7 @@ Arena::Block *Arena::resize_linked(Block *block, size_t size) {
 }
 
 void *Arena::allocate_in_new_block(size_t size) {
-    size_t wanted = next_size_;
-    if (size > wanted)
-        wanted = size;
+    size_t wanted = std::max(size, next_size_);
     Block *block = nullptr;
     if (spare_ != nullptr && spare_size_ >= size) {
         block = spare_;
@@ -112,7 +127,7 @@ void *Arena::allocate_in_new_block(size_t size) {
         if (next_size_ < largest_block)
             next_size_ *= 2;
     }
-    link(block);
+    link(block, block->memory());
     current_ = block;
     next_ = block->memory() + size;
     end_ = block->memory() + wanted;
@@ -132,9 +147,29 @@ void Arena::free_streams(const OwnedStream *until) {
         kovra_stream_free(streams_->stream);
 }
 
+// Only a tight build knows how large a block is, and asks.
+bool Arena::is_taken_back(const void *record, const Mark &mark) const {
+    const auto lies_in = [record](const uint8_t *begin, const uint8_t *end) {
+        const std::less<> before;
+        return !before(record, static_cast<const void *>(begin)) && before(record, static_cast<const void *>(end));
+    };
+    if (lies_in(mark.next, mark.end))
+        return true;
+    for (Block *block = blocks_; block != mark.blocks; block = block->next)
+        if (lies_in(block->memory(), block->memory() + block->size()))
+            return true;
+    return false;
+}
+
 void Arena::reset(const Mark &mark) {
+    if constexpr (is_tight)
+        for (const Block *block = blocks_; block != mark.blocks; block = block->next)
+            ensure(is_taken_back(block->holder(), mark));
     free_streams(mark.streams);
+    destroy_all(adopted_, mark.adopted);
+    adopted_ = mark.adopted;
     while (blocks_ != mark.blocks) {
+        ensure(blocks_ != nullptr);
         Block *block = blocks_;
         blocks_ = block->next;
         if (block == current_ && spare_ == nullptr) {

@@ -3,7 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
+#include "base/sizes.hpp"
+#include "base/thresholds.hpp"
 #include "kovra/util_stream.h"
 
 namespace kovra::asn1 {
@@ -11,24 +14,45 @@ namespace kovra::asn1 {
 struct StreamContent;
 struct Value;
 
+// What a tight build remembers of a block, to see that it does not go before the record that refers to it.
+class BlockNotes {
+public:
+    void note_size(size_t size) { size_ = size; }
+    void note_holder(const void *holder) { holder_ = holder; }
+    [[nodiscard]] size_t size() const { return size_; }
+    [[nodiscard]] const void *holder() const { return holder_; }
+
+private:
+    const void *holder_;
+    size_t size_;
+};
+class NoBlockNotes {
+public:
+    void note_size(size_t) {}
+    void note_holder(const void *) {}
+    [[nodiscard]] size_t size() const { return 0; }
+    [[nodiscard]] const void *holder() const { return nullptr; }
+};
+
 class Arena {
 public:
     // A piece of memory of its own in an arena, for what grows or is large.
-    struct Block {
+    struct Block : std::conditional_t<is_tight, BlockNotes, NoBlockNotes> {
         Block *next;
         Block *previous;
         [[nodiscard]] uint8_t *memory() { return reinterpret_cast<uint8_t *>(this + 1); }
     };
 
-    // Makes an arena whose first `reserve` octets need no further allocation. Null when memory is short.
-    static Arena *create(size_t reserve);
+    // Makes an arena of which `records` octets and `content` octets need no further allocation; when that is not
+    // enough, the next allocation is a little larger than the room for records was. Null when memory is short.
+    static Arena *create(size_t records, size_t content = 0);
 
     // Releases the arena, everything in it and every arena it has adopted, without recursion.
     static void destroy(Arena *arena);
 
     // Memory for a record, aligned for pointers and not cleared; null when memory is short.
     void *allocate(size_t size) {
-        size = (size + alignment - 1) & ~(alignment - 1);
+        size = rounded_up(size, alignment);
         if (size > static_cast<size_t>(end_ - next_))
             return allocate_in_new_block(size);
         void *memory = next_;
@@ -38,7 +62,7 @@ public:
 
     // The same from the room that is left; null when there is too little, although more may be had.
     void *allocate_in_place(size_t size) {
-        size = (size + alignment - 1) & ~(alignment - 1);
+        size = rounded_up(size, alignment);
         if (size > static_cast<size_t>(end_ - next_))
             return nullptr;
         void *memory = next_;
@@ -50,12 +74,13 @@ public:
     static Block *new_block(size_t size);
     static Block *resize_block(Block *block, size_t size);
     static void drop_block(Block *block);
-    void link(Block *block);
+    // The block is the arena's from now on. `holder` is the arena's record that refers to it; null: the arena itself.
+    void link(Block *block, const void *holder);
     // A linked block grown in place in the chain; null (and nothing changed) when memory is short.
     Block *resize_linked(Block *block, size_t size);
 
-    // Everything that was allocated after a mark can be taken back at once, which is what makes a scratch area of an
-    // arena.
+    // Everything that came to the arena after a mark can be taken back at once: records, blocks, streams and what was
+    // adopted. Nothing older may refer to it: a block that is taken back goes together with its holder.
     struct OwnedStream;
     struct Mark {
         Block *blocks;
@@ -63,8 +88,9 @@ public:
         uint8_t *next;
         uint8_t *end;
         OwnedStream *streams;
+        Arena *adopted;
     };
-    [[nodiscard]] Mark mark() const { return {blocks_, current_, next_, end_, streams_}; }
+    [[nodiscard]] Mark mark() const { return {blocks_, current_, next_, end_, streams_, adopted_}; }
     void reset(const Mark &mark);
 
     // Takes over a stream, which is freed with the arena; false when memory is short.
@@ -89,6 +115,8 @@ private:
 
     void *allocate_in_new_block(size_t size);
     void free_streams(const OwnedStream *until);
+    [[nodiscard]] bool is_taken_back(const void *record, const Mark &mark) const;
+    static void destroy_all(Arena *first, const Arena *until);
 
     uint8_t *next_ = nullptr;
     uint8_t *end_ = nullptr;

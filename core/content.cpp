@@ -9,7 +9,7 @@ namespace kovra::asn1 {
 
 namespace {
 
-constexpr int32_t piece = 8192;
+constexpr int32_t piece = threshold(8192, 3);
 
 } // namespace
 

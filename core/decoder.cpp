@@ -15,7 +15,9 @@ Site here(int32_t line = __builtin_LINE()) {
 }
 
 // Arenas of up to this many octets of encoding hold their copy in the same allocation as their records.
-constexpr size_t one_allocation = 16384;
+constexpr size_t one_allocation = threshold<size_t>(16384, 64);
+// What is set aside for records at most.
+constexpr size_t most_records = threshold<size_t>(too_large, 16);
 
 } // namespace
 
@@ -35,7 +37,6 @@ Decoder::Decoder(kovra_stream *stream, kovra_err_ctx *ctx)
 Decoder::~Decoder() {
     Arena::drop_block(pulled_);
     drop_stream_contents(notes_);
-    Arena::destroy(scratch_);
 }
 
 bool Decoder::enter_long(uint32_t &length) {
@@ -51,13 +52,13 @@ void Decoder::advance_stream() {
 // Gets octets from the stream until `count` unread ones are there. Memory grows with what arrives, not with what was
 // announced.
 bool Decoder::pull(uint32_t count) {
-    constexpr size_t first_capacity = 256;
+    constexpr size_t first_capacity = threshold<size_t>(256, 1);
     if (stream_ == nullptr)
         return false;
-    while (size_ - position_ < count) {
-        const uint32_t missing = count - (size_ - position_);
+    while (reach() < count) {
+        const uint32_t missing = count - reach();
         if (size_ == pulled_capacity_) {
-            const size_t capacity = std::max(first_capacity, 2 * pulled_capacity_);
+            const size_t capacity = std::max(first_capacity, next_capacity(pulled_capacity_, pulled_capacity_));
             Arena::Block *block =
                 pulled_ == nullptr ? Arena::new_block(capacity) : Arena::resize_block(pulled_, capacity);
             if (block == nullptr) {
@@ -104,7 +105,7 @@ Result Decoder::short_read(Site site) {
 // The octets that were read become the arena's.
 bool Decoder::keep_octets() {
     if (pulled_ != nullptr) {
-        arena_->link(pulled_);
+        arena_->link(pulled_, nullptr);
         arena_->octets = pulled_->memory();
         pulled_ = nullptr;
     } else if (position_ != 0) {
@@ -118,9 +119,11 @@ bool Decoder::keep_octets() {
     return true;
 }
 
-template <class Decode> Result Decoder::into_own_arena(size_t reserve, Decode decode, Value *&out) {
+template <class Decode> Result Decoder::into_own_arena(const Type &type, size_t expected, Decode decode, Value *&out) {
     Value *value = nullptr;
-    arena_ = Arena::create(reserve);
+    const size_t copy = expected <= one_allocation ? expected : 0;
+    const size_t records = type.operations->records_reserve(std::min(expected, one_allocation));
+    arena_ = Arena::create(std::min(records, most_records), copy);
     if (arena_ == nullptr)
         return fail(here(), code::no_memory);
     arena_->octets = base_;
@@ -151,39 +154,39 @@ Result Decoder::decode_root(const Type &type, Value *&out) {
         expected = position_ + size_t{length};
         position_ = 0;
     }
-    const size_t copy = expected <= one_allocation ? expected : 0;
     return into_own_arena(
-        copy + type.operations->records_reserve(std::min(expected, one_allocation)),
-        [&](Value *&value) { return decode(*this, type, value); }, out);
+        type, expected, [&](Value *&value) { return decode(*this, type, value); }, out);
 }
 
 Result Decoder::decode_root_content(const Type &type, const Element &element, Value *&out) {
     const auto expected = std::min<size_t>(size_, element.length > 0 ? static_cast<size_t>(element.length) : 0);
-    const size_t copy = expected <= one_allocation ? expected : 0;
     return into_own_arena(
-        copy + type.operations->records_reserve(std::min(expected, one_allocation)),
-        [&](Value *&value) { return type.operations->decode_content(*this, type, element, value); }, out);
+        type, expected, [&](Value *&value) { return type.operations->decode_content(*this, type, element, value); },
+        out);
 }
 
-bool Decoder::Scratch::begin(bool only_checking) {
-    constexpr size_t reserve = 4096;
-    if (decoder_.scratch_ == nullptr && (decoder_.scratch_ = Arena::create(reserve)) == nullptr)
-        return false;
-    decoder_.arena_ = decoder_.scratch_;
-    decoder_.arena_->octets = decoder_.base_;
-    decoder_.arena_->octets_length = decoder_.size_;
-    decoder_.arena_->stream_contents = outer_->stream_contents;
-    decoder_.checking_ = checking_ || only_checking;
-    mark_ = decoder_.arena_->mark();
-    begun_ = true;
-    return true;
+Decoder::Scratch::Scratch(Decoder &decoder, bool only_checking)
+    : decoder_(decoder), outer_(decoder.arena_), checking_(decoder.checking_) {
+    constexpr size_t records = threshold<size_t>(4096, 16);
+    own_ = Arena::create(records);
+    if (own_ == nullptr)
+        return;
+    own_->octets = decoder.base_;
+    own_->octets_length = decoder.size_;
+    own_->stream_contents = outer_->stream_contents;
+    begin_ = own_->mark();
+    decoder.arena_ = own_;
+    decoder.checking_ = checking_ || only_checking;
 }
 
-void Decoder::Scratch::end() {
-    clear();
+Decoder::Scratch::~Scratch() {
+    if (own_ == nullptr)
+        return;
     decoder_.arena_ = outer_;
-    decoder_.arena_->octets = decoder_.base_;
+    // Octets from a stream may have moved meanwhile.
+    outer_->octets = decoder_.base_;
     decoder_.checking_ = checking_;
+    Arena::destroy(own_);
 }
 
 Result decode_long_identifier(Decoder &decoder, Site site, Identifier &out) {

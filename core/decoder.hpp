@@ -4,9 +4,11 @@
 // call; records refer to octets by offset, so the octets may move while more of them arrive from a stream.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
+#include "base/ensure.hpp"
 #include "core/arena.hpp"
 #include "core/failure.hpp"
 #include "core/octets.hpp"
@@ -33,9 +35,13 @@ public:
     // Over a stream from its read position: in place when the stream shows its octets, else read as lengths announce
     // them. A null stream fails when the first octet is wanted.
     Decoder(kovra_stream *stream, kovra_err_ctx *ctx);
-    // Over the octets of an arena that is to receive further records.
+    // Over the octets of an arena that is to receive further records, from one of them on; behind them there is
+    // nothing to read.
     Decoder(Arena &arena, uint32_t position)
-        : ctx_(nullptr), base_(arena.octets), size_(arena.octets_length), position_(position), arena_(&arena) {}
+        : ctx_(nullptr), base_(arena.octets), size_(arena.octets_length), position_(std::min(position, size_)),
+          arena_(&arena) {
+        ensure(position <= size_);
+    }
     ~Decoder();
     Decoder(const Decoder &) = delete;
     Decoder &operator=(const Decoder &) = delete;
@@ -52,11 +58,17 @@ public:
     void advance_stream();
 
     [[nodiscard]] uint32_t position() const { return position_; }
-    void rewind(uint32_t position) { position_ = position; }
+    void rewind(uint32_t position) {
+        ensure(position <= size_);
+        position_ = position;
+    }
     [[nodiscard]] const uint8_t *at(uint32_t offset) const { return base_ + offset; }
     // The octets from the position on, and how many there are.
     [[nodiscard]] const uint8_t *next() const { return base_ + position_; }
-    [[nodiscard]] uint32_t reach() const { return size_ - position_; }
+    [[nodiscard]] uint32_t reach() const {
+        ensure(position_ <= size_);
+        return size_ - position_;
+    }
     [[nodiscard]] Arena &arena() const { return *arena_; }
     [[nodiscard]] kovra_err_ctx *ctx() const { return ctx_; }
     [[nodiscard]] bool has_stream() const { return !no_stream_; }
@@ -74,15 +86,18 @@ public:
         out = base_[position_];
         return true;
     }
-    void step() { ++position_; }
+    void step() { step_over(1); }
     // Steps over octets that are there.
-    void step_over(uint32_t count) { position_ += count; }
+    void step_over(uint32_t count) {
+        ensure(count <= reach());
+        position_ += count;
+    }
     // Steps over a header that has one identifier octet and a definite length, if it and all of the content are there;
     // false, and nothing done, otherwise. Nearly every element is like that: whoever tries this first and then reads
     // with care, naming what is wrong, does the same as by reading with care at once.
     bool header(uint8_t &identifier, uint32_t &length) {
         constexpr uint32_t long_form = 0x80;
-        const uint32_t left = size_ - position_;
+        const uint32_t left = reach();
         const uint8_t *octets = base_ + position_;
         if (left < 2 || (octets[0] & 0x1F) == 0x1F)
             return false;
@@ -105,7 +120,7 @@ public:
     }
     // The same for one identifier.
     bool enter(uint8_t identifier, uint32_t &length) {
-        const uint32_t left = size_ - position_;
+        const uint32_t left = reach();
         const uint8_t *octets = base_ + position_;
         if (left < 2 || octets[0] != identifier)
             return false;
@@ -119,7 +134,7 @@ public:
     }
     // Steps over `count` octets of content.
     Result skip(Site site, uint32_t count) {
-        if (count > size_ - position_ && !pull(count))
+        if (count > reach() && !pull(count))
             return short_read(site);
         position_ += count;
         return success;
@@ -138,7 +153,7 @@ public:
     // the usual in a few instructions, and everything else, and all that can go wrong, behind it.
     template <class T> T *take(const Element &element, Octets &octets) {
         const auto length = static_cast<uint32_t>(element.length);
-        if (element.form != Form::primitive || length - 1 >= size_ - position_ || !has_both_ends_)
+        if (element.form != Form::primitive || length - 1 >= reach() || !has_both_ends_)
             return nullptr;
         auto *record = static_cast<T *>(arena_->allocate_in_place(sizeof(T)));
         if (record == nullptr)
@@ -158,10 +173,11 @@ public:
     // Values are only being checked: nobody will see them.
     [[nodiscard]] bool checking() const { return checking_; }
 
-    // While it lives, octets from `end` on are out of reach.
+    // While it lives, octets from `end` on, which are there, are out of reach.
     class Window {
     public:
         Window(Decoder &decoder, uint32_t end) : decoder_(decoder), size_(decoder.size_), stream_(decoder.stream_) {
+            ensure(end <= size_ && decoder.position_ <= end);
             decoder.size_ = end;
             decoder.stream_ = nullptr;
         }
@@ -171,6 +187,8 @@ public:
         }
         Window(const Window &) = delete;
         Window &operator=(const Window &) = delete;
+        // Has all been read? Octets that are kept are those of what was read.
+        [[nodiscard]] bool is_used_up() const { return decoder_.position_ == decoder_.size_; }
 
     private:
         Decoder &decoder_;
@@ -178,35 +196,32 @@ public:
         kovra_stream *stream_;
     };
 
-    // While it lives, records go to a scratch area, which `clear` empties. Scratch areas nest.
+    // While it lives, records go to an arena of its own, which `clear` empties and which ends with it. Scratch areas
+    // nest; none knows of another's memory, and what is linked to an arena around it stays.
     class Scratch {
     public:
-        explicit Scratch(Decoder &decoder) : decoder_(decoder), outer_(decoder.arena_), checking_(decoder.checking_) {}
-        ~Scratch() {
-            if (begun_)
-                end();
-        }
+        // Begins; without memory it has not begun, and nothing changes. Values that are only checked need not be
+        // complete.
+        Scratch(Decoder &decoder, bool only_checking);
+        ~Scratch();
         Scratch(const Scratch &) = delete;
         Scratch &operator=(const Scratch &) = delete;
-        // Begins; false when memory is short. Values that are only checked need not be complete.
-        bool begin(bool only_checking);
-        void clear() { decoder_.arena_->reset(mark_); }
+        [[nodiscard]] bool has_begun() const { return own_ != nullptr; }
+        void clear() { own_->reset(begin_); }
 
     private:
-        void end();
-
         Decoder &decoder_;
         Arena *outer_;
         bool checking_;
-        bool begun_ = false;
-        Arena::Mark mark_{};
+        Arena *own_;
+        Arena::Mark begin_{};
     };
 
 private:
     bool enter_long(uint32_t &length);
     bool pull(uint32_t count);
     Result short_read(Site site);
-    template <class Decode> Result into_own_arena(size_t reserve, Decode decode, Value *&out);
+    template <class Decode> Result into_own_arena(const Type &type, size_t expected, Decode decode, Value *&out);
     bool keep_octets();
 
     kovra_err_ctx *ctx_;
@@ -219,7 +234,6 @@ private:
     Arena::Block *pulled_ = nullptr; // holds the octets that came from `stream_`
     size_t pulled_capacity_ = 0;
     StreamContent *notes_ = nullptr;
-    Arena *scratch_ = nullptr;
     Result stream_result_ = success; // of the stream's last failed read
     bool no_stream_ = false;
     bool has_both_ends_ = true;

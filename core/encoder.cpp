@@ -12,8 +12,8 @@ namespace {
 constexpr char source_name[] = "ASN1_Lib";
 
 // What is gathered before it goes to the stream.
-constexpr size_t piece = size_t{256} * 1024;
-constexpr int32_t copy_piece = 8192;
+constexpr size_t piece = threshold<size_t>(size_t{256} * 1024, 3);
+constexpr int32_t copy_piece = threshold(8192, 3);
 
 } // namespace
 
@@ -34,7 +34,7 @@ Result Encoder::reserve(Site site, size_t count) {
         return success;
     if (count > SIZE_MAX / 2 - size_)
         return fail(site, code::no_memory);
-    const size_t capacity = std::max(size_ + count, capacity_ + capacity_ / 2);
+    const size_t capacity = std::max(size_ + count, next_capacity(capacity_, capacity_ / 2));
     auto *grown = static_cast<uint8_t *>(data_ == inline_ ? kovra_malloc(capacity, source_name, __LINE__)
                                                           : kovra_realloc(data_, capacity, source_name, __LINE__));
     if (grown == nullptr)

@@ -88,7 +88,8 @@ private:
     Result refusal_ = success; // of a stream that is known to take nothing
     bool no_stream_ = false;
     bool leaves_streams_ = false;
-    uint8_t inline_[512];
+    // At least as many as a default is written in.
+    uint8_t inline_[threshold(512, 32)];
     uint8_t *data_ = inline_;
     size_t size_ = 0;
     size_t capacity_ = sizeof inline_;

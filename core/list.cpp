@@ -18,13 +18,13 @@ Site here(int32_t line = __builtin_LINE()) {
     return {"ASN1_List", line};
 }
 
-constexpr uint32_t first_capacity = 32;
+constexpr uint32_t first_capacity = threshold<uint32_t>(32, 1);
 
 // Position behind the last element of a list of indefinite length: none.
 constexpr uint32_t no_end = UINT32_MAX;
 
 // A decoded list of more elements keeps their places and builds them when they are asked for.
-constexpr uint32_t most_built_at_once = 32;
+constexpr uint32_t most_built_at_once = threshold<uint32_t>(32, 2);
 
 const ListShape &shape_of(const Type &type) {
     return *static_cast<const ListShape *>(type.shape);
@@ -38,15 +38,15 @@ Site in(const ListShape &shape, int32_t line = __builtin_LINE()) {
 bool make_slots(List &list, uint32_t wanted) {
     if (list.items != nullptr && wanted <= list.capacity)
         return true;
-    constexpr uint32_t step = 16;
-    constexpr uint32_t even_steps_to = 1024;
+    constexpr size_t step = 16;
+    constexpr size_t even_steps_to = 1024;
     const uint32_t old_slots = list.items != nullptr ? list.capacity : 0;
-    uint32_t capacity = list.capacity;
+    size_t capacity = list.capacity;
     while (capacity < wanted)
-        capacity += capacity < even_steps_to ? step : capacity / 4;
-    if (capacity > static_cast<uint32_t>(max_length) / sizeof(Value *))
+        capacity = next_capacity(capacity, capacity < even_steps_to ? step : capacity / 4);
+    if (capacity > static_cast<size_t>(max_length) / sizeof(Value *))
         return false;
-    const size_t size = size_t{capacity} * sizeof(Value *);
+    const size_t size = product(capacity, sizeof(Value *));
     Arena::Block *block = nullptr;
     if (list.items_block != nullptr) {
         block = list.arena->resize_linked(list.items_block, size);
@@ -56,14 +56,14 @@ bool make_slots(List &list, uint32_t wanted) {
         block = Arena::new_block(size);
         if (block == nullptr)
             return false;
-        list.arena->link(block);
+        list.arena->link(block, &list);
         if (old_slots != 0)
             std::memcpy(block->memory(), list.items, old_slots * sizeof(Value *));
     }
     list.items_block = block;
     list.items = reinterpret_cast<Value **>(block->memory());
     std::fill(list.items + old_slots, list.items + capacity, nullptr);
-    list.capacity = capacity;
+    list.capacity = static_cast<uint32_t>(capacity);
     return true;
 }
 
@@ -73,9 +73,11 @@ template <class Visit> Result for_each(List &list, kovra_err_ctx *ctx, Visit vis
     for (uint32_t i = 0; i < list.count; ++i) {
         Value *element = list.items != nullptr ? list.items[i] : nullptr;
         if (element == nullptr) {
+            if (list.places == nullptr)
+                return failure; // of a value that was only checked
             Decoder decoder(*list.arena, list.places[i]);
-            Decoder::Scratch scratch(decoder);
-            if (!scratch.begin(false) || decode(decoder, *list.element, element) != success) {
+            const Decoder::Scratch scratch(decoder, false);
+            if (!scratch.has_begun() || decode(decoder, *list.element, element) != success) {
                 record(ctx, here(), code::no_memory);
                 return failure;
             }
@@ -171,17 +173,16 @@ private:
 // in a scratch area, to be checked.
 class LongCollector {
 public:
+    // Goes on where the other is full.
     explicit LongCollector(const Collector &first)
-        : decoder_(first.decoder_), scratch_(decoder_), keeps_places_(!decoder_.checking()) {}
+        : keeps_places_(!first.decoder_.checking()), list_(begin_list(first)), scratch_(first.decoder_, true) {}
     ~LongCollector() { Arena::drop_block(places_); }
     LongCollector(const LongCollector &) = delete;
     LongCollector &operator=(const LongCollector &) = delete;
 
-    // Goes on where the other is full; false when memory is short.
+    // The places of those that the other has; false when memory is short.
     bool begin(const Collector &first) {
-        decoder_.arena().reset(first.mark_);
-        list_ = new_record<List>(decoder_.arena());
-        if (list_ == nullptr || !scratch_.begin(true))
+        if (list_ == nullptr || !scratch_.has_begun())
             return false;
         for (const uint32_t place : first.places_)
             if (!add(place))
@@ -202,7 +203,7 @@ public:
         list_->element = &element;
         list_->count = list_->capacity = list_->placed = count_;
         if (places_ != nullptr) {
-            list_->arena->link(places_);
+            list_->arena->link(places_, list_);
             list_->places = reinterpret_cast<const uint32_t *>(places_->memory());
             places_ = nullptr;
         }
@@ -210,10 +211,18 @@ public:
     }
 
 private:
+    // In the arena of the value, not in the scratch area: it stays.
+    static List *begin_list(const Collector &first) {
+        Arena &arena = first.decoder_.arena();
+        arena.reset(first.mark_);
+        return new_record<List>(arena);
+    }
+
     bool keep(uint32_t place) {
         if (count_ == capacity_) {
-            const uint32_t capacity = capacity_ == 0 ? 4 * most_built_at_once : capacity_ * 2;
-            const size_t size = size_t{capacity} * sizeof(uint32_t);
+            constexpr size_t first_places = threshold<size_t>(128, 1);
+            const size_t capacity = capacity_ == 0 ? first_places : next_capacity(capacity_, capacity_);
+            const size_t size = product(capacity, sizeof(uint32_t));
             Arena::Block *block = places_ == nullptr ? Arena::new_block(size) : Arena::resize_block(places_, size);
             if (block == nullptr)
                 return false;
@@ -224,12 +233,11 @@ private:
         return true;
     }
 
-    Decoder &decoder_;
+    const bool keeps_places_;
+    List *list_;
     Decoder::Scratch scratch_;
-    List *list_ = nullptr;
-    bool keeps_places_;
     uint32_t count_ = 0;
-    uint32_t capacity_ = 0;
+    size_t capacity_ = 0;
     Arena::Block *places_ = nullptr;
 };
 
@@ -495,7 +503,7 @@ Result sort_list(List *list, const Type &element) {
         return failure;
     if (list->count < 2)
         return success;
-    auto *items = static_cast<SortItem *>(kovra_malloc(list->count * sizeof(SortItem), "ASN1_List", __LINE__));
+    auto *items = static_cast<SortItem *>(kovra_malloc(product(list->count, sizeof(SortItem)), "ASN1_List", __LINE__));
     if (items == nullptr)
         return failure;
     // All encodings stand one after the other; where each begins is known when none moves any more.

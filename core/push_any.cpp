@@ -1,5 +1,6 @@
 // The open-element context: any element, kept as it arrives.
 
+#include "base/thresholds.hpp"
 #include "core/codes.hpp"
 #include "core/content.hpp"
 #include "core/push_walk.hpp"
@@ -18,7 +19,7 @@ struct kovra_asn1_decode_any_ctx {
 namespace {
 
 constexpr const char *module = "ASN1_Decode";
-constexpr int64_t initial_size = 512;
+constexpr int64_t initial_size = kovra::threshold(512, 1);
 constexpr int32_t more_input_needed = -100;
 
 bool may_feed(const kovra_asn1_decode_any_ctx *ctx, const void *data, int32_t length) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/sizes.hpp"
+#include "base/thresholds.hpp"
 #include "kovra/util_memory.h"
 
 namespace kovra::asn1 {
@@ -98,11 +100,9 @@ bool OpenElements::enter(int64_t end) {
     if (end == inner_.end && inner_.indefinite == 0)
         return true;
     if (count_ == capacity_) {
-        constexpr size_t first_capacity = 8;
-        const size_t capacity = capacity_ == 0 ? first_capacity : capacity_ * 2;
-        if (capacity > SIZE_MAX / 2 / sizeof(Level))
-            return false;
-        void *grown = kovra_realloc(outer_, capacity * sizeof(Level), "ASN1_Decode", __LINE__);
+        constexpr size_t first_capacity = threshold<size_t>(8, 1);
+        const size_t capacity = capacity_ == 0 ? first_capacity : next_capacity(capacity_, capacity_);
+        void *grown = kovra_realloc(outer_, product(capacity, sizeof(Level)), "ASN1_Decode", __LINE__);
         if (grown == nullptr)
             return false;
         outer_ = static_cast<Level *>(grown);

@@ -25,7 +25,7 @@ void drop_stream_contents(StreamContent *notes) {
 
 void link_stream_contents(Arena &arena, StreamContent *notes) {
     for (; notes != nullptr; notes = notes->next)
-        arena.link(notes->block);
+        arena.link(notes->block, nullptr);
 }
 
 kovra_stream *find_stream_content(StreamContent *notes, uint32_t offset) {

@@ -13,7 +13,7 @@
 namespace kovra::asn1 {
 
 // Octets of the segments that contents in streams are written in.
-inline constexpr int32_t segment_octets = 8192;
+inline constexpr int32_t segment_octets = threshold(8192, 3);
 
 // One note. They live in blocks of their own, which go from the encoder to the arena of the copy.
 struct StreamContent {

@@ -330,9 +330,12 @@ private:
         if (decoder_.position() > end_)
             return decoder_.fail(site, code::incorrect_length);
         kept_of(record_)[1] = decoder_.octets_from(extent.start);
-        const Decoder::Window window(decoder_, decoder_.position());
+        const uint32_t end = decoder_.position();
         decoder_.rewind(extent.start);
-        return read_whole(component, slot);
+        const Decoder::Window window(decoder_, end);
+        const Result result = read_whole(component, slot);
+        ensure(result != success || window.is_used_up());
+        return result;
     }
 
     // What is left when the components were read.
@@ -402,7 +405,9 @@ constexpr auto decode_kept_content = decode_content_of<Keep::encoding>;
 // One of definite length ends where it says: its components do not reach beyond.
 Result decode_kept_entered(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     const Decoder::Window window(decoder, decoder.position() + static_cast<uint32_t>(element.length));
-    return decode_kept_content(decoder, type, element, out);
+    const Result result = decode_kept_content(decoder, type, element, out);
+    ensure(result != success || window.is_used_up());
+    return result;
 }
 
 Result decode_kept(Decoder &decoder, const Type &type, Value *&out) {
@@ -414,9 +419,13 @@ Result decode_kept(Decoder &decoder, const Type &type, Value *&out) {
         return decoder.fail(in(shape), code::decode_any, result);
     if (!extent.identifier.is(Class::universal, type.tag) || extent.identifier.form != Form::constructed)
         return decoder.fail(in(shape), code::incorrect_item);
-    const Decoder::Window window(decoder, decoder.position());
+    const uint32_t end = decoder.position();
     decoder.rewind(extent.content);
-    return decode_kept_content(decoder, type, {extent.identifier.form, extent.length, extent.start}, out);
+    const Decoder::Window window(decoder, end);
+    const Result result =
+        decode_kept_content(decoder, type, {extent.identifier.form, extent.length, extent.start}, out);
+    ensure(result != success || window.is_used_up());
+    return result;
 }
 
 bool holds_structure(const Type &type, const Value &value) {

@@ -168,7 +168,7 @@ template <class T> T *new_record(Arena &arena, size_t size = sizeof(T)) {
 // A new record that is the root of an arena of its own, with room for `extra` further octets. Null when memory is
 // short.
 template <class T> T *new_root(size_t extra = 0) {
-    Arena *arena = Arena::create(sizeof(T) + extra + 2 * sizeof(void *));
+    Arena *arena = Arena::create(sizeof(T) + 2 * sizeof(void *), extra);
     if (arena == nullptr)
         return nullptr;
     T *record = new_record<T>(*arena);
