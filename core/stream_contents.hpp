@@ -7,13 +7,14 @@
 
 #include <cstdint>
 
+#include "base/thresholds.hpp"
 #include "core/arena.hpp"
 #include "kovra/util_stream.h"
 
 namespace kovra::asn1 {
 
 // Octets of the segments that contents in streams are written in.
-inline constexpr int32_t segment_octets = threshold(8192, 3);
+inline constexpr auto segment_octets = threshold<int32_t>(8192, 3);
 
 // One note. They live in blocks of their own, which go from the encoder to the arena of the copy.
 struct StreamContent {

@@ -1,9 +1,12 @@
 // From a JSON description to DER: one pass over the tree that gathers the octets of the leaves and the lengths of what
 // holds them, and one that writes.
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
+#include "base/sizes.hpp"
+#include "base/thresholds.hpp"
 #include "core/any.hpp"
 #include "kovra/asn1_bitstring.h"
 #include "kovra/asn1_boolean.h"
@@ -36,8 +39,9 @@ public:
 
     bool push(const T &item) {
         if (count_ == capacity_) {
-            const size_t capacity = capacity_ == 0 ? 16 : capacity_ * 2;
-            auto *grown = static_cast<T *>(kovra_realloc(items_, capacity * sizeof(T), "ASN1_JSON", __LINE__));
+            constexpr auto first_capacity = threshold<size_t>(16, 1);
+            const size_t capacity = next_capacity(capacity_, std::max(first_capacity, capacity_));
+            auto *grown = static_cast<T *>(kovra_realloc(items_, product(capacity, sizeof(T)), "ASN1_JSON", __LINE__));
             if (grown == nullptr)
                 return false;
             items_ = grown;

@@ -1,8 +1,11 @@
 // From an encoding to its JSON description: one pass over the octets, with a stack of the constructed values that are
 // open.
 
+#include <algorithm>
 #include <cstring>
 
+#include "base/sizes.hpp"
+#include "base/thresholds.hpp"
 #include "core/any.hpp"
 #include "kovra/asn1_json.h"
 #include "kovra/asn1_oid.h"
@@ -39,7 +42,7 @@ public:
 
     // The description of the one element that the octets are; null when they are not, or a part cannot be converted.
     kovra_json *run() {
-        constexpr size_t records = 4096;
+        constexpr auto records = threshold<size_t>(4096, 64);
         arena_ = Arena::create(records);
         if (arena_ == nullptr)
             return nullptr;
@@ -90,12 +93,14 @@ private:
 
     bool open(kovra_json *members, int64_t end, bool is_tagged) {
         if (count_ == capacity_) {
-            const size_t capacity = capacity_ == 0 ? 32 : size_t{capacity_} * 2;
-            auto *grown = static_cast<Frame *>(kovra_realloc(frames_, capacity * sizeof(Frame), "ASN1_JSON", __LINE__));
-            if (grown == nullptr || capacity > UINT32_MAX)
+            constexpr auto first_capacity = threshold<size_t>(32, 1);
+            const size_t capacity = next_capacity(capacity_, std::max(first_capacity, capacity_));
+            auto *grown =
+                static_cast<Frame *>(kovra_realloc(frames_, product(capacity, sizeof(Frame)), "ASN1_JSON", __LINE__));
+            if (grown == nullptr)
                 return false;
             frames_ = grown;
-            capacity_ = static_cast<uint32_t>(capacity);
+            capacity_ = capacity;
         }
         frames_[count_++] = {members, end, is_tagged, end < 0};
         return true;
@@ -269,8 +274,8 @@ private:
     uint32_t length_;
     Arena *arena_ = nullptr;
     Frame *frames_ = nullptr;
-    uint32_t count_ = 0;
-    uint32_t capacity_ = 0;
+    size_t count_ = 0;
+    size_t capacity_ = 0;
 };
 
 } // namespace

@@ -16,6 +16,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/thresholds.hpp"
 #include "kovra/asn1.h"
 #include "kovra/util.h"
 #include "tests/util_handles.hpp"
@@ -57,6 +58,27 @@ inline std::string repeated(std::string_view octets, size_t times) {
     for (size_t i = 0; i < times; ++i)
         result += octets;
     return result;
+}
+
+// Contents in streams from this size on are written in segments of that many octets.
+inline constexpr auto segmented_from = threshold<size_t>(0x500000, 40);
+inline constexpr auto segment = threshold<size_t>(8192, 3);
+
+// The segments of a string, OCTET STRINGs or BIT STRINGs whose last has the unused bits, and the end-of-contents.
+inline std::string in_segments(std::string_view data, int unused_bits = -1) {
+    std::string result;
+    for (; !data.empty(); data.remove_prefix(std::min(data.size(), segment))) {
+        const std::string_view piece = data.substr(0, segment);
+        const size_t length = piece.size() + (unused_bits >= 0 ? 1 : 0);
+        result += unused_bits >= 0 ? '\3' : '\4';
+        if (length >= 0x80)
+            result += length > 0xFF ? std::string{'\x82', static_cast<char>(length >> 8)} : "\x81";
+        result += static_cast<char>(length);
+        if (unused_bits >= 0)
+            result += static_cast<char>(piece.size() == data.size() ? unused_bits : 0);
+        result += piece;
+    }
+    return result + std::string(2, '\0');
 }
 
 // A chain of error codes, the innermost first.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "base/thresholds.hpp"
 #include "core/content.hpp"
 #include "core/descriptors.hpp"
 #include "core/registry.hpp"
@@ -17,7 +18,7 @@ Site here(int32_t line = __builtin_LINE()) {
     return {"ASN1_BitString", line};
 }
 
-constexpr int32_t segment = 8192;
+constexpr auto segment = threshold<int32_t>(8192, 3);
 
 int32_t bit_string_content_length(const Type &, Value *value, Measure) {
     if (value == nullptr)

@@ -2,6 +2,7 @@
 
 #include "kovra/asn1_octetstring.h"
 
+#include "base/thresholds.hpp"
 #include "core/content.hpp"
 #include "core/descriptors.hpp"
 #include "core/registry.hpp"
@@ -17,7 +18,7 @@ Site here(int32_t line = __builtin_LINE()) {
 }
 
 // Contents of this many octets that are not in memory are written in segments.
-constexpr int64_t segmented_from = 0x500000;
+constexpr auto segmented_from = threshold<int64_t>(0x500000, 40);
 
 int32_t string_length(const String *string) {
     if (string == nullptr)

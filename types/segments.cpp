@@ -2,21 +2,22 @@
 
 #include <cstring>
 
+#include "base/sizes.hpp"
+
 namespace kovra::asn1 {
 
 bool OpenStrings::open(int64_t end) {
     if (count_ == capacity_) {
-        if (capacity_ > UINT32_MAX / (2 * sizeof(Level)))
-            return false;
-        const size_t size = size_t{capacity_} * 2 * sizeof(Level);
+        const size_t capacity = next_capacity(capacity_, capacity_);
         Level *on_heap = levels_ == first_ ? nullptr : levels_;
-        auto *grown = static_cast<Level *>(kovra_realloc(on_heap, size, "ASN1_OctetString", __LINE__));
+        auto *grown = static_cast<Level *>(
+            kovra_realloc(on_heap, product(capacity, sizeof(Level)), "ASN1_OctetString", __LINE__));
         if (grown == nullptr)
             return false;
         if (on_heap == nullptr)
             std::memcpy(grown, first_, sizeof first_);
         levels_ = grown;
-        capacity_ *= 2;
+        capacity_ = capacity;
     }
     levels_[count_++] = {end, 0};
     return true;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "base/thresholds.hpp"
 #include "core/codes.hpp"
 #include "core/decoder.hpp"
 #include "core/failure.hpp"
@@ -36,11 +37,11 @@ public:
     [[nodiscard]] Level &top() { return levels_[count_ - 1]; }
 
 private:
-    static constexpr uint32_t first_capacity = 8;
+    static constexpr auto first_capacity = threshold<size_t>(8, 1);
     Level first_[first_capacity];
     Level *levels_ = first_;
-    uint32_t count_ = 0;
-    uint32_t capacity_ = first_capacity;
+    size_t count_ = 0;
+    size_t capacity_ = first_capacity;
 };
 
 // Reads a segment's identifier and length. An end-of-contents marker that stands there was read to its end.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/thresholds.hpp"
 #include "util/handle.hpp"
 
 using namespace kovra::util;
@@ -18,7 +19,7 @@ namespace kovra::util {
 namespace {
 
 constexpr const char *module = "UTIL_BitSet";
-constexpr size_t smallest_capacity = 16;
+constexpr auto smallest_capacity = threshold<size_t>(16, 1);
 
 size_t octets_for(int32_t bits) {
     return (static_cast<size_t>(bits) + 7) / 8;
@@ -31,7 +32,7 @@ uint8_t mask_of(int32_t bit) {
 bool reserve(kovra_bitset &set, size_t needed) {
     if (needed <= set.capacity)
         return true;
-    const size_t capacity = std::max({needed, set.capacity * 2, smallest_capacity});
+    const size_t capacity = std::max({needed, next_capacity(set.capacity, set.capacity), smallest_capacity});
     void *grown = kovra_realloc(set.octets, capacity, module, __LINE__);
     if (grown == nullptr)
         return false;

@@ -3,6 +3,7 @@
 
 #include <initializer_list>
 
+#include "base/thresholds.hpp"
 #include "kovra/util_error.h"
 
 namespace kovra::util {
@@ -17,7 +18,7 @@ int32_t fail_stream(kovra_err_ctx *ctx, Outcome outcome, int32_t line) {
 
 namespace {
 
-constexpr size_t copy_piece = 8192;
+constexpr auto copy_piece = threshold<size_t>(8192, 3);
 
 Outcome check_handle(const kovra_stream *stream) {
     if (stream == nullptr)

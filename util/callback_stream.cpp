@@ -1,9 +1,13 @@
 #include <algorithm>
 
+#include "base/thresholds.hpp"
 #include "util/byte_stream.hpp"
 
 namespace kovra::util {
 namespace {
+
+// One call of the caller's functions moves at most this much.
+constexpr auto largest_call = threshold<size_t>(INT32_MAX, 7);
 
 struct CallbackStream : kovra_stream {
     kovra_stream_callbacks callbacks;
@@ -22,7 +26,7 @@ Outcome call_read(CallbackStream &stream, uint8_t *buffer, size_t size, size_t &
     count = 0;
     if (stream.callbacks.read == nullptr)
         return failed(KOVRA_ERR_STREAM_READ);
-    const auto wanted = static_cast<int32_t>(std::min<size_t>(size, INT32_MAX));
+    const auto wanted = static_cast<int32_t>(std::min(size, largest_call));
     int32_t given = 0;
     const int32_t result = stream.callbacks.read(stream.user, buffer, wanted, &given);
     if (result != 1)
@@ -53,7 +57,7 @@ Outcome write_to_callback(kovra_stream &stream, const uint8_t *data, size_t size
     if (callback.callbacks.write == nullptr)
         return failed(KOVRA_ERR_STREAM_WRITE);
     while (size > 0) {
-        const auto offered = static_cast<int32_t>(std::min<size_t>(size, INT32_MAX));
+        const auto offered = static_cast<int32_t>(std::min(size, largest_call));
         int32_t taken = 0;
         const int32_t result = callback.callbacks.write(callback.user, data, offered, &taken);
         if (result != 1)

@@ -1,5 +1,7 @@
 #include <algorithm>
 
+#include "base/sizes.hpp"
+#include "base/thresholds.hpp"
 #include "kovra/util_error.h"
 #include "util/handle.hpp"
 
@@ -7,10 +9,11 @@ namespace kovra::util {
 namespace {
 
 constexpr const char *module = "UTIL_Error";
-constexpr int32_t inline_entries = 8;
-constexpr size_t inline_source = 32;
-constexpr size_t inline_message = 96;
-constexpr size_t chunk_size = 2048;
+constexpr auto inline_entries = threshold<int32_t>(8, 1);
+constexpr auto first_heap_entries = threshold<size_t>(24, 1);
+constexpr auto inline_source = threshold<size_t>(32, 3);
+constexpr auto inline_message = threshold<size_t>(96, 3);
+constexpr auto chunk_size = threshold<size_t>(2048, 3);
 
 struct Entry {
     const char *source;
@@ -50,7 +53,7 @@ struct kovra_err_ctx {
     uint32_t magic;
     int32_t count;
     int32_t heap_capacity;
-    Entry *heap; // entries from the ninth on
+    Entry *heap; // entries behind the first
     TextChunk *chunks;
     Entry first[inline_entries];
     InlineText texts[inline_entries];
@@ -110,10 +113,11 @@ bool make_room_for_entry(kovra_err_ctx &ctx) {
     const int32_t on_heap = ctx.count - inline_entries;
     if (on_heap < ctx.heap_capacity)
         return true;
-    const int64_t wanted = std::max<int64_t>(24, int64_t{ctx.heap_capacity} * 2);
-    if (wanted > INT32_MAX - inline_entries || static_cast<uint64_t>(wanted) > SIZE_MAX / sizeof(Entry))
+    const auto capacity = static_cast<size_t>(ctx.heap_capacity);
+    const size_t wanted = next_capacity(capacity, std::max(first_heap_entries, capacity));
+    if (wanted > static_cast<size_t>(INT32_MAX - inline_entries))
         return false;
-    void *grown = kovra_realloc(ctx.heap, static_cast<size_t>(wanted) * sizeof(Entry), module, __LINE__);
+    void *grown = kovra_realloc(ctx.heap, product(wanted, sizeof(Entry)), module, __LINE__);
     if (grown == nullptr)
         return false;
     ctx.heap = static_cast<Entry *>(grown);

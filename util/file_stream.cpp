@@ -1,12 +1,13 @@
 #include <algorithm>
 
+#include "base/thresholds.hpp"
 #include "util/byte_stream.hpp"
 #include "util/os_file.hpp"
 
 namespace kovra::util {
 namespace {
 
-constexpr size_t buffer_size = 8192;
+constexpr auto buffer_size = threshold<size_t>(8192, 3);
 
 struct FileStream : kovra_stream {
     OsFile file;

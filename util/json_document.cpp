@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <new>
 
+#include "base/thresholds.hpp"
 #include "util/os_memory.hpp"
 
 namespace kovra::util {
@@ -11,11 +12,11 @@ namespace {
 
 constexpr const char *module = "UTIL_JSON";
 constexpr size_t alignment = 8;
-constexpr uint32_t first_slab = 512;
-constexpr uint32_t largest_slab = uint32_t{32} * 1024 * 1024;
-constexpr size_t name_slots = 64;
+constexpr auto first_slab = threshold<uint32_t>(512, 64);
+constexpr auto largest_slab = threshold<uint32_t>(32 * 1024 * 1024, 128);
+constexpr auto name_slots = threshold<size_t>(64, 2);
 // A document of fewer members copies their names.
-constexpr uint32_t names_shared_from = 8;
+constexpr auto names_shared_from = threshold<uint32_t>(8, 2);
 
 constexpr size_t aligned(size_t size) {
     return (size + alignment - 1) & ~(alignment - 1);

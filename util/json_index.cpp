@@ -2,13 +2,19 @@
 
 #include <algorithm>
 
+#include "base/sizes.hpp"
+#include "base/thresholds.hpp"
+
 namespace kovra::util {
 
 namespace {
 
 constexpr const char *module = "UTIL_JSON";
 // Shorter containers are searched from the beginning.
-constexpr uint32_t indexed_from = 16;
+constexpr auto indexed_from = threshold<uint32_t>(16, 1);
+constexpr auto first_slots = threshold<size_t>(64, 2);
+// A new table has this many slots for each name; one that has no more than two is replaced.
+constexpr auto slots_for_name = threshold<size_t>(4, 2);
 
 // Mixed with the address of the document, which no author of a text knows.
 uint32_t hash_of(const char *name, const Document *document) {
@@ -26,11 +32,11 @@ bool index_items(Container &container) {
         return false;
     ItemIndex &index = *container.index;
     if (index.capacity < container.count) {
-        const size_t capacity = std::max<size_t>(container.count, size_t{index.capacity} * 2);
-        if (capacity > UINT32_MAX || capacity > SIZE_MAX / sizeof(void *))
+        const size_t capacity = std::max<size_t>(container.count, next_capacity(index.capacity, index.capacity));
+        if (capacity > UINT32_MAX)
             return false;
-        auto *items =
-            static_cast<const kovra_json **>(kovra_realloc(index.items, capacity * sizeof(void *), module, __LINE__));
+        auto *items = static_cast<const kovra_json **>(
+            kovra_realloc(index.items, product(capacity, sizeof(void *)), module, __LINE__));
         if (items == nullptr)
             return false;
         index.items = items;
@@ -60,13 +66,11 @@ bool index_names(Container &object) {
         return false;
     ItemIndex &index = *object.index;
     if (index.slot_count / 2 < object.count) {
-        size_t count = 64;
-        while (count / 4 < object.count)
+        size_t count = first_slots;
+        while (count / slots_for_name < object.count)
             count *= 2;
-        if (count > SIZE_MAX / sizeof(ItemIndex::Slot))
-            return false;
         auto *slots = static_cast<ItemIndex::Slot *>(
-            kovra_realloc(index.slots, count * sizeof(ItemIndex::Slot), module, __LINE__));
+            kovra_realloc(index.slots, product(count, sizeof(ItemIndex::Slot)), module, __LINE__));
         if (slots == nullptr)
             return false;
         std::fill_n(slots, count, ItemIndex::Slot{0, 0});

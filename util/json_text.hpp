@@ -7,6 +7,8 @@
 #include <cstring>
 #include <type_traits>
 
+#include "base/sizes.hpp"
+#include "base/thresholds.hpp"
 #include "kovra/util_memory.h"
 
 namespace kovra::util {
@@ -58,13 +60,13 @@ public:
 
 private:
     bool grow(size_t more) {
-        constexpr size_t most = SIZE_MAX / 4 / sizeof(Item);
-        if (failed_ || more > most || capacity_ > most) {
-            failed_ = true;
-            return false;
-        }
-        const size_t capacity = std::max<size_t>({256 / sizeof(Item), capacity_ * 2, size_ + more});
-        auto *grown = static_cast<Item *>(kovra_realloc(items_, capacity * sizeof(Item), "UTIL_JSON", __LINE__));
+        constexpr auto first_capacity = threshold<size_t>(256 / sizeof(Item), 1);
+        const size_t capacity =
+            std::max(next_capacity(capacity_, std::max(first_capacity, capacity_)), sum(size_, more));
+        const size_t size = product(capacity, sizeof(Item));
+        auto *grown = failed_ || size > PTRDIFF_MAX
+                          ? nullptr
+                          : static_cast<Item *>(kovra_realloc(items_, size, "UTIL_JSON", __LINE__));
         if (grown == nullptr) {
             failed_ = true;
             return false;

@@ -1,14 +1,15 @@
 #include <algorithm>
 #include <functional>
 
+#include "base/thresholds.hpp"
 #include "util/byte_stream.hpp"
 
 namespace kovra::util {
 namespace {
 
-constexpr size_t smallest_buffer = 64;
+constexpr auto smallest_buffer = threshold<size_t>(64, 1);
 // An initial size beyond this is not believed: the octets may never come.
-constexpr size_t largest_first_buffer = 65536;
+constexpr auto largest_first_buffer = threshold<size_t>(65536, 3);
 
 // What an empty stream shows in place of a null pointer.
 constexpr uint8_t no_octets[1] = {};
@@ -23,8 +24,8 @@ Outcome read_memory(kovra_stream &stream, uint8_t *buffer, size_t size, size_t &
 }
 
 bool grow(MemoryStream &memory, size_t needed) {
-    size_t capacity =
-        memory.capacity == 0 ? std::max(memory.first_capacity, smallest_buffer) : memory.capacity + memory.capacity / 2;
+    size_t capacity = memory.capacity == 0 ? std::max(memory.first_capacity, smallest_buffer)
+                                           : next_capacity(memory.capacity, memory.capacity / 2);
     capacity = std::max(capacity, needed);
     if (capacity > PTRDIFF_MAX) // a third more than half of the memory: what is needed may still be had
         capacity = needed;

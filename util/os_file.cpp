@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "base/thresholds.hpp"
+
 #if defined(_WIN32)
 #define WIN32_LEAN_AND_MEAN
 #if !defined(NOMINMAX)
@@ -31,7 +33,7 @@ namespace kovra::util {
 namespace {
 
 // One system call moves at most this much, on every system.
-constexpr size_t largest_transfer = size_t{1} << 30;
+constexpr auto largest_transfer = threshold<size_t>(size_t{1} << 30, 7);
 
 } // namespace
 

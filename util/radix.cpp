@@ -3,6 +3,7 @@
 #include <cstring>
 #include <utility>
 
+#include "base/thresholds.hpp"
 #include "kovra/util_memory.h"
 
 namespace kovra::util {
@@ -20,9 +21,11 @@ struct Decimal {
     static constexpr size_t per_other = 10704;
 };
 
-// Up to here the plain methods are faster.
-constexpr size_t plain_conversion = 28;
-constexpr size_t plain_product = 32;
+// Up to here the plain methods are faster. What a chunk converts to is multiplied plainly, so that all longer factors
+// are such lengths, doubled.
+constexpr auto plain_conversion = threshold<size_t>(28, 1);
+constexpr auto plain_product = threshold<size_t>(32, 2);
+static_assert(plain_conversion * Decimal::per_other / 10000 + 1 <= plain_product);
 
 // to += from; the carry out.
 template <class Base> uint32_t add(uint32_t *to, const uint32_t *from, size_t count) {
