@@ -227,12 +227,11 @@ TEST(PkixReal, EveryAllocationOfLoadingMayFail) {
         int64_t length = 0;
         const Memory<char> base64(kovra_base64encode(data.data(), size_of(data), 64, &length));
         const Memory<char> pem(kovra_pemencode(data.data(), size_of(data), kind.labels.back().c_str(), &length));
-        const Errors ctx(kovra_err_ctx_new());
         for (const std::string &text : {data, std::string(base64.get()), std::string(pem.get())})
             for (bool fails_once : {false, true})
                 fail_each_allocation(
                     [&] {
-                        kovra_err_ctx_clear(ctx.get());
+                        const Errors ctx(kovra_err_ctx_new());
                         const Value value(kind.type, kind.load(text.data(), size_of(text), ctx.get()));
                         int32_t needed = 0;
                         return kind.get_signed_octets(value.get(), nullptr, &needed) == 1 && needed > 0;
