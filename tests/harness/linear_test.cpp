@@ -211,6 +211,21 @@ TEST(Linear, TextsOfJson) {
     }
 }
 
+TEST(Linear, DecimalTextOfLargeNumbers) {
+    if (is_tight)
+        GTEST_SKIP() << "products of many digits are not made by transforms there";
+    const auto cost = [](size_t n) {
+        const std::string text = repeated("1234567", n / 7);
+        const MemoryMeter meter;
+        const std::clock_t begin = std::clock();
+        const BigInteger number(kovra_biginteger_newdecimal(text.c_str()));
+        const Memory<char> again(kovra_biginteger_todecimal(number.get()));
+        EXPECT_TRUE(again.get() == text);
+        return Cost{meter.use().allocated, meter.use().peak, 0, std::clock() - begin};
+    };
+    expect_linear(100000, cost);
+}
+
 // A list that grows by elements that are put in it, values that are adopted by values, and what gives them back.
 TEST(Linear, ValuesThatGrow) {
     const auto cost = [](size_t n) {
