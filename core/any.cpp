@@ -292,10 +292,14 @@ int32_t kovra_asn1_any_toobject(kovra_asn1_value *any, uint32_t type, kovra_asn1
     Content whole{};
     if (is_one_piece(*element) && !element->end_of_contents &&
         (element->length == indefinite || element->content.octets.length == static_cast<uint32_t>(element->length))) {
+        if (element->content.octets.length > max_length - element->header.length)
+            return refuse(ctx, code::length_too_large);
         whole.octets = {nullptr, element->header.offset, element->header.length + element->content.octets.length};
     } else {
         if (encode_any(encoder, row(KOVRA_ASN1_TYPE_ANY), element) != success)
             return refuse(ctx, code::encode_any);
+        if (encoder.size() > static_cast<size_t>(max_length))
+            return refuse(ctx, code::length_too_large);
         whole.octets = {encoder.data(), 0, static_cast<uint32_t>(encoder.size())};
     }
     return decode_from(whole, *element->arena, here(), type, nullptr, out_value, ctx);
