@@ -37,6 +37,8 @@ void drop_stream_contents(StreamContent *notes) {
 }
 
 void link_stream_contents(Arena &arena, StreamContent *notes) {
+    if (notes != nullptr)
+        arena.note_announced();
     for (; notes != nullptr; notes = notes->next)
         arena.link(notes->block, nullptr);
 }
