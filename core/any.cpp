@@ -222,8 +222,11 @@ kovra_asn1_value *kovra_asn1_any_new(uint32_t tag_class, int32_t form, int32_t t
     uint8_t header[max_identifier_octets + max_length_octets];
     int32_t count = put_identifier(header, identifier.tag_class, identifier.form, tag);
     count += put_length(header + count, length);
-    return new_any_root(identifier, length, header, static_cast<uint32_t>(count), content,
-                        static_cast<uint32_t>(content_length));
+    Any *any = new_any_root(identifier, length, header, static_cast<uint32_t>(count), content,
+                            static_cast<uint32_t>(content_length));
+    if (any != nullptr && length > content_length)
+        any->arena->note_announced();
+    return any;
 }
 
 int32_t kovra_asn1_any_isprimitive(const kovra_asn1_value *any, int32_t *out_form) noexcept {
@@ -292,10 +295,14 @@ int32_t kovra_asn1_any_toobject(kovra_asn1_value *any, uint32_t type, kovra_asn1
     Content whole{};
     if (is_one_piece(*element) && !element->end_of_contents &&
         (element->length == indefinite || element->content.octets.length == static_cast<uint32_t>(element->length))) {
+        if (element->content.octets.length > max_length - element->header.length)
+            return refuse(ctx, code::length_too_large);
         whole.octets = {nullptr, element->header.offset, element->header.length + element->content.octets.length};
     } else {
         if (encode_any(encoder, row(KOVRA_ASN1_TYPE_ANY), element) != success)
             return refuse(ctx, code::encode_any);
+        if (encoder.size() > static_cast<size_t>(max_length))
+            return refuse(ctx, code::length_too_large);
         whole.octets = {encoder.data(), 0, static_cast<uint32_t>(encoder.size())};
     }
     return decode_from(whole, *element->arena, here(), type, nullptr, out_value, ctx);
@@ -336,6 +343,7 @@ int32_t kovra_asn1_decode_any_ex(kovra_stream *stream, kovra_stream *content_str
             return result;
         }
         any->content.stream = content_stream;
+        any->arena->note_announced();
     }
     *out_any = any;
     if (out_read != nullptr)

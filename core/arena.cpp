@@ -203,7 +203,22 @@ bool Arena::adopt(Value *value) {
     arena->owner_ = this;
     arena->sibling_ = adopted_;
     adopted_ = arena;
+    outermost->announced_ = outermost->announced_ || arena->announced_;
     return true;
+}
+
+void Arena::note_announced() {
+    Arena *outermost = this;
+    while (outermost->owner_ != nullptr)
+        outermost = outermost->owner_;
+    outermost->announced_ = true;
+}
+
+bool Arena::has_announced() const {
+    const Arena *outermost = this;
+    while (outermost->owner_ != nullptr)
+        outermost = outermost->owner_;
+    return outermost->announced_;
 }
 
 } // namespace kovra::asn1

@@ -99,6 +99,12 @@ public:
     // Takes over a value that is the root of its own arena; false when it is not its own, or holds this arena.
     bool adopt(Value *value);
 
+    // Some length in the arena is only announced, by a stream or for octets that may not come.
+    void note_announced();
+    // Is there one in the arena, or in what it belongs to? Nothing is to be allocated for what a value says of its
+    // length then.
+    [[nodiscard]] bool has_announced() const;
+
     [[nodiscard]] bool is_root(const Value *value) const { return root == value; }
     [[nodiscard]] bool is_owned() const { return owner_ != nullptr; }
 
@@ -126,6 +132,7 @@ private:
     OwnedStream *streams_ = nullptr;
     size_t next_size_ = 0;
     size_t spare_size_ = 0;
+    bool announced_ = false; // of the outermost, for all within
     Arena *owner_ = nullptr;
     Arena *adopted_ = nullptr; // first of the adopted
     Arena *sibling_ = nullptr; // next among the adopted of the same owner

@@ -179,8 +179,8 @@ int32_t string_choice_length(const Type &type, Value *value, Measure measure) {
 Result encode_string_choice_content(Encoder &encoder, const Type &type, Value *value, int32_t length) {
     if (!encoder.has_stream() || value == nullptr)
         return encoder.fail(in(strings_of(type)), code::null_argument);
-    const Type &octets = row(KOVRA_ASN1_TYPE_OCTET_STRING);
-    return octets.operations->encode_content(encoder, octets, static_cast<TaggedString *>(value)->string, length);
+    return encode_content(encoder, row(KOVRA_ASN1_TYPE_OCTET_STRING), static_cast<TaggedString *>(value)->string,
+                          length);
 }
 
 Result encode_string_choice(Encoder &encoder, const Type &type, Value *value) {

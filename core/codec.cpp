@@ -28,12 +28,11 @@ Result encode_generic(Encoder &encoder, const Type &type, Value *value, int32_t 
     return type.operations->encode_content(encoder, type, value, content);
 }
 
-// A value that the type has no use for is a bad argument; no stream comes before it.
+} // namespace
+
 Result refuse_value(Encoder &encoder, const Value *value) {
     return encoder.fail(here(), value == nullptr || !encoder.has_stream() ? code::null_argument : code::bad_argument);
 }
-
-} // namespace
 
 int32_t content_length(const Type &type, Value *value, Measure measure) {
     if (value != nullptr && !type.operations->holds(type, *value))
@@ -70,7 +69,8 @@ Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure)
     if (measure == Measure::fresh && value != nullptr) {
         const int32_t whole = whole_length(type, value);
         if (whole > 0)
-            if (const Result result = encoder.expect(here(), static_cast<size_t>(whole)); result != success)
+            if (const Result result = encoder.expect(here(), static_cast<size_t>(whole), *value->arena);
+                result != success)
                 return result;
     }
     if (type.operations->encode != nullptr)
@@ -78,6 +78,13 @@ Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure)
     if (value == nullptr)
         return refuse_value(encoder, value);
     return encode_generic(encoder, type, value, type.operations->content_length(type, value, Measure::known));
+}
+
+Result encode_content(Encoder &encoder, const Type &type, Value *value, int32_t length) {
+    if (value == nullptr || type.operations->holds(type, *value))
+        return type.operations->encode_content(encoder, type, value, length);
+    return type.operations->refuse_content != nullptr ? type.operations->refuse_content(encoder, type, *value)
+                                                      : refuse_value(encoder, value);
 }
 
 Result decode_generic(Decoder &decoder, const Type &type, Value *&out) {

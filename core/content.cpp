@@ -4,11 +4,13 @@
 #include <cstring>
 
 #include "core/registry.hpp"
+#include "kovra/util_memory.h"
 
 namespace kovra::asn1 {
 
 namespace {
 
+constexpr char source_name[] = "ASN1_Lib";
 constexpr int32_t piece = threshold(8192, 3);
 
 } // namespace
@@ -22,6 +24,12 @@ int32_t size_of(const Content &content) {
     return size <= max_length ? static_cast<int32_t>(size) : unknown;
 }
 
+void use_stream(Content &content, Arena &arena, kovra_stream *stream) {
+    content.stream = stream;
+    if (kovra_stream_gettype(stream) != KOVRA_STREAM_MEMORY)
+        arena.note_announced();
+}
+
 bool copy_out(const Content &content, const Arena &arena, void *buffer) {
     if (content.stream == nullptr) {
         if (content.octets.length != 0)
@@ -31,6 +39,31 @@ bool copy_out(const Content &content, const Arena &arena, void *buffer) {
     const int32_t size = size_of(content);
     return size >= 0 && kovra_stream_ctrl(content.stream, KOVRA_STREAM_REWIND, 0, nullptr) == success &&
            kovra_stream_readn(content.stream, buffer, size, nullptr, nullptr) == success;
+}
+
+void *copy_of(kovra_stream *stream, int32_t length) {
+    const auto wanted = static_cast<size_t>(length);
+    size_t capacity = kovra_stream_gettype(stream) == KOVRA_STREAM_MEMORY ? wanted : std::min<size_t>(wanted, piece);
+    auto *octets = static_cast<uint8_t *>(kovra_malloc(capacity, source_name, __LINE__));
+    bool is_good = octets != nullptr && kovra_stream_ctrl(stream, KOVRA_STREAM_REWIND, 0, nullptr) == success;
+    for (size_t size = 0; is_good && size < wanted;) {
+        if (size == capacity) {
+            capacity = std::min(wanted, next_capacity(capacity, capacity));
+            void *grown = kovra_realloc(octets, capacity, source_name, __LINE__);
+            is_good = grown != nullptr;
+            octets = is_good ? static_cast<uint8_t *>(grown) : octets;
+            continue;
+        }
+        int32_t got = 0;
+        is_good =
+            kovra_stream_read(stream, octets + size, static_cast<int32_t>(capacity - size), &got, nullptr) == success &&
+            got > 0;
+        size += static_cast<size_t>(got);
+    }
+    if (is_good)
+        return octets;
+    kovra_free(octets);
+    return nullptr;
 }
 
 Result put_content(Encoder &encoder, Site site, const Content &content, const Arena &arena, int64_t &out_count) {

@@ -14,8 +14,16 @@ struct Type;
 // Octets of the content; -1 when its stream cannot tell, -2 when there are more than a length can hold.
 int32_t size_of(const Content &content);
 
+// Makes a stream the content of a value in the arena. The size that it tells is only announced, unless it is a memory
+// stream.
+void use_stream(Content &content, Arena &arena, kovra_stream *stream);
+
 // Copies all content octets.
 bool copy_out(const Content &content, const Arena &arena, void *buffer);
+
+// A copy of all `length` octets of a stream, for kovra_free; null when there are fewer, or memory is short. The octets
+// take memory as they come.
+void *copy_of(kovra_stream *stream, int32_t length);
 
 // Writes all content octets and tells how many that were.
 Result put_content(Encoder &encoder, Site site, const Content &content, const Arena &arena, int64_t &out_count);

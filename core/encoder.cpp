@@ -46,10 +46,12 @@ Result Encoder::reserve(Site site, size_t count) {
     return success;
 }
 
-Result Encoder::expect(Site site, size_t count) {
+Result Encoder::expect(Site site, size_t count, const Arena &arena) {
     if (refusal_ != success)
         return success;
-    return reserve(site, stream_ != nullptr && held_ == 0 ? std::min(count, piece) : count);
+    if (stream_ != nullptr && held_ == 0)
+        count = std::min(count, piece);
+    return count <= capacity_ - size_ || arena.has_announced() ? success : reserve(site, count);
 }
 
 Result Encoder::note(Site site, kovra_stream *content) {

@@ -32,8 +32,9 @@ public:
 
     // Makes room for `count` octets that are to come, so that they take one allocation.
     Result reserve(Site site, size_t count);
-    // The same where they need not all be gathered before they go to the stream.
-    Result expect(Site site, size_t count);
+    // The same for a value of this arena, which is believed only if all of it is in memory, and where the octets need
+    // not all be gathered before they go to the stream.
+    Result expect(Site site, size_t count, const Arena &arena);
 
     Result put(Site site, const void *octets, size_t count) {
         if (count > capacity_ - size_)

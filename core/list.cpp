@@ -562,6 +562,8 @@ int32_t kovra_asn1_list_put(kovra_asn1_value *list, kovra_asn1_value *element) n
 
 int32_t kovra_asn1_list_get(kovra_asn1_value *list, int32_t index, kovra_asn1_value **out_element) noexcept {
     auto *record = as<List>(list);
+    if (out_element != nullptr)
+        *out_element = nullptr;
     if (record == nullptr || out_element == nullptr || index < 0)
         return 0;
     Value *element = list_element(*record, static_cast<uint32_t>(index));

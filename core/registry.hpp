@@ -38,6 +38,8 @@ struct Operations {
     bool (*begins)(const Type &, const Identifier &) = nullptr;
     // Reads the content behind an identifier that the value can begin with. Null: `decode_content`.
     Result (*decode_begun)(Decoder &, const Type &, const Identifier &, const Element &, Value *&out) = nullptr;
+    // Says why the content of a value that the type does not hold is not written. Null: it is a bad argument.
+    Result (*refuse_content)(Encoder &, const Type &, const Value &) = nullptr;
     // Whole values are refused in both directions, whatever they are.
     bool refuses_whole = false;
     // Octets of records to make room for when this many octets are to be decoded.
@@ -89,6 +91,10 @@ int32_t whole_length_of(int32_t tag, int32_t content);
 
 // Writes a whole value; one of known measure has just been measured as a part of its holder.
 Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure = Measure::fresh);
+// A value that the type has no use for is a bad argument; no stream, or no value, comes before it.
+Result refuse_value(Encoder &encoder, const Value *value);
+// Writes the content octets of a value that was just measured, `length` of them or of indefinite length.
+Result encode_content(Encoder &encoder, const Type &type, Value *value, int32_t length);
 
 // Reads a whole value, and the content behind an identifier that `begins` accepted.
 Result decode_generic(Decoder &decoder, const Type &type, Value *&out);

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <new>
 
+#include "base/ensure.hpp"
 #include "core/failure.hpp"
 #include "core/octets.hpp"
 #include "kovra/util_memory.h"
@@ -11,8 +12,20 @@
 namespace kovra::asn1 {
 
 StreamContent *note_stream_content(StreamContent *others, kovra_stream *stream, uint32_t offset) {
+    ensure(others == nullptr || others->offset < offset);
     Arena::Block *block = Arena::new_block(sizeof(StreamContent));
-    return block != nullptr ? new (block->memory()) StreamContent{others, block, stream, offset, false} : nullptr;
+    if (block == nullptr)
+        return nullptr;
+    auto *made = new (block->memory()) StreamContent{others, nullptr, block, stream, offset, 0, false};
+    made->jump = made;
+    if (others == nullptr)
+        return made;
+    made->number = others->number + 1;
+    // Two jumps of one length in a row become one that is as long as both: the lengths are those of full binary trees.
+    const StreamContent *first = others->jump;
+    const bool are_alike = others->number - first->number == first->number - first->jump->number;
+    made->jump = are_alike ? first->jump : others;
+    return made;
 }
 
 void drop_stream_contents(StreamContent *notes) {
@@ -24,14 +37,16 @@ void drop_stream_contents(StreamContent *notes) {
 }
 
 void link_stream_contents(Arena &arena, StreamContent *notes) {
+    if (notes != nullptr)
+        arena.note_announced();
     for (; notes != nullptr; notes = notes->next)
         arena.link(notes->block, nullptr);
 }
 
 kovra_stream *find_stream_content(StreamContent *notes, uint32_t offset) {
-    while (notes != nullptr && notes->offset != offset)
-        notes = notes->next;
-    if (notes == nullptr)
+    while (notes != nullptr && notes->offset > offset)
+        notes = notes->jump != notes && notes->jump->offset >= offset ? notes->jump : notes->next;
+    if (notes == nullptr || notes->offset != offset)
         return nullptr;
     notes->is_found = true;
     return notes->stream;

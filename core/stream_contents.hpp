@@ -18,14 +18,16 @@ inline constexpr auto segment_octets = threshold<int32_t>(8192, 3);
 
 // One note. They live in blocks of their own, which go from the encoder to the arena of the copy.
 struct StreamContent {
-    StreamContent *next;
+    StreamContent *next; // of the next lower offset; null: none
+    StreamContent *jump; // one of those behind, or itself: by jumps as far as they lead, any is found in O(log n) steps
     Arena::Block *block;
     kovra_stream *stream;
     uint32_t offset; // of the content octets that stand for those of the stream
+    uint32_t number; // of notes behind
     bool is_found;
 };
 
-// A new note in front of others; null when memory is short.
+// A new note in front of others, all of lower offsets; null when memory is short.
 StreamContent *note_stream_content(StreamContent *others, kovra_stream *stream, uint32_t offset);
 void drop_stream_contents(StreamContent *notes);
 // Gives the notes to an arena, which frees them.

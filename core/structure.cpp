@@ -30,7 +30,8 @@ Site in(const Structure &shape, int32_t line = __builtin_LINE()) {
 bool is_written(const Component &component, const Value *value) {
     if (value == nullptr)
         return false;
-    return component.presence != Presence::defaulted || !component.fallback->is(*value);
+    return component.presence != Presence::defaulted || !holds(encode_row(component), value) ||
+           !component.fallback->is(*value);
 }
 
 Octets *kept_of(Record &record) {
@@ -121,7 +122,7 @@ Result encode_structure_content(Encoder &encoder, const Type &type, Value *value
     if (shape.allows != nullptr && !shape.allows(*record))
         return encoder.fail(in(shape), shape.refusal);
     if (shape.content != nullptr)
-        return shape.content->operations->encode_content(encoder, *shape.content, record->slots[0], length);
+        return encode_content(encoder, *shape.content, record->slots[0], length);
     // Measuring stops at the first component of indefinite length: what follows it was not measured.
     const Measure measure = length >= 0 && record->measured >= 0 ? Measure::known : Measure::fresh;
     for (uint8_t i = 0; i < shape.count; ++i) {
@@ -139,6 +140,14 @@ Result encode_structure_content(Encoder &encoder, const Type &type, Value *value
         if (const Result result = encoder.end_of_contents(in(shape)); result != success)
             return encoder.fail(in(shape), code::write_end_of_contents, result);
     return success;
+}
+
+// A record of another structure is refused for its first part, which is none of this one's.
+Result refuse_other_content(Encoder &encoder, const Type &type, const Value &value) {
+    const Structure &shape = shape_of(type);
+    const Component &first = shape.components[0];
+    const Value *part = value.kind == Kind::record ? static_cast<const Record &>(value).slots[0] : &value;
+    return fail_encode(encoder, at(shape, first), first, refuse_value(encoder, part));
 }
 
 int32_t kept_length(const Type &type, Value *value, Measure known) {
@@ -444,6 +453,7 @@ constexpr Operations structure_operations = {
     .encode_content = encode_structure_content,
     .decode_content = decode_structure_content,
     .decode_entered = decode_structure_content,
+    .refuse_content = refuse_other_content,
     .records_reserve = structure_reserve,
 };
 
@@ -456,6 +466,7 @@ constexpr Operations kept_structure_operations = {
     .decode_content = decode_kept_content,
     .decode = decode_kept,
     .decode_entered = decode_kept_entered,
+    .refuse_content = refuse_other_content,
     .records_reserve = structure_reserve,
 };
 

@@ -52,7 +52,9 @@ Value *make_sha256(Arena &arena) {
 
 // The dotted text tells, whatever the parameters: octets of an unfinished arc at the end are no part of it.
 bool is_sha256(const Value &value) {
-    const auto *algorithm = static_cast<const ObjectIdentifier *>(component(algorithm_identifier, &value, 0));
+    const auto *algorithm = as<ObjectIdentifier>(component(algorithm_identifier, &value, 0));
+    if (algorithm == nullptr)
+        return false;
     const uint8_t *octets = algorithm->octets.data(*algorithm->arena);
     const uint32_t length = algorithm->octets.length;
     return length >= sizeof sha256 && std::memcmp(octets, sha256, sizeof sha256) == 0 &&

@@ -193,12 +193,18 @@ TEST(List, KeepsWhatIsPutInOrder) {
         ASSERT_EQ(kovra_asn1_integer_getlong(element, &number), 1);
         ASSERT_EQ(number, i);
     }
-    for (int32_t index : {-1, count, INT32_MAX, INT32_MIN})
-        EXPECT_EQ(kovra_asn1_list_get(numbers, index, &element), 0);
+    for (const auto &[list, index] : {std::pair(numbers, -1),
+                                      {numbers, count},
+                                      {numbers, INT32_MAX},
+                                      {numbers, INT32_MIN},
+                                      {static_cast<kovra_asn1_value *>(nullptr), 0}}) {
+        element = unwritten();
+        EXPECT_EQ(kovra_asn1_list_get(list, index, &element), 0);
+        EXPECT_EQ(element, nullptr);
+    }
     EXPECT_EQ(kovra_asn1_list_get(numbers, 0, nullptr), 0);
-    EXPECT_EQ(kovra_asn1_list_get(nullptr, 0, &element), 0);
     EXPECT_EQ(kovra_asn1_list_put(numbers, nullptr), 0);
-    EXPECT_EQ(kovra_asn1_list_put(nullptr, element), 0);
+    EXPECT_EQ(kovra_asn1_list_put(nullptr, numbers), 0);
     EXPECT_EQ(kovra_asn1_list_getsize(nullptr), 0);
     kovra_asn1_list_free(numbers, 2);
     kovra_asn1_list_free(nullptr, 2);

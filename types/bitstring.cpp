@@ -136,7 +136,7 @@ Result decode_into(StreamSource &source, kovra_stream *content_stream, const Ele
         Arena::destroy(bits->arena);
         return result;
     }
-    bits->content.stream = content_stream;
+    use_stream(bits->content, *bits->arena, content_stream);
     *out_bitstring = bits;
     return success;
 }
@@ -214,15 +214,14 @@ kovra_bitset *kovra_asn1_bitstring_getbitset(kovra_asn1_value *bitstring) noexce
     if (length < 0)
         return nullptr;
     const auto unused_bits = static_cast<int32_t>(bits->unused_bits);
+    if (int64_t{length} * 8 - unused_bits > INT32_MAX)
+        return nullptr;
     if (length == 0)
         return unused_bits == 0 ? kovra_bitset_empty() : nullptr;
     if (bits->content.stream == nullptr)
         return kovra_bitset_new(unused_bits, bits->content.octets.data(*bits->arena), length);
-    void *copy = kovra_malloc(static_cast<size_t>(length), "ASN1_BitString", __LINE__);
-    if (copy == nullptr)
-        return nullptr;
-    kovra_bitset *set =
-        copy_out(bits->content, *bits->arena, copy) ? kovra_bitset_new(unused_bits, copy, length) : nullptr;
+    void *copy = copy_of(bits->content.stream, length);
+    kovra_bitset *set = copy != nullptr ? kovra_bitset_new(unused_bits, copy, length) : nullptr;
     kovra_free(copy);
     return set;
 }

@@ -127,8 +127,10 @@ Result encode_character_string(Encoder &encoder, const Type &type, Value *value)
     uint32_t unused_bits = 0;
     const uint32_t begin = decoder.position();
     const Result result = decode_segments<false>(decoder, here(), element, string->content, unused_bits);
-    if (element.length == indefinite && decoder.arena().stream_contents != nullptr)
-        string->content.stream = find_stream_content(decoder.arena().stream_contents, begin);
+    kovra_stream *stream =
+        element.length == indefinite ? find_stream_content(decoder.arena().stream_contents, begin) : nullptr;
+    if (stream != nullptr)
+        use_stream(string->content, decoder.arena(), stream);
     if (result == success)
         out = string;
     return result;
@@ -181,7 +183,7 @@ Result decode_into(StreamSource &source, kovra_stream *content_stream, const Ele
         Arena::destroy(string->arena);
         return result;
     }
-    string->content.stream = content_stream;
+    use_stream(string->content, *string->arena, content_stream);
     *out_string = string;
     return success;
 }
@@ -239,7 +241,7 @@ kovra_asn1_value *kovra_asn1_octetstring_newstream(kovra_stream *stream) noexcep
         return nullptr;
     auto *string = new_root<String>();
     if (string != nullptr)
-        string->content.stream = stream;
+        use_stream(string->content, *string->arena, stream);
     return string;
 }
 
@@ -267,11 +269,8 @@ kovra_data_blob *kovra_asn1_octetstring_getblob(kovra_asn1_value *string) noexce
         return nullptr;
     if (record->content.stream == nullptr)
         return kovra_data_blob_new(record->content.octets.data(*record->arena), length);
-    void *copy = kovra_malloc(length > 0 ? static_cast<size_t>(length) : 1, "ASN1_OctetString", __LINE__);
-    if (copy == nullptr)
-        return nullptr;
-    kovra_data_blob *blob =
-        copy_out(record->content, *record->arena, copy) ? kovra_data_blob_new(copy, length) : nullptr;
+    void *copy = copy_of(record->content.stream, length);
+    kovra_data_blob *blob = copy != nullptr ? kovra_data_blob_new(copy, length) : nullptr;
     kovra_free(copy);
     return blob;
 }

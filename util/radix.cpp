@@ -1,10 +1,13 @@
 #include "util/radix.hpp"
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
+#include "base/sizes.hpp"
 #include "base/thresholds.hpp"
 #include "kovra/util_memory.h"
+#include "util/transform.hpp"
 
 namespace kovra::util {
 namespace {
@@ -25,6 +28,9 @@ struct Decimal {
 // are such lengths, doubled.
 constexpr auto plain_conversion = threshold<size_t>(28, 1);
 constexpr auto plain_product = threshold<size_t>(32, 2);
+// Between these a product is made by transforms.
+constexpr auto transformed_from = threshold<size_t>(1024, 4);
+constexpr auto transformed_to = threshold<size_t>(Columns::most_digits, 64);
 static_assert(plain_conversion * Decimal::per_other / 10000 + 1 <= plain_product);
 
 // to += from; the carry out.
@@ -104,21 +110,39 @@ void multiply_plainly<Decimal>(uint32_t *product, const uint32_t *left, const ui
     product[2 * count - 1] = static_cast<uint32_t>(carry);
 }
 
-// Karatsuba: a0 b1 + a1 b0 = a0 b0 + a1 b1 + (a0 - a1)(b1 - b0). The product has 2 * count digits, the scratch room as
-// many. A count above plain_product is even, and so is its half while above it. Depth: log2 of the count.
+// The columns with their carries.
+template <class Base>
+void multiply_by_transform(uint32_t *product, const uint32_t *left, const uint32_t *right, size_t count,
+                           uint32_t *room) {
+    const Columns columns(left, right, count, room);
+    uint64_t carry = 0;
+    for (size_t i = 0; i < 2 * count; ++i) {
+        const Column column = columns[i];
+        const uint64_t low = column.low + carry;
+        const uint64_t high = (uint64_t{column.high} + (low < carry ? 1 : 0)) << 32 | low >> 32;
+        const uint64_t rest = high % Base::base << 32 | (low & UINT32_MAX);
+        product[i] = static_cast<uint32_t>(rest % Base::base);
+        carry = (high / Base::base << 32) + rest / Base::base;
+    }
+}
+
+// Between the plain way and transforms, and above them, Karatsuba: a0 b1 + a1 b0 = a0 b0 + a1 b1 + (a0 - a1)(b1 - b0).
+// The product has 2 * count digits, the scratch room as many. A count above plain_product is even, and so is its half
+// while above it. Depth: log2 of the count.
 template <class Base>
 // NOLINTNEXTLINE(misc-no-recursion)
-void multiply(uint32_t *product, const uint32_t *left, const uint32_t *right, size_t count, uint32_t *scratch) {
-    if (count <= plain_product) {
-        multiply_plainly<Base>(product, left, right, count);
-        return;
-    }
+void multiply(uint32_t *product, const uint32_t *left, const uint32_t *right, size_t count, uint32_t *scratch,
+              uint32_t *room) {
+    if (count <= plain_product)
+        return multiply_plainly<Base>(product, left, right, count);
+    if (count >= transformed_from && count <= transformed_to)
+        return multiply_by_transform<Base>(product, left, right, count, room);
     const size_t half = count / 2;
     const bool left_negative = difference<Base>(product, left, left + half, half);
     const bool right_negative = difference<Base>(product + half, right + half, right, half);
-    multiply<Base>(scratch, product, product + half, half, scratch + count);
-    multiply<Base>(product, left, right, half, scratch + count);
-    multiply<Base>(product + count, left + half, right + half, half, scratch + count);
+    multiply<Base>(scratch, product, product + half, half, scratch + count, room);
+    multiply<Base>(product, left, right, half, scratch + count, room);
+    multiply<Base>(product + count, left + half, right + half, half, scratch + count, room);
 
     // A borrow wraps around, and the carry that follows it brings it back.
     uint32_t carry = left_negative != right_negative ? 0 - subtract<Base>(scratch, product, scratch, count)
@@ -171,8 +195,10 @@ template <class From, class To> Digits convert(const uint32_t *values, size_t co
         convert_plainly<From, To>(result + width * i, width, values + (here > 0 ? begin : 0), here);
     }
     if (levels > 0) {
-        // A product and its scratch room, and two powers of half that size.
-        auto *work = static_cast<uint32_t *>(kovra_malloc(3 * total * sizeof(uint32_t), module, __LINE__));
+        // A product and its scratch room, two powers of half that size, and the room for a transform.
+        const size_t factor = std::min(total / 2, transformed_to);
+        const size_t words = sum(kovra::product(3, total), factor < transformed_from ? 0 : Columns::room_for(factor));
+        auto *work = static_cast<uint32_t *>(kovra_malloc(kovra::product(words, sizeof(uint32_t)), module, __LINE__));
         if (work == nullptr) {
             kovra_free(result);
             return {};
@@ -181,6 +207,7 @@ template <class From, class To> Digits convert(const uint32_t *values, size_t co
         uint32_t *scratch = product + total;
         uint32_t *power = scratch + total; // the worth of one unit of an upper half
         uint32_t *next_power = power + total / 2;
+        uint32_t *room = next_power + total / 2;
         uint32_t unit[plain_conversion + 1] = {};
         unit[chunk] = 1;
         convert_plainly<From, To>(power, width, unit, chunk + 1);
@@ -189,12 +216,12 @@ template <class From, class To> Digits convert(const uint32_t *values, size_t co
                 uint32_t *high = low + size;
                 if (is_zero(high, size))
                     continue;
-                multiply<To>(product, high, power, size, scratch);
+                multiply<To>(product, high, power, size, scratch, room);
                 add_carry<To>(product + size, add<To>(product, low, size));
                 std::memcpy(low, product, 2 * size * sizeof *low);
             }
             if (2 * size < total) {
-                multiply<To>(next_power, power, power, size, scratch);
+                multiply<To>(next_power, power, power, size, scratch, room);
                 std::swap(power, next_power);
             }
         }

@@ -12,8 +12,9 @@ struct Digits {
     size_t count = 0;           // may include leading zeros
 };
 
-// Both split the number in halves and join the converted halves with Karatsuba's multiplication: n digits cost
-// O(n^1.585) steps and about 5n digits of memory at most, the result included.
+// Both split the number in halves and join the converted halves by multiplying: plainly, by Karatsuba's method or by
+// transforms (util/transform.hpp). n digits cost O(n log^2 n) steps and 14n digits of memory at most, the result
+// included.
 Digits binary_to_decimal(const uint32_t *values, size_t count);
 Digits decimal_to_binary(const uint32_t *values, size_t count);
 

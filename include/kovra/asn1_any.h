@@ -62,8 +62,8 @@ KOVRA_ASN1_API int32_t kovra_asn1_any_contenttoobject(kovra_asn1_value *any, uin
                                                       kovra_asn1_value **out_value, kovra_err_ctx *ctx) KOVRA_NOTHROW;
 
 /* kovra_asn1_any_toobject reads the whole element, identifier included, as a value of the type. Codes: 0x10002;
- * 0x10235 on top of those of writing the element; the type's decode code on top of those of the decoding; 0x1027f when
- * octets are left. */
+ * 0x10235 on top of those of writing the element; 0x10204 for an element of more than 0x7FFFFFFF octets; the type's
+ * decode code on top of those of the decoding; 0x1027f when octets are left. */
 KOVRA_ASN1_API int32_t kovra_asn1_any_toobject(kovra_asn1_value *any, uint32_t type, kovra_asn1_value **out_value,
                                                kovra_err_ctx *ctx) KOVRA_NOTHROW;
 

@@ -36,7 +36,8 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_bitstring_newbits(const int32_t *pos
 KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_bitstring_newbitset(const kovra_bitset *set) KOVRA_NOTHROW;
 
 /* kovra_asn1_bitstring_getbitset returns a new bit set of the value, released with kovra_bitset_free; null for null,
- * when the data cannot be read, and when memory is short. */
+ * when the data cannot be read, when the bits are more than 2,147,483,647 (which 256 MiB of data can hold), and when
+ * memory is short. */
 KOVRA_ASN1_API kovra_bitset *kovra_asn1_bitstring_getbitset(kovra_asn1_value *bitstring) KOVRA_NOTHROW;
 
 /* kovra_asn1_bitstring_getlength returns the number of data octets, without the octet of unused bits: -1 when the
@@ -47,7 +48,8 @@ KOVRA_ASN1_API int32_t kovra_asn1_bitstring_getlength(const kovra_asn1_value *bi
 KOVRA_ASN1_API int32_t kovra_asn1_bitstring_getunusedbits(const kovra_asn1_value *bitstring) KOVRA_NOTHROW;
 
 /* kovra_asn1_bitstring_getbit returns 1 when the bit is set, bit 0 being the most significant one of the first octet;
- * 0 when it is clear or outside the value, and for null. */
+ * 0 when it is clear or outside the value, and for null. Bits from 2,147,483,648 on cannot be
+ * asked for. */
 KOVRA_ASN1_API int32_t kovra_asn1_bitstring_getbit(kovra_asn1_value *bitstring, int32_t bit) KOVRA_NOTHROW;
 
 /* kovra_asn1_bitstring_getall is kovra_asn1_octetstring_getall for the data octets. */

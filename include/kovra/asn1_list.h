@@ -26,8 +26,9 @@ KOVRA_ASN1_API void kovra_asn1_list_free(kovra_asn1_value *list, uint32_t type) 
  * for a null list or element and when memory is short. Putting n elements takes O(n) steps. */
 KOVRA_ASN1_API int32_t kovra_asn1_list_put(kovra_asn1_value *list, kovra_asn1_value *element) KOVRA_NOTHROW;
 
-/* kovra_asn1_list_get stores the element at `index`, the first being 0, borrowed from the list, and returns 1; 0 for a
- * null list or place and an index outside the list. */
+/* kovra_asn1_list_get stores the element at `index`, the first being 0, borrowed from the list, and returns 1. It
+ * stores null and returns 0 for a null list, an index outside the list and when memory is short; a null place gives 0.
+ */
 KOVRA_ASN1_API int32_t kovra_asn1_list_get(kovra_asn1_value *list, int32_t index,
                                            kovra_asn1_value **out_element) KOVRA_NOTHROW;
 

@@ -32,9 +32,9 @@ KOVRA_UTIL_API int32_t kovra_biginteger_compare(const kovra_biginteger *left, co
                                                 int32_t *out_order) KOVRA_NOTHROW;
 
 /* kovra_biginteger_todecimal returns the value as zero-terminated decimal text, with a minus sign where negative and
- * without leading zeros, released with kovra_free; null for null and when memory is short. n octets take O(n^1.585)
- * steps (Karatsuba's multiplication on halves) and about 6n octets of memory on the way: microseconds for a key,
- * seconds for a megabyte. */
+ * without leading zeros, released with kovra_free; null for null and when memory is short. n octets take
+ * O(n log^2 n) steps (products by number-theoretic transforms, on halves) and at most 14n octets of memory on the way:
+ * microseconds for a key, less than a second for two million digits. */
 KOVRA_UTIL_API char *kovra_biginteger_todecimal(const kovra_biginteger *number) KOVRA_NOTHROW;
 
 /* kovra_biginteger_tohex returns the value as zero-terminated lower-case hexadecimal text of its magnitude, with a

@@ -269,5 +269,23 @@ TEST(Edges, LengthsOfEverySize) {
     }
 }
 
+// An element whose header and content are one piece of more octets than a length can tell is not read as a whole.
+TEST(Edges, WholesBeyondTheLargestLength) {
+    const std::string data = octets("04 84 7F FF FF FF");
+    auto *any = core::new_root<core::Any>();
+    any->arena->octets = reinterpret_cast<const uint8_t *>(data.data());
+    any->header = {nullptr, 0, 6};
+    any->tag = 4;
+    any->form = core::Form::primitive;
+    any->length = INT32_MAX;
+    any->content.octets = {nullptr, 6, INT32_MAX};
+    const Value owner(23, any);
+    const Errors ctx(kovra_err_ctx_new());
+    kovra_asn1_value *out = unwritten();
+    EXPECT_EQ(kovra_asn1_any_toobject(any, 1, &out, ctx.get()), 0);
+    EXPECT_EQ(out, nullptr);
+    EXPECT_EQ(Codes(ctx.get()), Codes({0x10204}));
+}
+
 } // namespace
 } // namespace kovra::test

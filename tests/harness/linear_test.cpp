@@ -211,6 +211,21 @@ TEST(Linear, TextsOfJson) {
     }
 }
 
+TEST(Linear, DecimalTextOfLargeNumbers) {
+    if (is_tight)
+        GTEST_SKIP() << "products of many digits are not made by transforms there";
+    const auto cost = [](size_t n) {
+        const std::string text = repeated("1234567", n / 7);
+        const MemoryMeter meter;
+        const std::clock_t begin = std::clock();
+        const BigInteger number(kovra_biginteger_newdecimal(text.c_str()));
+        const Memory<char> again(kovra_biginteger_todecimal(number.get()));
+        EXPECT_TRUE(again.get() == text);
+        return Cost{meter.use().allocated, meter.use().peak, 0, std::clock() - begin};
+    };
+    expect_linear(100000, cost);
+}
+
 // A list that grows by elements that are put in it, values that are adopted by values, and what gives them back.
 TEST(Linear, ValuesThatGrow) {
     const auto cost = [](size_t n) {
@@ -285,6 +300,91 @@ TEST(Linear, AnnouncedLengthsTakeNoMemory) {
             }
         }
     }
+}
+
+// A caller's stream that claims a size and has no octets.
+struct Claim {
+    int64_t size;
+    int64_t reads = 0;
+    Stream stream = [this] {
+        kovra_stream_callbacks callbacks = {};
+        callbacks.read = [](void *user, void *, int32_t, int32_t *out_count) {
+            ++static_cast<Claim *>(user)->reads;
+            *out_count = 0;
+            return 1;
+        };
+        callbacks.write = [](void *, const void *, int32_t octets, int32_t *out_count) {
+            *out_count = octets;
+            return 1;
+        };
+        callbacks.control = [](void *user, int32_t command, int64_t) {
+            return command == KOVRA_STREAM_SIZE ? static_cast<Claim *>(user)->size : int64_t{1};
+        };
+        return Stream(kovra_stream_new_callbacks(&callbacks, this, nullptr));
+    }();
+};
+
+Value bits_in(const Claim &claim) {
+    const Input input(octets("03 02 00 01"));
+    Handle out = nullptr;
+    EXPECT_EQ(kovra_asn1_decode_bitstring_ex(input.stream(), claim.stream.get(), &out, nullptr, nullptr), 1);
+    return {3, out};
+}
+
+TEST(Linear, AnnouncedLengthsTakeNoMemoryWhenWritten) {
+    Claim large{0x7FFFFFF0}, bits{0x0FFFFFF0}, octets{segmented_from - 1};
+    const auto any = [] { return Value(23, kovra_asn1_any_new(0, 1, 4, 0x7FFFFF00, "x", 1)); };
+    Value list(24, kovra_asn1_list_new()), list_of_list(24, kovra_asn1_list_new());
+    EXPECT_EQ(kovra_asn1_list_put(list.get(), any().release()), 1);
+    EXPECT_EQ(kovra_asn1_list_put(list_of_list.get(), list.release()), 1);
+    const Value values[] = {any(), bits_in(large), bits_in(bits), std::move(list_of_list),
+                            Value(4, kovra_asn1_octetstring_newstream(octets.stream.get()))};
+    for (const Value &value : values) {
+        SCOPED_TRACE(value.type());
+        const MemoryMeter meter;
+        EXPECT_EQ(Blob(kovra_asn1_mem_encode(value.type(), value.get())), nullptr);
+        EXPECT_EQ(encode(value.type(), value.get()).result, 0);
+        EXPECT_FALSE(Value(value.type(), kovra_asn1_dupobject(value.type(), value.get(), nullptr)));
+        EXPECT_FALSE(Value(23, kovra_asn1_objecttoany(value.type(), value.get())));
+        EXPECT_EQ(kovra_asn1_octetstring_getblob(value.get()), nullptr);
+        EXPECT_EQ(kovra_asn1_bitstring_getbitset(value.get()), nullptr);
+        EXPECT_LT(meter.use().peak, allowance);
+    }
+    // More bits than a set can have are refused before they are read.
+    const int64_t reads = large.reads;
+    EXPECT_EQ(kovra_asn1_bitstring_getbitset(values[1].get()), nullptr);
+    EXPECT_EQ(large.reads, reads);
+}
+
+// The other octets are written into one buffer of their size; the blob is a copy.
+TEST(Linear, WhatIsInMemoryIsWrittenAtOnce) {
+    const std::string data = noise(1000);
+    const Value list(24, kovra_asn1_list_new());
+    for (int i = 0; i < 1000; ++i)
+        EXPECT_EQ(kovra_asn1_list_put(list.get(), kovra_asn1_any_new(0, 1, 4, 1000, data.data(), 1000)), 1);
+    const MemoryMeter meter;
+    const Blob blob(kovra_asn1_mem_encode(24, list.get()));
+    EXPECT_LE(meter.use().allocated, 2 * int64_t{kovra_data_blob_getlength(blob.get())} + 64);
+}
+
+// Strings whose contents stay in streams, in a value that is copied.
+TEST(Linear, ContentsInStreams) {
+    Claim claim{segmented_from};
+    const Value string(4, kovra_asn1_octetstring_newstream(claim.stream.get()));
+    const Value type = decoded(6, "06 01 2A");
+    const auto cost = [&](size_t n) {
+        const Value list(24, kovra_asn1_list_new());
+        for (size_t i = 0; i < n; ++i)
+            EXPECT_EQ(kovra_asn1_list_put(list.get(), kovra_asn1_objecttoany(4, string.get())), 1);
+        const MemoryMeter meter;
+        const std::clock_t begin = std::clock();
+        const Value attribute(42, kovra_x500attribute_new(type.get(), list.get()));
+        look_at(kovra_x500attribute_getvalue(attribute.get()));
+        EXPECT_EQ(kovra_asn1_list_getsize(kovra_x500attribute_getvalue(attribute.get())), static_cast<int32_t>(n));
+        return Cost{meter.use().allocated, meter.use().peak, 0, std::clock() - begin};
+    };
+    expect_linear(4000, cost);
+    EXPECT_EQ(claim.reads, 0);
 }
 
 // Each sample, and much of all there can be much of.

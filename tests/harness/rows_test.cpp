@@ -601,6 +601,70 @@ TEST_P(Scarcity, EveryAllocationMayFail) {
 
 INSTANTIATE_TEST_SUITE_P(Rows, Scarcity, testing::Range(0u, 4u));
 
+// A new value of every kind, and records and choices of several shapes.
+std::vector<Value> of_every_kind() {
+    std::vector<Value> found;
+    for (const uint32_t type : {1u, 2u, 3u, 4u, 6u, 21u, 23u, 24u, 32u, 33u, 34u, 36u, 47u, 62u, 63u, 178u})
+        found.push_back(decode(type, minimal_sample(type)).value);
+    return found;
+}
+
+// A new value of a structure or a choice in which one part is `part`, the other ones being as they should; null where
+// they cannot be.
+core::Value *holder_of(const core::Type &type, uint8_t place, core::Value *part) {
+    if (is_structure(type)) {
+        const auto &shape = *static_cast<const core::Structure *>(type.shape);
+        const std::vector<Sample> values = component_values(type);
+        core::Record *record = core::new_structure(shape);
+        for (uint8_t i = 0; i < shape.count; ++i) {
+            const uint32_t number = shape.components[i].copied_as->number;
+            Value value = i == place ? Value() : decode(number, values[i].octets).value;
+            if (!has_no_value(number))
+                core::store(*record, i, i == place ? part : static_cast<core::Value *>(value.release()));
+        }
+        return record;
+    }
+    auto *choice = core::new_root<core::Choice>();
+    choice->shape = static_cast<const core::ChoiceShape *>(type.shape);
+    choice->alternative = place;
+    choice->value = part;
+    EXPECT_TRUE(choice->arena->adopt(part));
+    return choice;
+}
+
+// A part that is none of what its component takes is not looked into, by whatever way its holder is written.
+TEST(Rows, StrangePartsAreRefused) {
+    size_t refused = 0;
+    for (uint32_t type = 0; type < type_count; ++type) {
+        const core::Type &row = core::row(type);
+        const bool is_table_choice = row.operations == &core::choice_operations;
+        if (!is_structure(row) && !is_table_choice)
+            continue;
+        const auto *choice = static_cast<const core::ChoiceShape *>(row.shape);
+        const auto *structure = static_cast<const core::Structure *>(row.shape);
+        const uint8_t count = is_table_choice ? choice->count : structure->count;
+        for (uint8_t place = 0; place < count; ++place) {
+            const core::Component &component =
+                is_table_choice ? choice->alternatives[place] : structure->components[place];
+            for (Value &part : of_every_kind()) {
+                auto *value = static_cast<core::Value *>(part.get());
+                if (core::holds(core::encode_row(component), value) || has_no_value(component.type))
+                    continue;
+                SCOPED_TRACE("type " + std::to_string(type) + ", " + component.name + " of type " +
+                             std::to_string(part.type()));
+                part.release();
+                const Value holder(type, holder_of(row, place, value));
+                for (const int32_t length : {-2, -1, 0, 1, 100})
+                    ASSERT_NE(encode_content(type, holder.get(), length).result, 1);
+                ASSERT_LT(kovra_asn1_content_length(type, holder.get()), 0);
+                ASSERT_NE(encode(type, holder.get()).result, 1);
+                ++refused;
+            }
+        }
+    }
+    EXPECT_GT(refused, 3000u);
+}
+
 // The examples, read as all that they can be read as: cut, and where memory is short.
 TEST(Rows, FilesAreCutAndReadWithoutMemory) {
     size_t count = 0;
