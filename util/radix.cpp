@@ -3,6 +3,7 @@
 #include <cstring>
 #include <utility>
 
+#include "base/sizes.hpp"
 #include "base/thresholds.hpp"
 #include "kovra/util_memory.h"
 
@@ -158,11 +159,8 @@ template <class From, class To> Digits convert(const uint32_t *values, size_t co
     for (; chunk > plain_conversion; ++levels)
         chunk = chunk / 2 + chunk % 2;
     const size_t width = chunk * To::per_other / 10000 + 1;
-    constexpr size_t most = SIZE_MAX / (4 * sizeof(uint32_t));
-    if (width > most >> levels)
-        return {};
-    const size_t total = width << levels;
-    auto *result = static_cast<uint32_t *>(kovra_malloc(total * sizeof(uint32_t), module, __LINE__));
+    const size_t total = product(width, size_t{1} << levels);
+    auto *result = static_cast<uint32_t *>(kovra_malloc(product(total, sizeof(uint32_t)), module, __LINE__));
     if (result == nullptr)
         return {};
     for (size_t i = 0; i < size_t{1} << levels; ++i) {
@@ -172,7 +170,7 @@ template <class From, class To> Digits convert(const uint32_t *values, size_t co
     }
     if (levels > 0) {
         // A product and its scratch room, and two powers of half that size.
-        auto *work = static_cast<uint32_t *>(kovra_malloc(3 * total * sizeof(uint32_t), module, __LINE__));
+        auto *work = static_cast<uint32_t *>(kovra_malloc(product(total, 3 * sizeof(uint32_t)), module, __LINE__));
         if (work == nullptr) {
             kovra_free(result);
             return {};
