@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "base/sizes.hpp"
 #include "core/content.hpp"
 #include "core/descriptors.hpp"
 #include "kovra/asn1_any.h"
@@ -89,6 +90,11 @@ int32_t any_length(const Type &, Value *value, Measure) {
     return total < max_length ? static_cast<int32_t>(total) : unknown;
 }
 
+// Of the content. Nothing says where one of indefinite length ends.
+int64_t most_octets(const Any &any) {
+    return any.length == indefinite ? INT64_MAX : any.length;
+}
+
 Result encode_any(Encoder &encoder, const Type &, Value *value) {
     const auto *any = static_cast<const Any *>(value);
     if (!encoder.has_stream() || any == nullptr)
@@ -102,7 +108,7 @@ Result encode_any(Encoder &encoder, const Type &, Value *value) {
         return result == success ? encoder.end_of_contents(here()) : result;
     }
     if (result == success)
-        result = put_content(encoder, here(), any->content, *any->arena, copied);
+        result = put_content(encoder, here(), any->content, *any->arena, most_octets(*any), copied);
     if (result == success && any->length != indefinite && copied != any->length)
         return encoder.fail(here(), code::encode_any);
     return result;
@@ -117,7 +123,8 @@ Result encode_any_content(Encoder &encoder, const Type &, Value *value, int32_t 
     if (any->end_of_contents)
         return success;
     int64_t copied = 0;
-    if (const Result result = put_content(encoder, here(), any->content, *any->arena, copied); result != success)
+    if (const Result result = put_content(encoder, here(), any->content, *any->arena, most_octets(*any), copied);
+        result != success)
         return result;
     return length == indefinite || copied == length ? success : encoder.fail(here(), code::short_copy);
 }
@@ -164,10 +171,11 @@ bool is_one_piece(const Any &any) {
 
 Any *new_any_root(const Identifier &identifier, int32_t length, const uint8_t *header, uint32_t header_length,
                   const void *content, uint32_t content_length) {
-    auto *any = new_root<Any>(size_t{header_length} + content_length);
+    const size_t size = sum(header_length, content_length);
+    auto *any = new_root<Any>(size);
     if (any == nullptr)
         return nullptr;
-    auto *octets = static_cast<uint8_t *>(any->arena->allocate(size_t{header_length} + content_length));
+    auto *octets = static_cast<uint8_t *>(any->arena->allocate(size));
     if (octets == nullptr) {
         Arena::destroy(any->arena);
         return nullptr;

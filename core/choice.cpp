@@ -187,7 +187,7 @@ Result encode_string_choice(Encoder &encoder, const Type &type, Value *value) {
     const Site site = in(strings_of(type));
     if (!encoder.has_stream() || value == nullptr)
         return encoder.fail(site, code::null_argument);
-    const int32_t length = string_choice_content_length(type, value, Measure::fresh);
+    const int32_t length = string_choice_content_length(type, value, Measure::known);
     if (length == unknown)
         return encoder.fail(site, code::no_length);
     const Form form = length == indefinite ? Form::constructed : Form::primitive;

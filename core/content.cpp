@@ -13,6 +13,16 @@ namespace {
 constexpr char source_name[] = "ASN1_Lib";
 constexpr int32_t piece = threshold(8192, 3);
 
+// Copies as many octets from the start as the content was just found to have.
+bool copy_octets(const Content &content, const Arena &arena, void *buffer, int32_t size) {
+    if (content.stream != nullptr)
+        return kovra_stream_ctrl(content.stream, KOVRA_STREAM_REWIND, 0, nullptr) == success &&
+               kovra_stream_readn(content.stream, buffer, size, nullptr, nullptr) == success;
+    if (size != 0)
+        std::memcpy(buffer, content.octets.data(arena), static_cast<size_t>(size));
+    return true;
+}
+
 } // namespace
 
 int32_t size_of(const Content &content) {
@@ -30,18 +40,8 @@ void use_stream(Content &content, Arena &arena, kovra_stream *stream) {
         arena.note_announced();
 }
 
-bool copy_out(const Content &content, const Arena &arena, void *buffer) {
-    if (content.stream == nullptr) {
-        if (content.octets.length != 0)
-            std::memcpy(buffer, content.octets.data(arena), content.octets.length);
-        return true;
-    }
-    const int32_t size = size_of(content);
-    return size >= 0 && kovra_stream_ctrl(content.stream, KOVRA_STREAM_REWIND, 0, nullptr) == success &&
-           kovra_stream_readn(content.stream, buffer, size, nullptr, nullptr) == success;
-}
-
-void *copy_of(kovra_stream *stream, int32_t length) {
+void *copy_of(const Content &content, int32_t length) {
+    kovra_stream *stream = content.stream;
     const auto wanted = static_cast<size_t>(length);
     size_t capacity = kovra_stream_gettype(stream) == KOVRA_STREAM_MEMORY ? wanted : std::min<size_t>(wanted, piece);
     auto *octets = static_cast<uint8_t *>(kovra_malloc(capacity, source_name, __LINE__));
@@ -60,15 +60,33 @@ void *copy_of(kovra_stream *stream, int32_t length) {
             got > 0;
         size += static_cast<size_t>(got);
     }
-    if (is_good)
+    if (is_good && size_of(content) == length)
         return octets;
     kovra_free(octets);
     return nullptr;
 }
 
-Result put_content(Encoder &encoder, Site site, const Content &content, const Arena &arena, int64_t &out_count) {
+int32_t tell_length(Content &content, int32_t length) {
+    if (content.stream != nullptr && length >= 0)
+        content.told = static_cast<uint32_t>(length) + 1;
+    return length;
+}
+
+bool copy_out(const Content &content, const Arena &arena, void *buffer, int32_t room) {
+    return room >= 0 && size_of(content) == room && copy_octets(content, arena, buffer, room);
+}
+
+bool copy_told(const Content &content, const Arena &arena, void *buffer) {
+    const int32_t size = size_of(content);
+    const bool is_other =
+        content.stream != nullptr && content.told != 0 && content.told - 1 != static_cast<uint32_t>(size);
+    return size >= 0 && !is_other && copy_octets(content, arena, buffer, size);
+}
+
+Result put_content(Encoder &encoder, Site site, const Content &content, const Arena &arena, int64_t most,
+                   int64_t &out_count) {
     if (content.stream != nullptr)
-        return encoder.copy(site, content.stream, out_count);
+        return encoder.copy(site, content.stream, most, out_count);
     out_count = content.octets.length;
     return encoder.put(site, content.octets.data(arena), content.octets.length);
 }

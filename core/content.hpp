@@ -18,15 +18,31 @@ int32_t size_of(const Content &content);
 // stream.
 void use_stream(Content &content, Arena &arena, kovra_stream *stream);
 
-// Copies all content octets.
-bool copy_out(const Content &content, const Arena &arena, void *buffer);
+// A copy of a content in a stream, which has just told `length`, for kovra_free; null when it has another length now,
+// or memory is short. The octets take memory as they come.
+void *copy_of(const Content &content, int32_t length);
 
-// A copy of all `length` octets of a stream, for kovra_free; null when there are fewer, or memory is short. The octets
-// take memory as they come.
-void *copy_of(kovra_stream *stream, int32_t length);
+// Is the value a string of so many octets? Nobody is told: who makes room asks for the length.
+inline bool has_octets(const kovra_asn1_value *value, int32_t count) {
+    const auto *string = as<String>(value);
+    return string != nullptr && size_of(string->content) == count;
+}
 
-// Writes all content octets and tells how many that were.
-Result put_content(Encoder &encoder, Site site, const Content &content, const Arena &arena, int64_t &out_count);
+// Gives back a length that is told to the caller, who may make room for so many octets: that of a stream, which may
+// have another size the next time it is asked, is remembered. -1 and -2 are no lengths.
+int32_t tell_length(Content &content, int32_t length);
+
+// Copies all content octets into room for `room` of them. False, and perhaps some of them copied, when they are more or
+// fewer than that, or the stream fails.
+bool copy_out(const Content &content, const Arena &arena, void *buffer, int32_t room);
+// The same into room for the length that was last told. Where none was, only the caller knows that the room is as large
+// as the content is now.
+bool copy_told(const Content &content, const Arena &arena, void *buffer);
+
+// Writes all content octets and tells how many that were. Of a stream that goes on behind `most` of them, which is a
+// fault for the caller to tell, the rest may be left.
+Result put_content(Encoder &encoder, Site site, const Content &content, const Arena &arena, int64_t most,
+                   int64_t &out_count);
 
 // Piecewise reading: mode 1 from the start, mode 2 from where the last piece ended.
 Result read_piece(Content &content, const Arena &arena, Site site, int32_t mode, void *buffer, int32_t size,

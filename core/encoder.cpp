@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/sizes.hpp"
 #include "kovra/util_memory.h"
 
 namespace kovra::asn1 {
@@ -32,9 +33,9 @@ void Encoder::copy_in(const void *octets, size_t count) {
 Result Encoder::reserve(Site site, size_t count) {
     if (count <= capacity_ - size_)
         return success;
-    if (count > SIZE_MAX / 2 - size_)
+    const size_t capacity = std::max(sum(size_, count), next_capacity(capacity_, capacity_ / 2));
+    if (capacity == too_large)
         return fail(site, code::no_memory);
-    const size_t capacity = std::max(size_ + count, next_capacity(capacity_, capacity_ / 2));
     auto *grown = static_cast<uint8_t *>(data_ == inline_ ? kovra_malloc(capacity, source_name, __LINE__)
                                                           : kovra_realloc(data_, capacity, source_name, __LINE__));
     if (grown == nullptr)
@@ -67,7 +68,7 @@ Result Encoder::note(Site site, kovra_stream *content) {
 Result Encoder::put_more(Site site, const void *octets, size_t count) {
     if (refusal_ != success)
         return refusal_;
-    if (stream_ != nullptr && held_ == 0 && size_ + count > piece) {
+    if (stream_ != nullptr && held_ == 0 && sum(size_, count) > piece) {
         if (const Result result = flush(); result != success)
             return result;
         // What is larger than a piece need not be gathered.
@@ -132,7 +133,7 @@ Result Encoder::end_of_contents(Site site) {
     return put(site, octets, sizeof octets);
 }
 
-Result Encoder::copy(Site site, kovra_stream *source, int64_t &out_count) {
+Result Encoder::copy(Site site, kovra_stream *source, int64_t most, int64_t &out_count) {
     out_count = 0;
     if (refusal_ != success)
         return refusal_;
@@ -145,7 +146,7 @@ Result Encoder::copy(Site site, kovra_stream *source, int64_t &out_count) {
     }
     if (kovra_stream_ctrl(source, KOVRA_STREAM_REWIND, 0, ctx_) != success)
         return fail(site, code::stream_control);
-    for (;;) {
+    while (out_count <= most) {
         int32_t got = 0;
         if (const Result result = reserve(site, copy_piece); result != success)
             return result;
@@ -156,6 +157,7 @@ Result Encoder::copy(Site site, kovra_stream *source, int64_t &out_count) {
         size_ += static_cast<size_t>(got);
         out_count += got;
     }
+    return success;
 }
 
 } // namespace kovra::asn1

@@ -46,8 +46,9 @@ public:
     Result length(Site site, int32_t length);
     // The two octets 00 00.
     Result end_of_contents(Site site);
-    // Copies a whole stream, from its start, and tells how many octets that were.
-    Result copy(Site site, kovra_stream *source, int64_t &out_count);
+    // Copies a whole stream, from its start, and tells how many octets that were. One that goes on behind `most` octets
+    // is not gathered to its end.
+    Result copy(Site site, kovra_stream *source, int64_t most, int64_t &out_count);
 
     // Octets put so far.
     [[nodiscard]] int64_t written() const { return flushed_ + static_cast<int64_t>(size_); }

@@ -90,14 +90,22 @@ int32_t measure(const Structure &shape, Record &record) {
     return record.measured = total <= max_length ? static_cast<int32_t>(total) : unknown;
 }
 
-// The signed component is written as it was read, or as it is written this first time.
-Result encode_signed(Encoder &encoder, Site site, const Component &component, Record &record, uint8_t slot) {
+// The signed component is written as it was read, or as it is written this first time: with the lengths that were
+// measured for what holds it.
+Result encode_signed(Encoder &encoder, Site site, const Component &component, Record &record, uint8_t slot,
+                     Measure measure) {
     Octets &kept = kept_of(record)[1];
     if (is_kept(kept))
         return encoder.put(site, kept.data(*record.arena), kept.length);
     encoder.hold();
     const int64_t begin = encoder.written();
-    Result result = encode_component(encoder, site, component, record.slots[slot], Measure::fresh);
+    Value *value = record.slots[slot];
+    const int32_t length = value != nullptr ? component_length(component, value, measure) : unknown;
+    // Short memory is reported as where any value's encoding begins.
+    Result result =
+        length > 0 ? encoder.expect({"ASN1", __LINE__}, static_cast<size_t>(length), *record.arena) : success;
+    result = result == success ? encode_component(encoder, site, component, value, Measure::known)
+                               : fail_encode(encoder, site, component, result);
     if (result == success)
         result = keep(encoder, site, begin, *record.arena, kept);
     encoder.release();
@@ -130,7 +138,7 @@ Result encode_structure_content(Encoder &encoder, const Type &type, Value *value
         const Site site = at(shape, component);
         Result result = success;
         if (i == shape.signed_slot)
-            result = encode_signed(encoder, site, component, *record, i);
+            result = encode_signed(encoder, site, component, *record, i, measure);
         else if (component.presence == Presence::required || is_written(component, record->slots[i]))
             result = encode_component(encoder, site, component, record->slots[i], measure);
         if (result != success)
@@ -531,7 +539,8 @@ Result signed_octets(Record &record, const uint8_t *&out, uint32_t &out_length) 
     if (!is_kept(kept)) {
         Encoder encoder(static_cast<kovra_err_ctx *>(nullptr));
         const Component &first = shape.components[shape.signed_slot];
-        const Result result = encode_signed(encoder, at(shape, first), first, record, shape.signed_slot);
+        const Result result =
+            encode_signed(encoder, at(shape, first), first, record, shape.signed_slot, Measure::fresh);
         if (result != success)
             return result;
     }

@@ -53,7 +53,10 @@ struct Octets {
 struct Content {
     Octets octets;
     kovra_stream *stream; // null: the content is `octets`
-    uint32_t position;    // where piecewise reading of `octets` goes on
+    union {
+        uint32_t position; // where piecewise reading of `octets` goes on
+        uint32_t told;     // of a stream: 1 + the length that was last told; 0 while none was
+    };
 };
 
 struct Boolean : Value {

@@ -1,6 +1,7 @@
 // Parameters of password-based encryption and message authentication (PKCS #5, RFC 8018, A.2 to A.5).
 
 #include "core/choice.hpp"
+#include "core/content.hpp"
 #include "core/descriptors.hpp"
 #include "core/structure.hpp"
 #include "kovra/asn1_octetstring.h"
@@ -28,7 +29,7 @@ constexpr Component components[] = {
 };
 
 bool has_salt_of_8(const Record &record) {
-    return kovra_asn1_octetstring_getlength(in_slot(record, salt)) == 8;
+    return has_octets(in_slot(record, salt), 8);
 }
 constexpr int32_t bad_salt = 0x10314;
 } // namespace pbe

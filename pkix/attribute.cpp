@@ -57,8 +57,7 @@ constexpr Component components[] = {
     required("subjectUUID", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
 bool have_size(const Record &record) {
-    return kovra_asn1_octetstring_getlength(record.slot(issuer)) == octets &&
-           kovra_asn1_octetstring_getlength(record.slot(subject)) == octets;
+    return has_octets(record.slot(issuer), octets) && has_octets(record.slot(subject), octets);
 }
 constexpr Structure sized() {
     Structure made = structure(source, components);
@@ -122,7 +121,8 @@ kovra_asn1_value *get_string(const kovra_asn1_value *value) {
 }
 
 int32_t copy_uuid(const kovra_asn1_value *pair, uint8_t slot, void *out) {
-    return out != nullptr ? kovra_asn1_octetstring_getall(component(uuid_pair, pair, slot), out) : 0;
+    const auto *string = as<String>(component(uuid_pair, pair, slot));
+    return string != nullptr && out != nullptr && copy_out(string->content, *string->arena, out, uuids::octets) ? 1 : 0;
 }
 
 } // namespace

@@ -15,12 +15,17 @@ std::atomic<int64_t> live = 0;
 thread_local int64_t room = INT64_MAX;
 thread_local bool failed = false;
 thread_local bool once = false;
+thread_local size_t bound = SIZE_MAX;
+thread_local size_t largest = 0;
 thread_local int64_t allocated = 0;
 thread_local int64_t held = 0;
 thread_local int64_t peak = 0;
 
 #ifndef _WIN32
-bool is_refused() {
+bool is_refused(size_t size) {
+    largest = size > largest ? size : largest;
+    if (size > bound)
+        return true;
     if (room == INT64_MAX || room-- > 0)
         return false;
     room = once ? INT64_MAX : 0;
@@ -46,14 +51,14 @@ void *counted(void *memory, size_t before) {
 #ifndef _WIN32
 
 extern "C" void *kovra_malloc(size_t size, const char * /*source*/, int32_t /*line*/) noexcept {
-    if (is_refused())
+    if (is_refused(size))
         return nullptr;
     ++live;
     return counted(std::malloc(size == 0 ? 1 : size), 0);
 }
 
 extern "C" void *kovra_realloc(void *memory, size_t size, const char * /*source*/, int32_t /*line*/) noexcept {
-    if (is_refused())
+    if (is_refused(size))
         return nullptr;
     live += memory == nullptr ? 1 : 0;
     const size_t before = memory != nullptr ? malloc_usable_size(memory) : 0;
@@ -102,6 +107,19 @@ ScarceMemory::~ScarceMemory() {
 
 bool ScarceMemory::has_failed() {
     return failed;
+}
+
+SmallMemory::SmallMemory(size_t most) {
+    bound = most;
+    largest = 0;
+}
+
+SmallMemory::~SmallMemory() {
+    bound = SIZE_MAX;
+}
+
+size_t SmallMemory::largest_wanted() {
+    return largest;
 }
 
 } // namespace kovra::test

@@ -40,6 +40,18 @@ public:
     static bool has_failed();
 };
 
+// While it lives, this thread is given no block of more than `most` octets, however much there is: what needs a huge
+// one can be seen to ask for it, or not to ask.
+class SmallMemory {
+public:
+    explicit SmallMemory(size_t most);
+    ~SmallMemory();
+    SmallMemory(const SmallMemory &) = delete;
+    SmallMemory &operator=(const SmallMemory &) = delete;
+    // The octets of the largest block that was asked for, given or not.
+    static size_t largest_wanted();
+};
+
 // Runs `action` with room for no allocation, one, two ... until it needs no more; each run must leave nothing behind.
 // `action` returns whether it succeeded, which it must as soon as nothing fails.
 template <class Action> void fail_each_allocation(Action action, bool fails_once = false) {

@@ -235,7 +235,8 @@ private:
 };
 
 bool decode(const Item &item, uint32_t type, Detected &out) {
-    const auto size = static_cast<int32_t>(item.end - item.begin);
+    const size_t whole = item.end - item.begin;
+    const int32_t size = whole <= INT32_MAX ? static_cast<int32_t>(whole) : 0;
     out = {type, false, nullptr};
     const int32_t read = kovra_asn1_mem_decode(item.octets + item.begin, size, type, &out.value);
     out.is_good = read == size && size > 0;

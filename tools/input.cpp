@@ -8,6 +8,7 @@
 #include <memory>
 #include <string_view>
 
+#include "base/sizes.hpp"
 #include "element.hpp"
 #include "kovra/asn1.h"
 #include "kovra/util.h"
@@ -121,7 +122,7 @@ std::string read_file(const std::string &path, std::vector<uint8_t> &out) {
         std::rewind(file.get());
     }
     errno = 0;
-    for (size_t size = 0;; room = size * 2) {
+    for (size_t size = 0;; room = product(size, 2)) {
         out.resize(room);
         size += std::fread(out.data() + size, 1, out.size() - size, file.get());
         if (size == out.size())

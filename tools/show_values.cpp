@@ -105,7 +105,7 @@ void put_quoted(Printer &printer, uint32_t tag, std::string_view octets) {
 
 void put_bits(Printer &printer, kovra_asn1_value *bit_string, std::span<const std::string_view> names) {
     const std::string octets = bits_of(bit_string);
-    const int32_t count = static_cast<int32_t>(octets.size() * 8) - kovra_asn1_bitstring_getunusedbits(bit_string);
+    const int64_t count = static_cast<int64_t>(octets.size()) * 8 - kovra_asn1_bitstring_getunusedbits(bit_string);
     // Of a long string of no known use the octets say more.
     constexpr int32_t most = 64;
     if (count > most)

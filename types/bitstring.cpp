@@ -20,11 +20,21 @@ Site here(int32_t line = __builtin_LINE()) {
 
 constexpr auto segment = threshold<int32_t>(8192, 3);
 
-int32_t bit_string_content_length(const Type &, Value *value, Measure) {
-    if (value == nullptr)
-        return unknown;
-    const int32_t length = size_of(static_cast<const BitString *>(value)->content);
+int32_t length_of(const BitString &bits) {
+    const int32_t length = size_of(bits.content);
     return length < 0 ? length : length < max_length ? length + 1 : unknown;
+}
+
+// A stream may have another size the next time it is asked: what is written is what was measured.
+int32_t bit_string_content_length(const Type &, Value *value, Measure measure) {
+    auto *bits = static_cast<BitString *>(value);
+    if (bits == nullptr)
+        return unknown;
+    if (bits->content.stream == nullptr)
+        return length_of(*bits);
+    if (measure == Measure::fresh)
+        bits->measured = length_of(*bits);
+    return bits->measured;
 }
 
 Result write_segment(Encoder &encoder, uint8_t unused_bits, const uint8_t *octets, int32_t length) {
@@ -78,14 +88,14 @@ Result encode_bit_string_content(Encoder &encoder, const Type &, Value *value, i
     int64_t copied = 0;
     Result result = encoder.put(here(), &unused_bits, 1);
     if (result == success)
-        result = put_content(encoder, here(), bits->content, *bits->arena, copied);
+        result = put_content(encoder, here(), bits->content, *bits->arena, length - 1, copied);
     if (result != success)
         return result;
     return copied == length - 1 ? success : encoder.fail(here(), code::short_copy);
 }
 
 Result encode_bit_string(Encoder &encoder, const Type &type, Value *value) {
-    const int32_t length = bit_string_content_length(type, value, Measure::fresh);
+    const int32_t length = bit_string_content_length(type, value, Measure::known);
     if (length == unknown)
         return encoder.fail(here(), code::bad_length);
     const Form form = length == indefinite ? Form::constructed : Form::primitive;
@@ -210,7 +220,7 @@ kovra_asn1_value *kovra_asn1_bitstring_newbitset(const kovra_bitset *set) noexce
 
 kovra_bitset *kovra_asn1_bitstring_getbitset(kovra_asn1_value *bitstring) noexcept {
     const auto *bits = as<BitString>(bitstring);
-    const int32_t length = kovra_asn1_bitstring_getlength(bitstring);
+    const int32_t length = bits != nullptr ? size_of(bits->content) : unknown;
     if (length < 0)
         return nullptr;
     const auto unused_bits = static_cast<int32_t>(bits->unused_bits);
@@ -220,15 +230,15 @@ kovra_bitset *kovra_asn1_bitstring_getbitset(kovra_asn1_value *bitstring) noexce
         return unused_bits == 0 ? kovra_bitset_empty() : nullptr;
     if (bits->content.stream == nullptr)
         return kovra_bitset_new(unused_bits, bits->content.octets.data(*bits->arena), length);
-    void *copy = copy_of(bits->content.stream, length);
+    void *copy = copy_of(bits->content, length);
     kovra_bitset *set = copy != nullptr ? kovra_bitset_new(unused_bits, copy, length) : nullptr;
     kovra_free(copy);
     return set;
 }
 
 int32_t kovra_asn1_bitstring_getlength(const kovra_asn1_value *bitstring) noexcept {
-    const auto *bits = as<BitString>(bitstring);
-    return bits != nullptr ? size_of(bits->content) : unknown;
+    auto *bits = as<BitString>(const_cast<kovra_asn1_value *>(bitstring));
+    return bits != nullptr ? tell_length(bits->content, size_of(bits->content)) : unknown;
 }
 
 int32_t kovra_asn1_bitstring_getunusedbits(const kovra_asn1_value *bitstring) noexcept {
@@ -238,8 +248,7 @@ int32_t kovra_asn1_bitstring_getunusedbits(const kovra_asn1_value *bitstring) no
 
 int32_t kovra_asn1_bitstring_getbit(kovra_asn1_value *bitstring, int32_t bit) noexcept {
     const auto *bits = as<BitString>(bitstring);
-    const int64_t length = kovra_asn1_bitstring_getlength(bitstring);
-    if (bits == nullptr || bit < 0 || bit >= length * 8 - bits->unused_bits)
+    if (bits == nullptr || bit < 0 || bit >= int64_t{size_of(bits->content)} * 8 - bits->unused_bits)
         return 0;
     uint8_t octet = 0;
     if (bits->content.stream == nullptr) {
@@ -253,7 +262,7 @@ int32_t kovra_asn1_bitstring_getbit(kovra_asn1_value *bitstring, int32_t bit) no
 
 int32_t kovra_asn1_bitstring_getall(kovra_asn1_value *bitstring, void *buffer) noexcept {
     const auto *bits = as<BitString>(bitstring);
-    return bits != nullptr && buffer != nullptr && copy_out(bits->content, *bits->arena, buffer) ? 1 : 0;
+    return bits != nullptr && buffer != nullptr && copy_told(bits->content, *bits->arena, buffer) ? 1 : 0;
 }
 
 int32_t kovra_asn1_bitstring_get(kovra_asn1_value *bitstring, int32_t mode, void *buffer, int32_t size,

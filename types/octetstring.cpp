@@ -34,8 +34,14 @@ int32_t string_length(const String *string) {
     return size < segmented_from ? static_cast<int32_t>(size) : indefinite;
 }
 
-int32_t string_content_length(const Type &, Value *value, Measure) {
-    return string_length(static_cast<const String *>(value));
+// A stream may have another size the next time it is asked: what is written is what was measured.
+int32_t string_content_length(const Type &, Value *value, Measure measure) {
+    auto *string = static_cast<String *>(value);
+    if (string == nullptr || string->content.stream == nullptr)
+        return string_length(string);
+    if (measure == Measure::fresh)
+        string->measured = string_length(string);
+    return string->measured;
 }
 
 Result write_segment(Encoder &encoder, const uint8_t *octets, int32_t length) {
@@ -84,7 +90,8 @@ Result encode_string_content(Encoder &encoder, const Type &, Value *value, int32
     if (length < 0)
         return encoder.fail(here(), code::bad_argument);
     int64_t copied = 0;
-    if (const Result result = put_content(encoder, here(), string->content, *string->arena, copied); result != success)
+    if (const Result result = put_content(encoder, here(), string->content, *string->arena, length, copied);
+        result != success)
         return result;
     return copied == length ? success : encoder.fail(here(), code::short_copy);
 }
@@ -94,7 +101,7 @@ Form form_of(int32_t length) {
 }
 
 Result encode_octet_string(Encoder &encoder, const Type &type, Value *value) {
-    const int32_t length = string_length(static_cast<const String *>(value));
+    const int32_t length = string_content_length(type, value, Measure::known);
     if (length == unknown)
         return encoder.fail(here(), code::bad_length);
     Result result = encoder.identifier(here(), Class::universal, form_of(length), tag::octet_string);
@@ -107,7 +114,7 @@ Result encode_octet_string(Encoder &encoder, const Type &type, Value *value) {
 
 // The codes are those of other failures: this library records them so.
 Result encode_character_string(Encoder &encoder, const Type &type, Value *value) {
-    const int32_t length = string_length(static_cast<const String *>(value));
+    const int32_t length = string_content_length(type, value, Measure::known);
     if (length == unknown)
         return encoder.fail(here(), code::no_length);
     Result result = encoder.identifier(here(), Class::universal, form_of(length), type.tag);
@@ -246,16 +253,17 @@ kovra_asn1_value *kovra_asn1_octetstring_newstream(kovra_stream *stream) noexcep
 }
 
 int32_t kovra_asn1_octetstring_getlength(const kovra_asn1_value *string) noexcept {
-    return string_length(as<String>(string));
+    auto *record = as<String>(const_cast<kovra_asn1_value *>(string));
+    return record != nullptr ? tell_length(record->content, string_length(record)) : unknown;
 }
 
 int32_t kovra_asn1_string_getlength(const kovra_asn1_value *string) noexcept {
-    return string_length(as<String>(string));
+    return kovra_asn1_octetstring_getlength(string);
 }
 
 int32_t kovra_asn1_octetstring_getall(kovra_asn1_value *string, void *buffer) noexcept {
     const auto *record = as<String>(string);
-    return record != nullptr && buffer != nullptr && copy_out(record->content, *record->arena, buffer) ? 1 : 0;
+    return record != nullptr && buffer != nullptr && copy_told(record->content, *record->arena, buffer) ? 1 : 0;
 }
 
 int32_t kovra_asn1_string_get(kovra_asn1_value *string, void *buffer) noexcept {
@@ -269,7 +277,7 @@ kovra_data_blob *kovra_asn1_octetstring_getblob(kovra_asn1_value *string) noexce
         return nullptr;
     if (record->content.stream == nullptr)
         return kovra_data_blob_new(record->content.octets.data(*record->arena), length);
-    void *copy = copy_of(record->content.stream, length);
+    void *copy = copy_of(record->content, length);
     kovra_data_blob *blob = copy != nullptr ? kovra_data_blob_new(copy, length) : nullptr;
     kovra_free(copy);
     return blob;

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cstring>
 
+#include "base/sizes.hpp"
 #include "core/descriptors.hpp"
 #include "core/registry.hpp"
 #include "kovra/asn1_types.h"
@@ -120,8 +121,8 @@ const char *text_of(ObjectIdentifier &oid) {
         return oid.text;
     const uint8_t *octets = oid.octets.data(*oid.arena);
     // An octet gives at most three digits and a full stop; the first subidentifier one digit and a full stop more.
-    const uint64_t size = uint64_t{oid.octets.length} * 4 + max_arc_digits;
-    auto *text = size < SIZE_MAX ? static_cast<char *>(oid.arena->allocate(static_cast<size_t>(size))) : nullptr;
+    const size_t size = sum(product(oid.octets.length, 4), max_arc_digits);
+    auto *text = static_cast<char *>(oid.arena->allocate(size));
     if (text == nullptr)
         return nullptr;
     char *end = text;
@@ -179,10 +180,10 @@ ObjectIdentifier *from_text(const char *text, bool relative) {
     if (length < least || length > max_length / 2 || !is_digit(text[length - 1]))
         return nullptr;
     // No arc takes more octets than it has digits.
-    auto *oid = new_root<ObjectIdentifier>(2 * length + 2 * sizeof(void *));
+    auto *oid = new_root<ObjectIdentifier>(sum(product(length, 2), 2 * sizeof(void *)));
     if (oid == nullptr)
         return nullptr;
-    auto *stored = static_cast<char *>(oid->arena->allocate(length + 1));
+    auto *stored = static_cast<char *>(oid->arena->allocate(sum(length, 1)));
     auto *octets = static_cast<uint8_t *>(oid->arena->allocate(length));
     bool is_good = stored != nullptr && octets != nullptr;
     uint8_t *end = octets;

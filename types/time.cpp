@@ -5,6 +5,7 @@
 #include <cstring>
 #include <new>
 
+#include "base/sizes.hpp"
 #include "core/content.hpp"
 #include "core/descriptors.hpp"
 #include "core/registry.hpp"
@@ -149,7 +150,7 @@ Time *new_time(uint8_t tag, const TimeFields &fields) {
     char text[longest_time_text];
     const uint32_t length = tag == tag::utc_time ? write_utc_time(value, text) : write_generalized_time(value, text);
     kovra_time_free(value);
-    auto *time = length != 0 ? new_root<Time>(length + sizeof fields) : nullptr;
+    auto *time = length != 0 ? new_root<Time>(sum(length, sizeof fields)) : nullptr;
     void *built = time != nullptr ? time->arena->allocate(sizeof fields) : nullptr;
     auto *copy = built != nullptr ? static_cast<uint8_t *>(time->arena->allocate(length)) : nullptr;
     if (copy == nullptr) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "base/sizes.hpp"
 #include "kovra/util_coding.h"
 #include "kovra/util_memory.h"
 
@@ -129,9 +130,11 @@ private:
 
 } // namespace
 
-uint64_t base64_length(size_t octets, size_t line_length) {
-    const uint64_t digits = (uint64_t{octets} + 2) / 3 * 4;
-    return line_length == 0 ? digits : digits + (digits + line_length - 1) / line_length;
+size_t base64_length(size_t octets, size_t line_length) {
+    const size_t digits = product(octets / 3 + (octets % 3 != 0 ? 1 : 0), 4);
+    if (line_length == 0 || digits == 0)
+        return digits;
+    return sum(digits, (digits - 1) / line_length + 1);
 }
 
 char *write_base64(char *to, const uint8_t *octets, size_t count, size_t line_length) {
@@ -170,10 +173,8 @@ char *kovra_base64encode(const void *data, int32_t length, int32_t line_length, 
         return nullptr;
     const auto line = static_cast<size_t>(line_length);
     const auto count = static_cast<size_t>(length);
-    const uint64_t size = base64_length(count, line);
-    if (size >= SIZE_MAX)
-        return nullptr;
-    auto *text = static_cast<char *>(kovra_malloc(static_cast<size_t>(size) + 1, module, __LINE__));
+    const size_t size = base64_length(count, line);
+    auto *text = static_cast<char *>(kovra_malloc(kovra::sum(size, 1), module, __LINE__));
     if (text == nullptr)
         return nullptr;
     *write_base64(text, static_cast<const uint8_t *>(data), count, line) = '\0';

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/sizes.hpp"
 #include "util/handle.hpp"
 #include "util/radix.hpp"
 
@@ -51,9 +52,7 @@ Octets value_of(const kovra_biginteger *number) {
 }
 
 uint32_t *new_digits(size_t count) {
-    if (count > SIZE_MAX / sizeof(uint32_t))
-        return nullptr;
-    return static_cast<uint32_t *>(kovra_malloc(count * sizeof(uint32_t), module, __LINE__));
+    return static_cast<uint32_t *>(kovra_malloc(product(count, sizeof(uint32_t)), module, __LINE__));
 }
 
 size_t without_leading_zeros(const uint32_t *digits, size_t count) {
@@ -112,9 +111,7 @@ kovra_biginteger *from_magnitude(const uint32_t *digits, size_t count, bool nega
 // Text of digits that are `places` characters wide each in the base of the text, without leading zeros.
 char *to_text(const uint32_t *digits, size_t count, size_t places, uint32_t text_base, bool negative) {
     count = without_leading_zeros(digits, count);
-    if (count > (SIZE_MAX - 3) / places)
-        return nullptr;
-    auto *text = static_cast<char *>(kovra_malloc(count * places + 3, module, __LINE__));
+    auto *text = static_cast<char *>(kovra_malloc(sum(product(count, places), 3), module, __LINE__));
     if (text == nullptr)
         return nullptr;
     char *end = text;

@@ -71,9 +71,7 @@ Entry &entry_at(const kovra_err_ctx &ctx, int32_t index) {
 char *take_text(kovra_err_ctx &ctx, size_t size) {
     if (ctx.chunks == nullptr || ctx.chunks->size - ctx.chunks->used < size) {
         const size_t text_size = std::max(size, chunk_size);
-        if (text_size > SIZE_MAX - sizeof(TextChunk))
-            return nullptr;
-        auto *chunk = static_cast<TextChunk *>(kovra_malloc(sizeof(TextChunk) + text_size, module, __LINE__));
+        auto *chunk = static_cast<TextChunk *>(kovra_malloc(sum(sizeof(TextChunk), text_size), module, __LINE__));
         if (chunk == nullptr)
             return nullptr;
         *chunk = {ctx.chunks, 0, text_size};
@@ -97,7 +95,7 @@ const char *keep_text(kovra_err_ctx &ctx, const char *text, const char *previous
         std::memcpy(room, text, length + 1);
         return room;
     }
-    if (char *kept = take_text(ctx, length + 1)) {
+    if (char *kept = take_text(ctx, sum(length, 1))) {
         std::memcpy(kept, text, length + 1);
         return kept;
     }

@@ -7,6 +7,7 @@
 #include <new>
 #include <type_traits>
 
+#include "base/sizes.hpp"
 #include "kovra/util_memory.h"
 
 namespace kovra::util {
@@ -32,9 +33,7 @@ template <class Record> bool is_valid(const Record *record) {
 // A new record with its magic word set and `extra` octets behind it, or null.
 template <class Record> Record *make_record(const char *source, size_t extra = 0, int32_t line = __builtin_LINE()) {
     static_assert(std::is_trivially_destructible_v<Record>);
-    if (extra > SIZE_MAX - sizeof(Record))
-        return nullptr;
-    void *memory = kovra_malloc(sizeof(Record) + extra, source, line);
+    void *memory = kovra_malloc(sum(sizeof(Record), extra), source, line);
     if (memory == nullptr)
         return nullptr;
     auto *record = new (memory) Record{};

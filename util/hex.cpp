@@ -1,3 +1,4 @@
+#include "base/sizes.hpp"
 #include "kovra/util_coding.h"
 #include "kovra/util_memory.h"
 
@@ -43,7 +44,7 @@ char *kovra_hexencode(const void *data, int32_t length, int32_t mode, int64_t *o
     const char *digits = mode == KOVRA_HEX_LOWER ? lower_digits : upper_digits;
     const auto *octets = static_cast<const uint8_t *>(data);
     const auto count = static_cast<size_t>(length);
-    auto *text = static_cast<char *>(kovra_malloc(2 * count + 1, module, __LINE__));
+    auto *text = static_cast<char *>(kovra_malloc(kovra::sum(kovra::product(count, 2), 1), module, __LINE__));
     if (text == nullptr)
         return nullptr;
     for (size_t i = 0; i < count; ++i) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <new>
 
+#include "base/sizes.hpp"
 #include "base/thresholds.hpp"
 #include "util/os_memory.hpp"
 
@@ -19,7 +20,7 @@ constexpr auto name_slots = threshold<size_t>(64, 2);
 constexpr auto names_shared_from = threshold<uint32_t>(8, 2);
 
 constexpr size_t aligned(size_t size) {
-    return (size + alignment - 1) & ~(alignment - 1);
+    return rounded_up(size, alignment);
 }
 
 // Cheap, and without a collision between the names in descriptions of encodings.
@@ -31,7 +32,7 @@ size_t name_slot(const char *name, size_t length) {
 } // namespace
 
 Document *Document::create(size_t size) {
-    const size_t whole = aligned(sizeof(Document)) + aligned(size);
+    const size_t whole = sum(aligned(sizeof(Document)), aligned(size));
     void *memory = kovra_malloc(whole, module, __LINE__);
     if (memory == nullptr)
         return nullptr;
@@ -87,9 +88,7 @@ void *Document::allocate(size_t size) {
 
 void *Document::allocate_in_new_slab(size_t size) {
     constexpr size_t head = aligned(sizeof(Slab));
-    const size_t whole = std::max<size_t>(head + size, slab_size_);
-    if (size > SIZE_MAX - head)
-        return nullptr;
+    const size_t whole = std::max<size_t>(sum(head, size), slab_size_);
     auto *slab = static_cast<Slab *>(kovra_malloc(whole, module, __LINE__));
     if (slab == nullptr)
         return nullptr;
@@ -107,7 +106,7 @@ void *Document::allocate_in_new_slab(size_t size) {
 }
 
 kovra_json *Document::make_string(size_t length) {
-    void *memory = length <= most_json_items ? allocate(sizeof(kovra_json) + length + 1) : nullptr;
+    void *memory = length <= most_json_items ? allocate(sum(sizeof(kovra_json), length, 1)) : nullptr;
     if (memory == nullptr)
         return nullptr;
     auto *value =
@@ -135,7 +134,7 @@ Container *Document::make_container(uint8_t kind) {
 }
 
 const char *Document::copy_name(const char *name, size_t length) {
-    auto *copy = static_cast<char *>(allocate(length + 1));
+    auto *copy = static_cast<char *>(allocate(sum(length, 1)));
     if (copy == nullptr)
         return nullptr;
     if (length != 0)

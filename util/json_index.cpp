@@ -67,8 +67,8 @@ bool index_names(Container &object) {
     ItemIndex &index = *object.index;
     if (index.slot_count / 2 < object.count) {
         size_t count = first_slots;
-        while (count / slots_for_name < object.count)
-            count *= 2;
+        while (count / slots_for_name < object.count && count != too_large)
+            count = product(count, 2);
         auto *slots = static_cast<ItemIndex::Slot *>(
             kovra_realloc(index.slots, product(count, sizeof(ItemIndex::Slot)), module, __LINE__));
         if (slots == nullptr)

@@ -1,6 +1,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "base/sizes.hpp"
 #include "util/json_document.hpp"
 #include "util/json_text.hpp"
 #include "util/utf8.hpp"
@@ -75,7 +76,7 @@ private:
         if (indent_ == 0)
             return;
         out_.push('\n');
-        out_.fill(' ', indent_ * std::min(open_.size(), deepest_indent));
+        out_.fill(' ', product(indent_, std::min(open_.size(), deepest_indent)));
     }
 
     void scalar(const kovra_json &value) {

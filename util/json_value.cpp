@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 
+#include "base/sizes.hpp"
 #include "util/json_document.hpp"
 #include "util/json_index.hpp"
 
@@ -85,7 +86,8 @@ kovra_json *kovra_json_newstring(const void *utf8, int32_t length) noexcept {
     size_t octets = 0;
     if (!text_length(utf8, length, octets))
         return nullptr;
-    return root(sizeof(kovra_json) + octets + 1, [=](Document &document) { return make_text(document, utf8, octets); });
+    return root(kovra::sum(sizeof(kovra_json), octets, 1),
+                [=](Document &document) { return make_text(document, utf8, octets); });
 }
 
 kovra_json *kovra_json_newnumber(double number) noexcept {
@@ -158,7 +160,8 @@ kovra_json *kovra_json_puthex(kovra_json *container, const char *name, const voi
     if (length < 0 || (octets == nullptr && length > 0))
         return nullptr;
     const auto count = static_cast<size_t>(length);
-    kovra_json *item = put(container, name, [=](Document &document) { return document.make_string(count * 2); });
+    kovra_json *item =
+        put(container, name, [=](Document &document) { return document.make_string(kovra::product(count, 2)); });
     if (item == nullptr)
         return nullptr;
     const auto *from = static_cast<const uint8_t *>(octets);

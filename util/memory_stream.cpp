@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "base/sizes.hpp"
 #include "base/thresholds.hpp"
 #include "util/byte_stream.hpp"
 
@@ -51,7 +52,7 @@ Outcome write_memory(kovra_stream &stream, const uint8_t *data, size_t size) {
         const bool own =
             memory.capacity != 0 && !before(data, memory.octets) && before(data, memory.octets + memory.size);
         const ptrdiff_t offset = own ? data - memory.octets : 0;
-        if (!grow(memory, memory.size + size))
+        if (!grow(memory, sum(memory.size, size)))
             return failed(KOVRA_ERR_NO_MEMORY);
         if (own)
             data = memory.octets + offset;

@@ -21,6 +21,7 @@
 #include <sys/stat.h>
 #include <windows.h>
 
+#include "base/sizes.hpp"
 #include "kovra/util_memory.h"
 #else
 #include <cerrno>
@@ -46,8 +47,8 @@ wchar_t *wide_path(const char *path) {
     const int length = MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, path, -1, nullptr, 0);
     if (length <= 0)
         return nullptr;
-    auto *wide =
-        static_cast<wchar_t *>(kovra_malloc(static_cast<size_t>(length) * sizeof(wchar_t), "UTIL_Stream", __LINE__));
+    auto *wide = static_cast<wchar_t *>(
+        kovra_malloc(product(static_cast<size_t>(length), sizeof(wchar_t)), "UTIL_Stream", __LINE__));
     if (wide != nullptr)
         MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, path, -1, wide, length);
     return wide;

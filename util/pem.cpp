@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/sizes.hpp"
 #include "kovra/util_coding.h"
 #include "kovra/util_memory.h"
 #include "util/base64.hpp"
@@ -199,11 +200,9 @@ char *kovra_pemencode(const void *data, int32_t length, const char *label, int64
         return nullptr;
     constexpr Slice line_end = literal("-----\n");
     const auto count = static_cast<size_t>(length);
-    const uint64_t size = begin_mark.length + end_mark.length + 2 * uint64_t{name.length} + 2 * line_end.length +
-                          base64_length(count, body_line);
-    if (size >= SIZE_MAX)
-        return nullptr;
-    auto *text = static_cast<char *>(kovra_malloc(static_cast<size_t>(size) + 1, module, __LINE__));
+    const size_t size = kovra::sum(begin_mark.length + end_mark.length + 2 * line_end.length,
+                                   kovra::product(name.length, 2), base64_length(count, body_line));
+    auto *text = static_cast<char *>(kovra_malloc(kovra::sum(size, 1), module, __LINE__));
     if (text == nullptr)
         return nullptr;
     char *end = put(put(put(text, begin_mark), name), line_end);

@@ -182,11 +182,8 @@ template <class From, class To> Digits convert(const uint32_t *values, size_t co
     for (; chunk > plain_conversion; ++levels)
         chunk = chunk / 2 + chunk % 2;
     const size_t width = chunk * To::per_other / 10000 + 1;
-    constexpr size_t most = SIZE_MAX / (4 * sizeof(uint32_t));
-    if (width > most >> levels)
-        return {};
-    const size_t total = width << levels;
-    auto *result = static_cast<uint32_t *>(kovra_malloc(total * sizeof(uint32_t), module, __LINE__));
+    const size_t total = product(width, size_t{1} << levels);
+    auto *result = static_cast<uint32_t *>(kovra_malloc(product(total, sizeof(uint32_t)), module, __LINE__));
     if (result == nullptr)
         return {};
     for (size_t i = 0; i < size_t{1} << levels; ++i) {

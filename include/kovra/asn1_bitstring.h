@@ -36,12 +36,13 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_bitstring_newbits(const int32_t *pos
 KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_bitstring_newbitset(const kovra_bitset *set) KOVRA_NOTHROW;
 
 /* kovra_asn1_bitstring_getbitset returns a new bit set of the value, released with kovra_bitset_free; null for null,
- * when the data cannot be read, when the bits are more than 2,147,483,647 (which 256 MiB of data can hold), and when
- * memory is short. */
+ * when the data cannot be read or its size changes during the call, when the bits are more than 2,147,483,647 (which
+ * 256 MiB of data can hold), and when memory is short. */
 KOVRA_ASN1_API kovra_bitset *kovra_asn1_bitstring_getbitset(kovra_asn1_value *bitstring) KOVRA_NOTHROW;
 
 /* kovra_asn1_bitstring_getlength returns the number of data octets, without the octet of unused bits: -1 when the
- * stream behind the value cannot tell, -2 for null. */
+ * stream behind the value cannot tell, -2 for null and for more than 2,147,483,647. What it told last of data in a
+ * stream is kept in mind, as for kovra_asn1_octetstring_getlength. */
 KOVRA_ASN1_API int32_t kovra_asn1_bitstring_getlength(const kovra_asn1_value *bitstring) KOVRA_NOTHROW;
 
 /* kovra_asn1_bitstring_getunusedbits returns the number of unused bits in the last data octet, 0 to 7; 0 for null. */
@@ -52,7 +53,8 @@ KOVRA_ASN1_API int32_t kovra_asn1_bitstring_getunusedbits(const kovra_asn1_value
  * asked for. */
 KOVRA_ASN1_API int32_t kovra_asn1_bitstring_getbit(kovra_asn1_value *bitstring, int32_t bit) KOVRA_NOTHROW;
 
-/* kovra_asn1_bitstring_getall is kovra_asn1_octetstring_getall for the data octets. */
+/* kovra_asn1_bitstring_getall is kovra_asn1_octetstring_getall for the data octets and
+ * kovra_asn1_bitstring_getlength. */
 KOVRA_ASN1_API int32_t kovra_asn1_bitstring_getall(kovra_asn1_value *bitstring, void *buffer) KOVRA_NOTHROW;
 
 /* kovra_asn1_bitstring_get is kovra_asn1_octetstring_get for the data octets. */

@@ -37,21 +37,26 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_string_new(const void *data, int32_t
 KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_octetstring_newstream(kovra_stream *stream) KOVRA_NOTHROW;
 
 /* kovra_asn1_octetstring_getlength returns the number of octets: -1 for 5,242,880 and more in a stream that is not a
- * memory stream, which are then encoded with indefinite length; -2 for null and when the stream cannot tell. */
+ * memory stream, which are then encoded with indefinite length; -2 for null and when the stream cannot tell. The value
+ * of octets in a stream, whose size may change, keeps in mind what it told last; -1 and -2 do not count. */
 KOVRA_ASN1_API int32_t kovra_asn1_octetstring_getlength(const kovra_asn1_value *string) KOVRA_NOTHROW;
 
 /* kovra_asn1_string_getlength is kovra_asn1_octetstring_getlength. */
 KOVRA_ASN1_API int32_t kovra_asn1_string_getlength(const kovra_asn1_value *string) KOVRA_NOTHROW;
 
-/* kovra_asn1_octetstring_getall copies all octets into a buffer that the caller made as long as the value, and returns
- * 1; 0 for a null argument and when the stream cannot tell its size or fails. */
+/* kovra_asn1_octetstring_getall copies all octets into a buffer that the caller made as long as
+ * kovra_asn1_octetstring_getlength told last, and returns 1. It never writes more than that; 0 when a stream has
+ * another size by now, cannot tell its size or fails, which may leave some octets in the buffer, and for a null
+ * argument. Where no length was told, as for 5,242,880 octets and more in a file, the buffer must hold as many octets
+ * as the stream has at this call: use kovra_asn1_octetstring_get, which is given the size, for a stream that may
+ * grow. */
 KOVRA_ASN1_API int32_t kovra_asn1_octetstring_getall(kovra_asn1_value *string, void *buffer) KOVRA_NOTHROW;
 
 /* kovra_asn1_string_get is kovra_asn1_octetstring_getall. */
 KOVRA_ASN1_API int32_t kovra_asn1_string_get(kovra_asn1_value *string, void *buffer) KOVRA_NOTHROW;
 
 /* kovra_asn1_octetstring_getblob returns a new blob with the octets, released with kovra_data_blob_free; null for
- * null, when the length is -1 or -2, and when memory is short. */
+ * null, when the length is -1 or -2, when the size of a stream changes during the call, and when memory is short. */
 KOVRA_ASN1_API kovra_data_blob *kovra_asn1_octetstring_getblob(kovra_asn1_value *string) KOVRA_NOTHROW;
 
 /* kovra_asn1_octetstring_get reads up to `size` octets into the buffer, from the start (mode 1) or where the last call
