@@ -13,6 +13,7 @@ namespace {
 
 std::atomic<int64_t> live = 0;
 thread_local int64_t room = INT64_MAX;
+thread_local int64_t asked_for = 0; // while room is short
 thread_local bool failed = false;
 thread_local bool once = false;
 thread_local size_t bound = SIZE_MAX;
@@ -26,7 +27,10 @@ bool is_refused(size_t size) {
     largest = size > largest ? size : largest;
     if (size > bound)
         return true;
-    if (room == INT64_MAX || room-- > 0)
+    if (room == INT64_MAX)
+        return false;
+    ++asked_for;
+    if (room-- > 0)
         return false;
     room = once ? INT64_MAX : 0;
     return failed = true;
@@ -99,6 +103,7 @@ ScarceMemory::ScarceMemory(int64_t good, bool fails_once) {
     room = good;
     once = fails_once;
     failed = false;
+    asked_for = 0;
 }
 
 ScarceMemory::~ScarceMemory() {
@@ -107,6 +112,10 @@ ScarceMemory::~ScarceMemory() {
 
 bool ScarceMemory::has_failed() {
     return failed;
+}
+
+int64_t ScarceMemory::asked() {
+    return asked_for;
 }
 
 SmallMemory::SmallMemory(size_t most) {

@@ -38,6 +38,8 @@ public:
     ScarceMemory(const ScarceMemory &) = delete;
     ScarceMemory &operator=(const ScarceMemory &) = delete;
     static bool has_failed();
+    // How many allocations there were.
+    static int64_t asked();
 };
 
 // While it lives, this thread is given no block of more than `most` octets, however much there is: what needs a huge

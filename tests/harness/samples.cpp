@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <bit>
 #include <map>
+#include <set>
+#include <span>
 
 #include "core/choice.hpp"
 #include "core/descriptors.hpp"
@@ -405,6 +407,139 @@ std::vector<Sample> component_values(const Type &type) {
         }
     }
     return found;
+}
+
+namespace {
+
+bool is_list_structure(const Type &type) {
+    return is_structure(type) && shape_of<Structure>(type).content != nullptr;
+}
+
+bool keeps_octets(const Type &type) {
+    return type.operations == &core::kept_structure_operations ||
+           (is_structure(type) && shape_of<Structure>(type).signed_slot == 0);
+}
+
+// The components or alternatives of a type.
+std::pair<const Component *, uint8_t> components_of(const Type &type) {
+    if (is_structure(type))
+        return {shape_of<Structure>(type).components, shape_of<Structure>(type).count};
+    if (is_table_choice(type))
+        return {shape_of<ChoiceShape>(type).alternatives, shape_of<ChoiceShape>(type).count};
+    return {nullptr, uint8_t{0}};
+}
+
+const Type &behind(const Type &type, uint8_t step) {
+    return is_list_structure(type) ? *shape_of<Structure>(type).content : *components_of(type).first[step].read_as;
+}
+
+bool is_restricted(const Type &type, const std::vector<uint8_t> &way) {
+    const Type *at = &type;
+    for (const uint8_t step : way) {
+        if (is_structure(*at) && shape_of<Structure>(*at).allows != nullptr)
+            return true;
+        at = &behind(*at, step);
+    }
+    return false;
+}
+
+std::string around(const Type &type, std::span<const uint8_t> way, const std::string &encoding) {
+    if (way.empty())
+        return encoding;
+    const std::string inner = around(behind(type, way[0]), way.subspan(1), encoding);
+    if (is_list_structure(type))
+        return inner;
+    const std::string part = under_tag(inner, components_of(type).first[way[0]].tag);
+    if (!is_structure(type))
+        return part;
+    const Structure &shape = shape_of<Structure>(type);
+    std::string whole;
+    // With what is required, or else with all that there may be.
+    for (const uint32_t others : {required_of(shape), ~uint32_t{0}}) {
+        for (const Flavour &flavour : flavours) {
+            std::string content;
+            for (uint32_t i = 0; i < shape.count; ++i) {
+                if (i == way[0])
+                    content += part;
+                else if ((others >> i & 1) != 0)
+                    content += make_component(shape.components[i], Extent::minimal, flavour, 0);
+            }
+            whole = element(type.usual_identifier, content);
+            if (shape.allows == nullptr || is_read(type, whole))
+                return whole;
+        }
+    }
+    return whole;
+}
+
+} // namespace
+
+std::string HeldList::in_holder(const std::string &encoding) const {
+    return around(*holder, way, encoding);
+}
+
+const core::Value *HeldList::of(const core::Value *value) const {
+    const Type *type = holder;
+    for (const uint8_t step : way) {
+        if (value == nullptr)
+            return nullptr;
+        if (is_structure(*type)) {
+            value = static_cast<const core::Record *>(value)->slot(step);
+        } else {
+            const auto *choice = static_cast<const core::Choice *>(value);
+            value = choice->alternative == step ? choice->value : nullptr;
+        }
+        type = &behind(*type, step);
+    }
+    return value;
+}
+
+std::vector<HeldList> lists_in(const Type &type) {
+    struct State {
+        const Type *type;
+        HeldList held;
+    };
+    std::vector<HeldList> found;
+    std::set<std::pair<const Type *, const Type *>> seen;
+    std::vector<State> states = {{&type, {&type, nullptr, nullptr, {}, ""}}};
+    for (size_t at = 0; at < states.size(); ++at) {
+        State state = states[at];
+        if (keeps_octets(*state.type))
+            state.held.kept = state.type;
+        if (!seen.emplace(state.type, state.held.kept).second)
+            continue;
+        if (is_list(*state.type)) {
+            state.held.list = state.type;
+            const std::string data = state.held.in_holder(
+                element(state.type->usual_identifier, may_be_empty(*state.type) ? "" : minimal_member(*state.type)));
+            // Where only some records are allowed, those with the list need not be.
+            if (!is_restricted(type, state.held.way) || is_read(type, data))
+                found.push_back(state.held);
+            continue;
+        }
+        const auto [components, count] = components_of(*state.type);
+        for (uint8_t step = 0; step < count; ++step) {
+            State next = state;
+            next.type = &behind(*state.type, step);
+            next.held.way.push_back(step);
+            next.held.name.append(".").append(components[step].name);
+            states.push_back(next);
+        }
+    }
+    return found;
+}
+
+const Type &member_of(const Type &list) {
+    return core::row(shape_of<ListShape>(list).element);
+}
+
+std::string minimal_member(const Type &list) {
+    const Type &member = member_of(list);
+    return make(member, Extent::minimal, flavour_of(member, Extent::minimal), 1);
+}
+
+bool may_be_empty(const Type &list) {
+    return shape_of<ListShape>(list).nonempty == nullptr;
 }
 
 namespace {

@@ -37,6 +37,29 @@ std::vector<std::string> with_open_type(uint32_t type, const std::string &open);
 // is none.
 std::vector<Sample> component_values(const core::Type &type);
 
+// A list that a value of a type can hold without another list around it, and the way there: components and alternatives
+// by their numbers.
+struct HeldList {
+    const core::Type *holder;
+    const core::Type *list;
+    const core::Type *kept; // the last on the way that keeps its octets or is signed; null: none
+    std::vector<uint8_t> way;
+    std::string name;
+
+    // A holder of this list.
+    [[nodiscard]] std::string in_holder(const std::string &encoding) const;
+    // The list of a holder; null when it has none.
+    [[nodiscard]] const core::Value *of(const core::Value *value) const;
+};
+
+// One way to each list, and one more for each type that is the last to keep its octets on the way. A list holds itself.
+std::vector<HeldList> lists_in(const core::Type &type);
+
+// What a list is made of: the type of the elements, a value of it, and whether there need be any.
+const core::Type &member_of(const core::Type &list);
+std::string minimal_member(const core::Type &list);
+bool may_be_empty(const core::Type &list);
+
 // Is everything in the type written as it is read? A few components are written under another tag, or not at all.
 bool is_written_as_read(const core::Type &type);
 
