@@ -44,7 +44,8 @@ public:
             &Mutator::flip_form, &Mutator::retag,     &Mutator::relength,  &Mutator::relength,  &Mutator::toggle_end,
             &Mutator::wrap,      &Mutator::unwrap,    &Mutator::duplicate, &Mutator::remove,    &Mutator::swap,
             &Mutator::splice,    &Mutator::recontent, &Mutator::recontent, &Mutator::recontent, &Mutator::segment,
-            &Mutator::refill,    &Mutator::insert,    &Mutator::nest,      &Mutator::lie};
+            &Mutator::refill,    &Mutator::insert,    &Mutator::nest,      &Mutator::lie,       &Mutator::repeat,
+            &Mutator::repeat,    &Mutator::enclose};
         (this->*changes[below(std::size(changes))])(nodes, pick(nodes));
     }
 
@@ -205,9 +206,28 @@ private:
 
     void duplicate(Nodes &, Place place) {
         const Node copy = place.node();
-        const size_t room = max_size_ / (write_node(copy).size() + 1) / 2;
-        const size_t count = one_in(6) ? below(std::min<size_t>(room, 100)) : 1;
-        place.list->insert(place.list->begin() + static_cast<std::ptrdiff_t>(place.index), count, copy);
+        place.list->insert(place.list->begin() + static_cast<std::ptrdiff_t>(place.index), copy);
+    }
+
+    // So that there are 2 to 200 of it, as far as there is room: before it, where the last may then be made another
+    // one, or behind it.
+    void repeat(Nodes &nodes, Place place) {
+        constexpr size_t most = 200;
+        const Node copy = place.node();
+        const size_t used = write_nodes(nodes).size();
+        const size_t room = used < max_size_ ? (max_size_ - used) / (write_node(copy).size() + 1) : 0;
+        const size_t count = std::min(room, 1 + below(most - 1));
+        place.list->insert(place.list->begin() + static_cast<std::ptrdiff_t>(place.index + below(2)), count, copy);
+    }
+
+    // All elements from this one on in an element like it: a list becomes a list of one list.
+    void enclose(Nodes &, Place place) {
+        const auto begin = place.list->begin() + static_cast<std::ptrdiff_t>(place.index);
+        Node outer;
+        outer.identifier = place.node().is_constructed() ? place.node().identifier : "\x30";
+        outer.inside.assign(std::make_move_iterator(begin), std::make_move_iterator(place.list->end()));
+        place.list->erase(begin, place.list->end());
+        place.list->push_back(std::move(outer));
     }
 
     void remove(Nodes &, Place place) {

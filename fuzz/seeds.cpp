@@ -38,6 +38,22 @@ void gather_elements(const Nodes &nodes, std::set<std::string> &out) {
     }
 }
 
+// Lists in the last element of lists: few, and more than are built at once in any build.
+std::vector<std::string> lists_in_lists(uint32_t type) {
+    std::vector<std::string> found;
+    const auto &row = test::core::row(type);
+    if (!test::is_list(row))
+        return found;
+    for (const test::HeldList &held : test::lists_in(test::member_of(row)))
+        for (const size_t size : {3, 33}) {
+            const std::string inner =
+                test::element(held.list->usual_identifier, test::repeated(test::minimal_member(*held.list), size));
+            found.push_back(test::element(row.usual_identifier,
+                                          test::repeated(test::minimal_member(row), size - 1) + held.in_holder(inner)));
+        }
+    return found;
+}
+
 // For each type its samples, and a few elements of the files that it accepts, from the smallest to the largest.
 std::map<uint32_t, std::vector<std::string>> elements_by_type(const std::set<std::string> &elements) {
     std::map<uint32_t, std::vector<std::string>> found;
@@ -45,6 +61,9 @@ std::map<uint32_t, std::vector<std::string>> elements_by_type(const std::set<std
         for (const test::Sample &sample : test::samples(type))
             if (sample.octets.size() <= largest)
                 found[type].push_back(sample.octets);
+        for (const std::string &octets : lists_in_lists(type))
+            if (octets.size() <= largest)
+                found[type].push_back(octets);
         std::map<size_t, std::string> by_size;
         for (const std::string &octets : elements) {
             Value value(type, nullptr);
