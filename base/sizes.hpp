@@ -20,7 +20,7 @@ template <class... More> constexpr size_t sum(size_t a, size_t b, size_t c, More
 constexpr size_t product(size_t a, size_t b) {
     if (a == too_large || b == too_large)
         return too_large;
-    return a == 0 || b < too_large / a ? a * b : too_large;
+    return a == 0 || b <= too_large / a ? a * b : too_large;
 }
 
 // The next multiple of `step`, a power of two.

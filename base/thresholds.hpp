@@ -16,7 +16,7 @@ inline constexpr bool is_tight = true;
 inline constexpr bool is_tight = false;
 #endif
 
-template <class T> consteval T threshold(T real, T tight) {
+template <class T> constexpr T threshold(T real, T tight) {
     return is_tight ? tight : real;
 }
 
