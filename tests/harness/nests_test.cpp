@@ -17,7 +17,7 @@ using Handle = kovra_asn1_value *;
 using Random = std::minstd_rand;
 
 // How many elements a list has: none, few, and one more than is built at once or has room at first.
-constexpr size_t sizes[] = {0, 1, 2, 3, is_tight ? 4 : 33, is_tight ? 6 : 130};
+constexpr size_t sizes[] = {0, 1, 2, 3, threshold<size_t>(33, 4), threshold<size_t>(130, 6)};
 constexpr size_t long_one = 4, longest = 5; // of them
 constexpr size_t most_levels = 3;
 
@@ -101,12 +101,11 @@ public:
     [[nodiscard]] const Chain &chain() const { return chain_; }
     [[nodiscard]] uint32_t type() const { return chain_.type; }
     [[nodiscard]] const std::string &octets() const { return octets_; }
-    [[nodiscard]] size_t levels() const { return levels_.size(); }
     [[nodiscard]] size_t size(size_t level) const { return levels_[level].size; }
     // Does the element hold the list of the next level?
     [[nodiscard]] bool is_deep(size_t level, size_t index) const {
         const auto [size, place] = levels_[level];
-        constexpr size_t edge = sizes[long_one] - 1;
+        constexpr size_t edge = sizes[long_one]; // read behind the one that makes the list long, with others behind it
         if (level + 1 == levels_.size())
             return false;
         return place == Place::all || (place == Place::first && index == 0) ||
@@ -116,6 +115,7 @@ public:
     [[nodiscard]] const std::string &element_at(size_t level, size_t index) const {
         return is_deep(level, index) ? deep_[level] : plain_[level];
     }
+    // Sizes and places, each by its first letter, from the outermost list on.
     [[nodiscard]] std::string name() const {
         std::string name = name_of(chain_);
         for (const Level &level : levels_)
@@ -262,10 +262,16 @@ template <class Look> void for_each_nest(Random &random, Look look) {
     }
 }
 
+constexpr size_t some = 7; // one in so many: no divisor of how many nests there are of a chain
+
 TEST(Nests, AreWrittenAndReadInAnyOrder) {
     Random random(1);
-    size_t count = 0;
+    size_t count = 0, turn = 0;
     for_each_nest(random, [&](const Chain &chain, const std::vector<Nest::Level> &levels) {
+        // Around the outermost list there is only what others have too.
+        const bool is_usual = !is_list(core::row(chain.type)) && !chain.keeps_octets();
+        if (is_usual && turn++ % some != 0)
+            return;
         const Nest nest(chain, levels);
         SCOPED_TRACE(nest.name());
         use(nest, nest.octets(), written_as(nest), random);
@@ -280,8 +286,7 @@ TEST(Nests, OfIndefiniteLength) {
     Random random(2);
     size_t turn = 0;
     for_each_nest(random, [&](const Chain &chain, const std::vector<Nest::Level> &levels) {
-        constexpr size_t every = 7; // no divisor of how many there are of a chain
-        if (turn++ % every != 0)
+        if (turn++ % some != 0)
             return;
         const Nest open(chain, levels, true), closed(chain, levels);
         SCOPED_TRACE(open.name());
@@ -408,7 +413,7 @@ TEST(Nests, LongListsInLongLists) {
          {{33, Place::last}, {34, Place::first}, {33, Place::all}}},
         {KOVRA_ASN1_TYPE_CRL_DISTRIBUTION_POINTS,
          {"", ".cRLIssuer", ".directoryName.rdnSequence"},
-         {{33, Place::last}, {34, Place::edge}, {33, Place::all}}},
+         {{33, Place::last}, {35, Place::edge}, {33, Place::all}}},
     };
     Random random(4);
     for (const auto &row : rows) {

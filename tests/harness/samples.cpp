@@ -6,6 +6,7 @@
 #include <set>
 #include <span>
 
+#include "base/thresholds.hpp"
 #include "core/choice.hpp"
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
@@ -26,7 +27,8 @@ using core::Structure;
 using core::Tagging;
 using core::Type;
 
-constexpr uint32_t elements_of_long_list = 70;
+// More than are built at once.
+constexpr auto elements_of_long_list = threshold<uint32_t>(70, 5);
 
 template <class Shape> const Shape &shape_of(const Type &type) {
     return *static_cast<const Shape *>(type.shape);
