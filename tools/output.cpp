@@ -1,9 +1,8 @@
 #include "output.hpp"
 
-#include <algorithm>
 #include <cerrno>
 #include <charconv>
-#include <cstring>
+#include <cstdio>
 
 #include "platform.hpp"
 
@@ -40,53 +39,83 @@ void set_binary(int) {}
 
 constexpr size_t number_digits = 20;
 
+// Text that is not known to be harmless is printed through Outside only.
+template <class Text>
+concept printable = requires(Output &out, Text text) {
+    out.put(text);
+};
+static_assert(printable<Harmless> && printable<Outside> && printable<Message>);
+static_assert(!printable<std::string> && !printable<std::string_view>);
+
 } // namespace
+
+void put_error(Harmless text) {
+    // Nowhere is left to tell a failure.
+    static_cast<void>(std::fwrite(text.view().data(), 1, text.size(), stderr));
+}
 
 Output::~Output() {
     if (file_ > standard_output)
         close_file(file_);
 }
 
-void Output::put_number(uint64_t number) {
-    char *out = room(number_digits);
-    used(std::to_chars(out, out + number_digits, number).ptr);
+size_t Output::put(Outside text) {
+    for (Harmless piece; text.next(piece);)
+        put(piece);
+    return text.taken();
+}
+
+void Output::put_number(uint64_t number, int base) {
+    put_filled<number_digits>([=](char *out) { return std::to_chars(out, out + number_digits, number, base).ptr; });
+}
+
+void Output::put_digits(uint64_t number, size_t count) {
+    char digits[number_digits];
+    const auto size = static_cast<size_t>(std::to_chars(digits, digits + number_digits, number).ptr - digits);
+    for (size_t i = size; i < count; ++i)
+        put("0");
+    put_data({digits, size});
 }
 
 void Output::put_right(uint64_t number, size_t width) {
     char digits[number_digits];
-    const auto count = static_cast<size_t>(std::to_chars(digits, digits + number_digits, number).ptr - digits);
-    const size_t blanks = width > count ? width - count : 0;
-    char *out = room(blanks + count);
-    std::memset(out, ' ', blanks);
-    std::memcpy(out + blanks, digits, count);
-    used(out + blanks + count);
+    const auto size = static_cast<size_t>(std::to_chars(digits, digits + number_digits, number).ptr - digits);
+    put_blanks(width > size ? width - size : 0);
+    put_data({digits, size});
 }
 
-void Output::fill(char character, size_t count) {
-    for (size_t piece = 0; count != 0; count -= piece) {
-        piece = std::min(count, largest_room);
-        char *out = room(piece);
-        std::memset(out, character, piece);
-        used(out + piece);
-    }
+void Output::put_blanks(size_t count) {
+    constexpr size_t piece = 32;
+    for (; count >= piece; count -= piece)
+        put("                                ");
+    if (count != 0)
+        put_filled<piece>([=](char *out) {
+            std::memset(out, ' ', piece);
+            return out + count;
+        });
 }
 
 void Output::put_hex(const uint8_t *octets, size_t length) {
     static constexpr char digits[] = "0123456789abcdef";
+    constexpr auto most = threshold<size_t>(2048, 1);
     for (size_t piece = 0; length != 0; length -= piece, octets += piece) {
-        piece = std::min(length, largest_room / 2);
-        char *out = room(piece * 2);
-        for (size_t i = 0; i < piece; ++i) {
-            *out++ = digits[octets[i] >> 4];
-            *out++ = digits[octets[i] & 0x0F];
-        }
-        used(out);
+        piece = std::min(length, most);
+        put_filled<2 * most>([=](char *out) {
+            for (size_t i = 0; i < piece; ++i) {
+                *out++ = digits[octets[i] >> 4];
+                *out++ = digits[octets[i] & 0x0F];
+            }
+            return out;
+        });
     }
 }
 
-void Output::put_long(std::string_view text) {
+void Output::put_long(std::string_view octets) {
     flush();
-    write(text.data(), text.size());
+    if (octets.size() < capacity)
+        used_ = octets.copy(buffer_.get(), octets.size());
+    else
+        write(octets.data(), octets.size());
 }
 
 void Output::flush() {
@@ -120,7 +149,7 @@ void Output::write(const char *octets, size_t size) {
     if (size != 0 && file_ < 0)
         open();
     // The largest piece that every system takes at once.
-    constexpr size_t largest_piece = 1 << 30;
+    constexpr auto largest_piece = threshold<size_t>(1 << 30, 2);
     while (size != 0 && !is_over_) {
         const size_t piece = std::min(size, largest_piece);
         const long written = is_on_terminal_ ? write_to_terminal(octets, piece) : write_file(file_, octets, piece);
@@ -142,7 +171,7 @@ void Output::fail() {
     const bool is_closed_pipe = errno == EPIPE;
 #endif
     if (!is_closed_pipe)
-        failure_ = (path_.empty() ? "standard output" : path_) + ": " + std::strerror(errno);
+        failure_ = std::strerror(errno);
 }
 
 bool Output::is_terminal() const {
