@@ -127,7 +127,7 @@ private:
             kovra_asn1_value_free(detected.type, detected.value);
             progress_.erase();
             ++unreadable_;
-            return session_.report(place, {item.begin, {{KOVRA_ERR_NO_MEMORY, "memory is short", ""}}});
+            return session_.report(place, no_memory(item.begin));
         }
         if (outcome == Outcome::different)
             report(outcome, place, differs(item.begin + difference));

@@ -61,11 +61,16 @@ Trouble bad_armour() {
     return {0, {{KOVRA_ERR_STREAM_PEM, kovra_igetStreamError(KOVRA_ERR_STREAM_PEM), "UTIL_Coding"}}};
 }
 
+Trouble no_memory(size_t octet) {
+    return {octet, {{KOVRA_ERR_NO_MEMORY, "memory is short", ""}}};
+}
+
 void Session::report(const Message &place, const Trouble &trouble) {
     out.flush();
     // Want of memory says nothing about the input.
     const bool is_short = trouble.chain.front().code == KOVRA_ERR_NO_MEMORY;
     status_ = std::max(status_, is_short ? Status::io : Status::malformed);
+    is_incomplete_ = is_incomplete_ || is_short;
     const Trouble::Cause &outermost = trouble.chain.back();
     Message text("kovra-asn1: ");
     text += place + ": octet " + decimal(origin_ + trouble.octet) + ": " + Outside(outermost.text);

@@ -53,6 +53,9 @@ Trouble explain(const Refusal &refusal, std::initializer_list<uint32_t> types);
 // The octets of a PEM block cannot be read.
 Trouble bad_armour();
 
+// There is no memory for what stands at the octet.
+Trouble no_memory(size_t octet);
+
 // Where an item stands.
 struct Place {
     Message file;
@@ -74,6 +77,8 @@ public:
     void report(const Message &place, const Trouble &trouble);
     // Prints that a file cannot be read or written.
     void report_file(std::string_view file, std::string_view reason);
+    // Something is missing in the output for want of memory.
+    [[nodiscard]] bool is_incomplete() const { return is_incomplete_; }
 
     // Calls the function with every item of every file until the output is over, and where it stands. Files that cannot
     // be read and malformed PEM blocks are reported on the way. Items of a pipe are given as they come, with what was
@@ -87,6 +92,7 @@ private:
     void for_each_of(Items items, const std::string &file, const ForItem &function);
 
     Status status_ = Status::good;
+    bool is_incomplete_ = false;
     size_t origin_ = 0; // of the item at hand
 };
 

@@ -508,8 +508,11 @@ void json(Session &session) {
         if (!check.run())
             return session.report(place.text(), explain(check.refusal(), {KOVRA_ASN1_TYPE_ANY, check.refused_type()}));
         Writer writer(session.out, session.options.indent);
-        Description(item, writer).run();
+        const bool is_whole = Description(item, writer).run();
         session.out.put("\n");
+        // What can be described once lacks only memory the second time.
+        if (!is_whole)
+            session.report(place.text(), no_memory(item.begin));
     });
 }
 

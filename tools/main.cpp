@@ -132,10 +132,10 @@ int run(std::vector<std::string> given) {
         session.options.type = find_type(arguments.type);
     if (session.options.files.empty())
         session.options.files.emplace_back("-");
-    session.out.set_path(arguments.out);
+    session.out.set_path(arguments.out, session.options.has_secrets);
     session.options.is_colored = is_colored(arguments, session.out, terminal);
     chosen->run(session);
-    session.out.finish(session.status() == Status::good);
+    session.out.finish(session.status() == Status::good, !session.is_incomplete());
     if (!session.out.failure().empty())
         session.report_file(session.out.name(), session.out.failure());
     return static_cast<int>(session.status());

@@ -6,36 +6,9 @@
 
 #include "platform.hpp"
 
-#include <fcntl.h>
-#if defined(_WIN32)
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
-
 namespace kovra::tool {
 
 namespace {
-
-#if defined(_WIN32)
-int close_file(int file) {
-    return _close(file);
-}
-long write_file(int file, const char *octets, size_t size) {
-    return _write(file, octets, static_cast<unsigned>(size));
-}
-void set_binary(int file) {
-    _setmode(file, _O_BINARY);
-}
-#else
-int close_file(int file) {
-    return ::close(file);
-}
-long write_file(int file, const char *octets, size_t size) {
-    return static_cast<long>(::write(file, octets, size));
-}
-void set_binary(int) {}
-#endif
 
 constexpr size_t number_digits = 20;
 
@@ -52,11 +25,6 @@ static_assert(!printable<std::string> && !printable<std::string_view>);
 void put_error(Harmless text) {
     // Nowhere is left to tell a failure.
     static_cast<void>(std::fwrite(text.view().data(), 1, text.size(), stderr));
-}
-
-Output::~Output() {
-    if (file_ > standard_output)
-        close_file(file_);
 }
 
 size_t Output::put(Outside text) {
@@ -123,25 +91,23 @@ void Output::flush() {
     used_ = 0;
 }
 
-void Output::finish(bool may_be_empty) {
+void Output::finish(bool may_be_empty, bool is_whole) {
     flush();
-    if (file_ < 0 && may_be_empty)
+    if (file_ < 0 && may_be_empty && is_whole)
         open();
-    if (file_ > standard_output) {
-        if (close_file(file_) != 0 && failure_.empty())
-            fail();
-        file_ = standard_output;
-    }
+    if (!path_.empty() && file_ >= 0 && is_whole && !is_over_)
+        if (const std::error_code error = out_file_.finish())
+            fail(error);
+    out_file_.discard();
+    file_ = standard_output;
 }
 
 void Output::open() {
     if (is_over_)
         return;
-    file_ = path_.empty() ? standard_output : open_to_write(path_);
+    file_ = path_.empty() ? standard_output : out_file_.open(path_, is_private_);
     if (file_ < 0)
-        fail();
-    else
-        set_binary(file_);
+        fail({errno, std::generic_category()});
     is_on_terminal_ = file_ >= 0 && is_terminal();
 }
 
@@ -157,21 +123,21 @@ void Output::write(const char *octets, size_t size) {
             octets += written;
             size -= static_cast<size_t>(written);
         } else if (errno != EINTR) {
-            fail();
+            fail({errno, std::generic_category()});
         }
     }
 }
 
-void Output::fail() {
+void Output::fail(std::error_code error) {
     is_over_ = true;
 #if defined(_WIN32)
     // A pipe that nobody reads any more reports this.
-    const bool is_closed_pipe = errno == EPIPE || errno == EINVAL;
+    const bool is_closed_pipe = error.value() == EPIPE || error.value() == EINVAL;
 #else
-    const bool is_closed_pipe = errno == EPIPE;
+    const bool is_closed_pipe = error.value() == EPIPE;
 #endif
     if (!is_closed_pipe)
-        failure_ = std::strerror(errno);
+        failure_ = error.message();
 }
 
 bool Output::is_terminal() const {

@@ -8,8 +8,10 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "base/thresholds.hpp"
+#include "out_file.hpp"
 #include "text.hpp"
 
 namespace kovra::tool {
@@ -20,12 +22,15 @@ void put_error(Harmless text);
 class Output {
 public:
     Output() : buffer_(std::make_unique<char[]>(capacity)) {}
-    ~Output();
     Output(const Output &) = delete;
     Output &operator=(const Output &) = delete;
 
-    // Names the file to write, made or emptied when the first octets go out; without one it is standard output.
-    void set_path(const std::string &path) { path_ = path; }
+    // Names the file to write, of the kind that OutFile makes; without one it is standard output. It is not touched
+    // before the first octets go out.
+    void set_path(const std::string &path, bool is_private) {
+        path_ = path;
+        is_private_ = is_private;
+    }
 
     void put(Harmless text) { put_data(text.view()); }
     // Prints text from outside, escaped; returns the number of its octets that were printed so.
@@ -58,9 +63,9 @@ public:
 
     // Writes what is gathered.
     void flush();
-    // Writes the rest and closes the file, which is made even if nothing was printed when it may be empty; otherwise a
-    // file of that name stays as it is.
-    void finish(bool may_be_empty);
+    // Writes the rest and closes the file. One to which nothing was printed is made only if it may be empty. With an
+    // output that is not whole, or that could not be written, there is no file, or the one that was there before.
+    void finish(bool may_be_empty, bool is_whole);
 
     // Nothing more can be written; the rest is thrown away.
     [[nodiscard]] bool is_over() const { return is_over_; }
@@ -87,11 +92,13 @@ private:
     void put_long(std::string_view octets);
     void write(const char *octets, size_t size);
     void open();
-    void fail();
+    void fail(std::error_code error);
 
     std::unique_ptr<char[]> buffer_;
     size_t used_ = 0;
     std::string path_;
+    bool is_private_ = false;
+    OutFile out_file_;
     int file_ = -1;
     bool is_on_terminal_ = false;
     bool is_over_ = false;
