@@ -4,6 +4,7 @@
 #if defined(KOVRA_TOOL_PATH)
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <iterator>
@@ -138,14 +139,66 @@ inline std::string oid(const char *dotted) {
     return octets(encoding(value));
 }
 
-// Everything but line feeds, and characters in UTF-8, is harmless to a terminal.
+// What a terminal or a viewer acts on: control characters, those that turn the direction of writing or break lines or
+// are not to be seen, and tags.
+constexpr struct {
+    uint32_t first;
+    uint32_t last;
+} harmful[] = {{0x00, 0x1F},     {0x7F, 0x9F},     {0x61C, 0x61C},   {0x200B, 0x200F},
+               {0x2028, 0x202E}, {0x2060, 0x206F}, {0xFEFF, 0xFEFF}, {0xE0000, 0x10FFFF}};
+
+inline bool is_harmful(uint32_t code) {
+    return std::any_of(std::begin(harmful), std::end(harmful),
+                       [code](const auto &range) { return code >= range.first && code <= range.last; });
+}
+
+inline std::string utf8(uint32_t code) {
+    const auto octet = [](uint32_t value) { return static_cast<char>(value); };
+    const auto next = [&](int shift) { return octet(0x80 | (code >> shift & 0x3F)); };
+    if (code < 0x80)
+        return {octet(code)};
+    if (code < 0x800)
+        return {octet(0xC0 | code >> 6), next(0)};
+    if (code < 0x10000)
+        return {octet(0xE0 | code >> 12), next(6), next(0)};
+    return {octet(0xF0 | code >> 18), next(12), next(6), next(0)};
+}
+
+// The code at an octet of well-formed text, which goes on behind it.
+inline uint32_t next_code(const std::string &text, size_t &at) {
+    const auto lead = static_cast<unsigned char>(text[at++]);
+    uint32_t code = lead < 0x80 ? lead : lead < 0xE0 ? lead & 0x1F : lead < 0xF0 ? lead & 0x0F : lead & 0x07;
+    for (; at < text.size() && (text[at] & 0xC0) == 0x80; ++at)
+        code = code << 6 | (text[at] & 0x3FU);
+    return code;
+}
+
+// Text that changes nothing on a terminal but what is to be read there: line feeds and characters.
 inline bool is_harmless(const std::string &text) {
     kovra_ustring *characters = kovra_ustring_newutf8(text.data(), static_cast<int32_t>(text.size()));
-    const bool is_text = characters != nullptr;
+    bool is_good = characters != nullptr;
     kovra_ustring_free(characters);
-    return is_text && std::none_of(text.begin(), text.end(), [](char c) {
-               return (static_cast<unsigned char>(c) < 0x20 && c != '\n') || c == 0x7F;
-           });
+    for (size_t at = 0; is_good && at < text.size();) {
+        const uint32_t code = next_code(text, at);
+        is_good = code == '\n' || !is_harmful(code);
+    }
+    return is_good;
+}
+
+// JSON text with what is harmful in its strings as escapes.
+inline std::string harmless_json(const std::string &text) {
+    std::string result;
+    for (size_t at = 0; at < text.size();) {
+        const size_t begin = at;
+        const uint32_t code = next_code(text, at);
+        char escape[16] = "";
+        if (code >= 0x10000)
+            std::snprintf(escape, sizeof escape, "\\u%04x\\u%04x", 0xD7C0 + (code >> 10), 0xDC00 + (code & 0x3FF));
+        else
+            std::snprintf(escape, sizeof escape, "\\u%04x", code);
+        result += code != '\n' && is_harmful(code) ? escape : text.substr(begin, at - begin);
+    }
+    return result;
 }
 
 inline size_t count(const std::string &text, std::string_view part) {

@@ -1,31 +1,11 @@
 #include "characters.hpp"
 
-#include <algorithm>
-#include <charconv>
-
 #include "kovra/util.h"
 #include "tool_handles.hpp"
 
 namespace kovra::tool {
 
 namespace {
-
-void put_escaped(Output &out, uint32_t number, bool is_character) {
-    if (number == '"' || number == '\\') {
-        const char escaped[] = {'\\', static_cast<char>(number)};
-        return out.put({escaped, 2});
-    }
-    const char *letter = number == '\n' ? "\\n" : number == '\r' ? "\\r" : number == '\t' ? "\\t" : nullptr;
-    if (letter != nullptr)
-        return out.put(letter);
-    const bool is_short = !is_character || number < 0x80;
-    char digits[8];
-    const auto *end = std::to_chars(digits, digits + sizeof digits, number, 16).ptr;
-    out.put(is_short ? (number < 0x10 ? "\\x0" : "\\x") : "\\u{");
-    out.put({digits, static_cast<size_t>(end - digits)});
-    if (!is_short)
-        out.put('}');
-}
 
 // Takes the text over, which is null for octets that are none.
 bool take_utf8(kovra_ustring *text, std::string &out) {
@@ -61,49 +41,6 @@ bool is_harmless(uint32_t code) {
                               (code >= 0x2028 && code <= 0x202E) || (code >= 0x2060 && code <= 0x206F) ||
                               code == 0xFEFF;
     return !is_control && !is_direction && code < 0xE0000;
-}
-
-size_t put_text(Output &out, const uint8_t *octets, size_t length, size_t shown) {
-    size_t at = 0;
-    while (at < shown) {
-        size_t end = at;
-        while (end < shown && octets[end] >= 0x20 && octets[end] < 0x7F && octets[end] != '"' && octets[end] != '\\')
-            ++end;
-        out.put({reinterpret_cast<const char *>(octets) + at, end - at});
-        at = end;
-        if (at >= shown)
-            break;
-        const auto [code, size] = character_at(octets + at, length - at);
-        if (size == 0)
-            put_escaped(out, octets[at], false);
-        else if (size == 1 || !is_harmless(code))
-            put_escaped(out, code, true);
-        else
-            out.put({reinterpret_cast<const char *>(octets) + at, size});
-        at += std::max<size_t>(size, 1);
-    }
-    return at;
-}
-
-void put_name_text(Output &out, std::string_view text) {
-    const auto *octets = reinterpret_cast<const uint8_t *>(text.data());
-    constexpr std::string_view special("\"+,;<>\\");
-    for (size_t at = 0; at < text.size();) {
-        const auto [code, size] = character_at(octets + at, text.size() - at);
-        const size_t taken = std::max<size_t>(size, 1);
-        const bool is_edge = (at == 0 && (code == ' ' || code == '#')) || (at + 1 == text.size() && code == ' ');
-        if (size == 0 || !is_harmless(code)) {
-            for (size_t i = at; i < at + taken; ++i) {
-                out.put('\\');
-                out.put_hex(octets + i, 1);
-            }
-        } else {
-            if (is_edge || (size == 1 && special.find(text[at]) != std::string_view::npos))
-                out.put('\\');
-            out.put(text.substr(at, taken));
-        }
-        at += taken;
-    }
 }
 
 bool to_utf8(uint32_t tag, const uint8_t *octets, size_t length, std::string &out) {

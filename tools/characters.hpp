@@ -1,12 +1,9 @@
-// Characters of any origin, made fit for people and terminals.
+// Characters of any origin.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
-
-#include "output.hpp"
 
 namespace kovra::tool {
 
@@ -20,14 +17,6 @@ Character character_at(const uint8_t *octets, size_t length);
 
 // Neither a control character nor one that a terminal or a viewer acts on, as by turning the direction of writing.
 bool is_harmless(uint32_t code);
-
-// Prints the characters that begin in the first `shown` octets of UTF-8. Quotation marks, backslashes, what is not
-// harmless, and octets that are no UTF-8 are escaped as in C. Returns the number of octets printed.
-size_t put_text(Output &out, const uint8_t *octets, size_t length, size_t shown);
-
-// The same with all octets, as the value of an attribute in RFC 4514: `\` before a special character, `\` and two
-// hexadecimal digits for each octet of what is escaped otherwise.
-void put_name_text(Output &out, std::string_view text);
 
 // Converts a character string of the universal tag to UTF-8. Octets of TeletexString are taken for ISO 8859-1, which is
 // what they are in practice. False when a BMPString or a UniversalString has other octets than characters; whether the

@@ -66,12 +66,12 @@ public:
     }
 
     void put_summary() {
-        const auto put = [this](std::string_view name, size_t number) {
+        const auto put = [this](Harmless name, size_t number) {
             session_.out.put(name);
-            session_.out.put(':');
-            session_.out.fill(' ', 12 - name.size());
+            session_.out.put(":");
+            session_.out.put_blanks(12 - name.size());
             session_.out.put_right(number, 8);
-            session_.out.put('\n');
+            session_.out.put("\n");
         };
         put("files", count_);
         put("  skipped", skipped_);
@@ -98,7 +98,7 @@ private:
         if (const std::string failure = read_file(file.path, octets); !failure.empty()) {
             progress_.erase();
             ++unreadable_;
-            return session_.report_file(file.path + ": " + failure);
+            return session_.report_file(file.path, failure);
         }
         Items items(std::move(octets));
         if (!file.is_named && items.is_other_text()) {
@@ -106,15 +106,15 @@ private:
             return;
         }
         Item item;
-        const std::string name = harmless(file.path);
+        const Message name{Outside(file.path)};
         while (items.next(item)) {
             check(item, name);
             progress_.step(done_ + std::min<uint64_t>(item.end, file.size), count_);
         }
     }
 
-    void check(const Item &item, const std::string &file) {
-        const std::string place = file + "[" + std::to_string(item.number) + "]";
+    void check(const Item &item, const Message &file) {
+        const Message place = Place{file, item.number}.text();
         if (item.is_bad_armour)
             return count(report(Outcome::malformed, place, bad_armour()));
         const Detected detected = detect(item, session_.options);
@@ -127,7 +127,7 @@ private:
             kovra_asn1_value_free(detected.type, detected.value);
             progress_.erase();
             ++unreadable_;
-            return session_.report(place, {item.begin, {{KOVRA_ERR_NO_MEMORY, "memory is short", ""}}});
+            return session_.report(place, no_memory(item.begin));
         }
         if (outcome == Outcome::different)
             report(outcome, place, differs(item.begin + difference));
@@ -138,7 +138,7 @@ private:
     }
 
     // Checks what stands in a value as octets, and what stands in that, as far as a message is nested in earnest.
-    Outcome check_inner(uint32_t type, kovra_asn1_value *value, const Inner &outer, const std::string &place,
+    Outcome check_inner(uint32_t type, kovra_asn1_value *value, const Inner &outer, const Message &place,
                         size_t level) {
         constexpr size_t deepest = 32;
         Outcome worst = Outcome::identical;
@@ -151,7 +151,7 @@ private:
         return worst;
     }
 
-    Outcome check(const Inner &inner, const std::string &place, size_t level) {
+    Outcome check(const Inner &inner, const Message &place, size_t level) {
         for (const OidRow &row : inner.rows) {
             Value value(row.type);
             if (!read_octets(inner.octets, row.type, value))
@@ -167,9 +167,7 @@ private:
         return report(Outcome::malformed, within(place, type), explain({octets, 0, inner.octets.size(), true}, {type}));
     }
 
-    static std::string within(const std::string &place, uint32_t type) {
-        return place + " " + std::string(type_name(type));
-    }
+    static Message within(const Message &place, uint32_t type) { return place + " " + type_name(type); }
 
     static Trouble differs(size_t octet) { return {octet, {{0, "encoded again it differs", ""}}}; }
 
@@ -178,7 +176,7 @@ private:
         ++*counts[static_cast<size_t>(outcome)];
     }
 
-    Outcome report(Outcome outcome, const std::string &place, const Trouble &trouble) {
+    Outcome report(Outcome outcome, const Message &place, const Trouble &trouble) {
         progress_.erase();
         session_.report(place, trouble);
         return outcome;
@@ -200,8 +198,9 @@ private:
 } // namespace
 
 void check(Session &session) {
-    Check run(session,
-              find_files(session.options.files, [&](const std::string &message) { session.report_file(message); }));
+    Check run(session, find_files(session.options.files, [&](std::string_view path, std::string_view reason) {
+                  session.report_file(path, reason);
+              }));
     run.run();
     if (!session.options.is_quiet)
         run.put_summary();

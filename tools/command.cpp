@@ -11,10 +11,10 @@ namespace kovra::tool {
 
 namespace {
 
-std::string hexadecimal(int32_t code) {
+Message hexadecimal(int32_t code) {
     char text[16];
     std::snprintf(text, sizeof text, "0x%x", static_cast<unsigned>(code));
-    return text;
+    return Message(Outside(text));
 }
 
 Trouble::Cause incorrect_item() {
@@ -61,47 +61,48 @@ Trouble bad_armour() {
     return {0, {{KOVRA_ERR_STREAM_PEM, kovra_igetStreamError(KOVRA_ERR_STREAM_PEM), "UTIL_Coding"}}};
 }
 
-std::string harmless(std::string text) {
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return static_cast<uint8_t>(c) < 0x20 || c == 0x7F; }, '?');
-    return text;
+Trouble no_memory(size_t octet) {
+    return {octet, {{KOVRA_ERR_NO_MEMORY, "memory is short", ""}}};
 }
 
-void Session::report(const std::string &place, const Trouble &trouble) {
+void Session::report(const Message &place, const Trouble &trouble) {
     out.flush();
     // Want of memory says nothing about the input.
     const bool is_short = trouble.chain.front().code == KOVRA_ERR_NO_MEMORY;
     status_ = std::max(status_, is_short ? Status::io : Status::malformed);
+    is_incomplete_ = is_incomplete_ || is_short;
     const Trouble::Cause &outermost = trouble.chain.back();
-    std::string text =
-        "kovra-asn1: " + place + ": octet " + std::to_string(origin_ + trouble.octet) + ": " + outermost.text;
-    text += outermost.code != 0 ? " (" + hexadecimal(outermost.code) + ")\n" : "\n";
+    Message text("kovra-asn1: ");
+    text += place + ": octet " + decimal(origin_ + trouble.octet) + ": " + Outside(outermost.text);
+    if (outermost.code != 0)
+        text += Message(" (") + hexadecimal(outermost.code) + ")";
+    text += "\n";
     if (!options.is_quiet && outermost.code != 0) {
         size_t width = 0;
         for (const Trouble::Cause &cause : trouble.chain)
             width = std::max(width, cause.text.size());
         for (const Trouble::Cause &cause : trouble.chain)
-            text += "  " + hexadecimal(cause.code) + " " + cause.text +
-                    std::string(width - cause.text.size() + 2, ' ') + cause.source + "\n";
+            text += Message("  ") + hexadecimal(cause.code) + " " + Outside(cause.text) +
+                    blanks(width - cause.text.size() + 2) + Outside(cause.source) + "\n";
     }
-    std::fputs(text.c_str(), stderr);
+    put_error(text);
 }
 
-void Session::report_file(const std::string &message) {
+void Session::report_file(std::string_view file, std::string_view reason) {
     out.flush();
     status_ = std::max(status_, Status::io);
-    std::fputs(("kovra-asn1: " + harmless(message) + "\n").c_str(), stderr);
+    put_error(Message("kovra-asn1: ") + Outside(file) + ": " + Outside(reason) + "\n");
 }
 
-void Session::for_each_file(const std::function<void(std::vector<uint8_t> &&, const std::string &)> &function) {
+void Session::for_each_file(const std::function<void(std::vector<uint8_t> &&, const Message &)> &function) {
     for (const std::string &file : options.files) {
         std::vector<uint8_t> octets;
         if (out.is_over())
             return;
         if (const std::string failure = read_file(file, octets); !failure.empty())
-            report_file(file + ": " + failure);
+            report_file(file, failure);
         else
-            function(std::move(octets), harmless(file));
+            function(std::move(octets), Message(Outside(file)));
     }
 }
 
@@ -118,22 +119,22 @@ void Session::for_each_item(const ForItem &function) {
             std::vector<uint8_t> octets;
             failure = read_file(file, octets);
             if (failure.empty())
-                for_each_of(Items(std::move(octets)), harmless(file), function);
+                for_each_of(Items(std::move(octets)), file, function);
         }
         if (!failure.empty())
-            report_file(file + ": " + failure);
+            report_file(file, failure);
     }
 }
 
 void Session::for_each_of(Items items, const std::string &file, const ForItem &function) {
     Item item;
+    Place place = {Message(Outside(file))};
     while (!out.is_over() && items.next(item)) {
-        const std::string place = file + "[" + std::to_string(item.number) + "]";
+        place.number = item.number;
         item.is_only = item.is_only && options.files.size() == 1;
-        item.label = harmless(item.label);
         origin_ = item.origin;
         if (item.is_bad_armour)
-            report(place, bad_armour());
+            report(place.text(), bad_armour());
         else
             function(item, place);
     }

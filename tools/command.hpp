@@ -53,8 +53,16 @@ Trouble explain(const Refusal &refusal, std::initializer_list<uint32_t> types);
 // The octets of a PEM block cannot be read.
 Trouble bad_armour();
 
-// Names of files and labels can hold anything; a terminal gets no control characters from them.
-std::string harmless(std::string text);
+// There is no memory for what stands at the octet.
+Trouble no_memory(size_t octet);
+
+// Where an item stands.
+struct Place {
+    Message file;
+    size_t number = 0; // from 1 on
+
+    [[nodiscard]] Message text() const { return file + "[" + decimal(number) + "]"; } // as in "file[2]"
+};
 
 // One run of the tool.
 class Session {
@@ -66,22 +74,25 @@ public:
 
     // Prints what is wrong to standard error, behind what was printed so far: a line "kovra-asn1: place: octet N: text
     // (code)" with the outermost text and code, and the chain below it.
-    void report(const std::string &place, const Trouble &trouble);
+    void report(const Message &place, const Trouble &trouble);
     // Prints that a file cannot be read or written.
-    void report_file(const std::string &message);
+    void report_file(std::string_view file, std::string_view reason);
+    // Something is missing in the output for want of memory.
+    [[nodiscard]] bool is_incomplete() const { return is_incomplete_; }
 
-    // Calls the function with every item of every file until the output is over, with the name "file[number]". Files
-    // that cannot be read and malformed PEM blocks are reported on the way. Items of a pipe are given as they come,
-    // with what was printed before them written out.
-    void for_each_item(const std::function<void(const Item &, const std::string &)> &function);
+    // Calls the function with every item of every file until the output is over, and where it stands. Files that cannot
+    // be read and malformed PEM blocks are reported on the way. Items of a pipe are given as they come, with what was
+    // printed before them written out.
+    using ForItem = std::function<void(const Item &, const Place &)>;
+    void for_each_item(const ForItem &function);
     // The same for whole files.
-    void for_each_file(const std::function<void(std::vector<uint8_t> &&, const std::string &)> &function);
+    void for_each_file(const std::function<void(std::vector<uint8_t> &&, const Message &)> &function);
 
 private:
-    using ForItem = std::function<void(const Item &, const std::string &)>;
     void for_each_of(Items items, const std::string &file, const ForItem &function);
 
     Status status_ = Status::good;
+    bool is_incomplete_ = false;
     size_t origin_ = 0; // of the item at hand
 };
 

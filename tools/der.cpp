@@ -60,7 +60,7 @@ Trouble trouble(size_t octet, const char *text) {
 }
 
 // Prints the encoding of one text; the octet and what is wrong there when it has none.
-void encode(Session &session, std::string_view all, size_t begin, size_t end, const std::string &place) {
+void encode(Session &session, std::string_view all, size_t begin, size_t end, const Message &place) {
     int64_t offset = 0;
     const std::unique_ptr<kovra_json, Free> value(
         kovra_json_parse(all.data() + begin, static_cast<int64_t>(end - begin), &offset));
@@ -69,20 +69,20 @@ void encode(Session &session, std::string_view all, size_t begin, size_t end, co
     const std::unique_ptr<kovra_data_blob, Free> encoding(kovra_asn1_encodejson(value.get()));
     if (encoding == nullptr)
         return session.report(place, trouble(begin, "not the description of a value"));
-    session.out.put({reinterpret_cast<const char *>(kovra_data_blob_getdata(encoding.get())),
-                     static_cast<size_t>(kovra_data_blob_getlength(encoding.get()))});
+    session.out.put_data({reinterpret_cast<const char *>(kovra_data_blob_getdata(encoding.get())),
+                          static_cast<size_t>(kovra_data_blob_getlength(encoding.get()))});
 }
 
 } // namespace
 
 void der(Session &session) {
-    session.for_each_file([&](std::vector<uint8_t> &&octets, const std::string &file) {
+    session.for_each_file([&](std::vector<uint8_t> &&octets, const Message &file) {
         const std::string_view text(reinterpret_cast<const char *>(octets.data()), octets.size());
         size_t begin = text_begin(text, 0);
         size_t number = 0;
         do {
             const size_t end = text_end(text, begin);
-            encode(session, text, begin, end, file + "[" + std::to_string(++number) + "]");
+            encode(session, text, begin, end, Place{file, ++number}.text());
             begin = text_begin(text, end);
         } while (begin < text.size() && !session.out.is_over());
     });

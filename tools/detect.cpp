@@ -5,6 +5,7 @@
 
 #include "element.hpp"
 #include "kovra/asn1.h"
+#include "tool_handles.hpp"
 
 namespace kovra::tool {
 
@@ -235,8 +236,7 @@ private:
 };
 
 bool decode(const Item &item, uint32_t type, Detected &out) {
-    const size_t whole = item.end - item.begin;
-    const int32_t size = whole <= INT32_MAX ? static_cast<int32_t>(whole) : 0;
+    const auto size = library_size(item.end - item.begin);
     out = {type, false, nullptr};
     const int32_t read = kovra_asn1_mem_decode(item.octets + item.begin, size, type, &out.value);
     out.is_good = read == size && size > 0;

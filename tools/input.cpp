@@ -8,7 +8,7 @@
 #include <memory>
 #include <string_view>
 
-#include "base/sizes.hpp"
+#include "base/thresholds.hpp"
 #include "element.hpp"
 #include "kovra/asn1.h"
 #include "kovra/util.h"
@@ -84,7 +84,7 @@ bool from_base64(const std::vector<uint8_t> &text, std::vector<uint8_t> &out) {
 
 // Are the first octets those of BER, whatever follows? Reads until that is known or unlikely.
 bool begins_as_ber(StandardInput &input, std::vector<uint8_t> &octets) {
-    constexpr size_t enough = 1 << 16;
+    constexpr auto enough = threshold<size_t>(1 << 16, 1);
     size_t seen = 0;
     while (octets.size() < enough && input.read(octets)) {
         const auto control = std::find_if(octets.begin() + static_cast<ptrdiff_t>(seen), octets.end(), is_control);
@@ -113,8 +113,9 @@ std::string read_file(const std::string &path, std::vector<uint8_t> &out) {
     const std::unique_ptr<FILE, decltype(close)> file(is_standard_input ? stdin : open_to_read(path), close);
     if (file == nullptr)
         return std::strerror(errno);
-    // Room for the whole file and an octet more, which shows that it ends; what cannot be positioned grows.
-    constexpr size_t first_piece = 1 << 16;
+    // Room for the whole file and an octet more, which shows that it ends; what cannot be positioned grows, and so does
+    // what has become longer meanwhile.
+    constexpr auto first_piece = threshold<size_t>(1 << 16, 1);
     size_t room = first_piece;
     if (!is_standard_input && std::fseek(file.get(), 0, SEEK_END) == 0) {
         if (const long end = std::ftell(file.get()); end > 0 && end < largest_trusted_size)
@@ -122,7 +123,7 @@ std::string read_file(const std::string &path, std::vector<uint8_t> &out) {
         std::rewind(file.get());
     }
     errno = 0;
-    for (size_t size = 0;; room = product(size, 2)) {
+    for (size_t size = 0;; room = next_capacity(size, size)) {
         out.resize(room);
         size += std::fread(out.data() + size, 1, out.size() - size, file.get());
         if (size == out.size())
@@ -203,7 +204,7 @@ bool Items::await_content() {
     int32_t length = 0;
     int32_t left = 0;
     constexpr int32_t more_input_needed = -100;
-    constexpr size_t largest_piece = 1 << 30;
+    constexpr auto largest_piece = threshold<size_t>(1 << 30, 1);
     const auto piece = [&] { return static_cast<int32_t>(std::min(octets.size() - taken, largest_piece)); };
     for (int32_t result = more_input_needed; result != 1;) {
         if (!await_octets(taken + 1))
@@ -235,7 +236,7 @@ bool Items::await_content() {
 void Items::await_element() {
     std::vector<uint8_t> &octets = chunk_.octets;
     // What was given goes, but for an octet: position 0 says that nothing was.
-    constexpr size_t worth_dropping = 1 << 20;
+    constexpr auto worth_dropping = threshold<size_t>(1 << 20, 1);
     if (position_ > worth_dropping && position_ > octets.size() / 2) {
         const size_t dropped = position_ - 1;
         octets.erase(octets.begin(), octets.begin() + static_cast<ptrdiff_t>(dropped));
@@ -245,7 +246,7 @@ void Items::await_element() {
     if (await_content())
         return;
     // Looking again only each time that the octets have doubled keeps the time linear where there are many.
-    constexpr size_t many = 4096;
+    constexpr auto many = threshold<size_t>(4096, 1);
     for (size_t more = 1; element_end(octets.data(), position_, octets.size(), Tags::all) == nowhere;) {
         if (!await_octets(octets.size() + more))
             return;

@@ -2,13 +2,14 @@
 
 #include <array>
 #include <charconv>
-#include <cstring>
 #include <memory>
 
+#include "base/thresholds.hpp"
 #include "command.hpp"
 #include "element.hpp"
 #include "kovra/asn1.h"
 #include "kovra/util.h"
+#include "tool_handles.hpp"
 
 namespace kovra::tool {
 
@@ -26,67 +27,64 @@ class Writer {
 public:
     static constexpr bool prints = true;
 
-    Writer(Output &out, int32_t indent) : out_(out), indent_(static_cast<size_t>(indent)) {
-        std::memset(new_line_, ' ', sizeof new_line_);
-        new_line_[0] = '\n';
-    }
+    Writer(Output &out, int32_t indent) : out_(out), indent_(static_cast<size_t>(indent)) {}
 
     [[nodiscard]] Output &out() { return out_; }
     [[nodiscard]] int32_t indent() const { return static_cast<int32_t>(indent_); }
 
     void begin_object() {
-        out_.put('{');
+        out_.put("{");
         ++depth_;
     }
     void end_object() {
         --depth_;
         new_line();
-        out_.put('}');
+        out_.put("}");
     }
     void begin_array() {
-        out_.put('[');
+        out_.put("[");
         ++depth_;
     }
     void end_array(bool is_empty) {
         --depth_;
         if (!is_empty)
             new_line();
-        out_.put(']');
+        out_.put("]");
     }
     // The name is given as it is printed on one line.
-    void first_name(std::string_view quoted) {
+    void first_name(Harmless quoted) {
         new_line();
         out_.put(quoted);
-        out_.put(indent_ > 0 ? std::string_view(": ") : std::string_view(":"));
+        out_.put(indent_ > 0 ? Harmless(": ") : ":");
     }
-    void name(std::string_view quoted) {
-        out_.put(',');
+    void name(Harmless quoted) {
+        out_.put(",");
         first_name(quoted);
     }
     void item(bool is_first) {
         if (!is_first)
-            out_.put(',');
+            out_.put(",");
         new_line();
     }
-    void type(std::string_view quoted) {
+    void type(Harmless quoted) {
         begin_object();
         first_name("\"type\"");
         out_.put(quoted);
     }
     void hex(const uint8_t *octets, size_t length) {
-        out_.put('"');
+        out_.put("\"");
         out_.put_hex(octets, length);
-        out_.put('"');
+        out_.put("\"");
     }
     // Text that was printed from level 0 with the same indent.
     void printed(std::string_view text) {
         if (indent_ == 0)
-            return out_.put(text);
+            return text_of_json(text);
         for (size_t at = 0; at < text.size();) {
             size_t end = text.find('\n', at);
             if (end == std::string_view::npos)
                 end = text.size();
-            out_.put(text.substr(at, end - at));
+            text_of_json(text.substr(at, end - at));
             if (end == text.size())
                 return;
             at = text.find_first_not_of(' ', end + 1);
@@ -97,26 +95,22 @@ public:
         }
     }
 
+    // What JSON text leaves to its strings and a terminal would act on is escaped.
+    void text_of_json(std::string_view text) { out_.put(Outside(text, Form::json)); }
+
 private:
     void new_line() {
         if (indent_ == 0)
             return;
-        const size_t blanks = indent_ * (depth_ < deepest_indent ? depth_ : deepest_indent);
-        char *out = out_.room(sizeof new_line_);
-        std::memcpy(out, new_line_, 1 + 32);
-        if (blanks > 32)
-            std::memcpy(out + 1 + 32, new_line_ + 1, blanks - 32);
-        out_.used(out + 1 + blanks);
+        out_.put_line(indent_ * (depth_ < deepest_indent ? depth_ : deepest_indent));
     }
 
     // As the library prints: deeper levels are indented no further.
     static constexpr size_t deepest_indent = 64;
-    static constexpr size_t widest_indent = 16;
 
     Output &out_;
     size_t indent_;
     size_t depth_ = 0;
-    char new_line_[1 + deepest_indent * widest_indent];
 };
 
 struct Free {
@@ -254,7 +248,7 @@ private:
             return tagged(header, limit);
         if (header.tag == sequence || header.tag == set) {
             if constexpr (Printer::prints) {
-                to_.type(header.tag == sequence ? "\"SEQUENCE\"" : "\"SETOF\"");
+                to_.type(header.tag == sequence ? Harmless("\"SEQUENCE\"") : "\"SETOF\"");
                 to_.name("\"value\"");
                 to_.begin_array();
             }
@@ -295,7 +289,7 @@ private:
         if (!is_explicit)
             return whole("\"ANY\"", limit);
         if constexpr (Printer::prints) {
-            constexpr std::string_view classes[] = {"\"UNIVERSAL\"", "\"APPLICATION\"", "\"CONTEXT\"", "\"PRIVATE\""};
+            constexpr Harmless classes[] = {"\"UNIVERSAL\"", "\"APPLICATION\"", "\"CONTEXT\"", "\"PRIVATE\""};
             to_.type("\"TAGGEDTYPE\"");
             to_.name("\"class\"");
             to_.out().put(classes[header.lead >> 6]);
@@ -310,7 +304,7 @@ private:
     }
 
     // An element that is written as it stands.
-    bool whole(std::string_view type, size_t limit) {
+    bool whole(Harmless type, size_t limit) {
         const size_t end = element_end(octets_, at_, limit, Tags::possible);
         if (end == nowhere)
             return refuse(at_, limit, KOVRA_ASN1_TYPE_ANY);
@@ -338,9 +332,9 @@ private:
         case 3:
             return bits(content, length);
         case 5:
-            return length == 0 && text_value("\"NULL\"", {}, "");
+            return length == 0 && word_value("\"NULL\"", {});
         case 1:
-            return length == 1 && text_value("\"BOOLEAN\"", content[0] != 0 ? "true" : "false", "");
+            return length == 1 && word_value("\"BOOLEAN\"", content[0] != 0 ? Harmless("true") : "false");
         case 6:
             return oid(content, length);
         case 12:
@@ -360,7 +354,7 @@ private:
         }
     }
 
-    bool hex_value(std::string_view type, const uint8_t *octets, size_t length) {
+    bool hex_value(Harmless type, const uint8_t *octets, size_t length) {
         if constexpr (Printer::prints) {
             to_.type(type);
             to_.name("\"value\"");
@@ -370,23 +364,33 @@ private:
         return true;
     }
 
-    bool text_value(std::string_view type, std::string_view text, std::string_view quote) {
+    bool word_value(Harmless type, Harmless word) {
         if constexpr (Printer::prints) {
             to_.type(type);
-            if (text.data() != nullptr) {
+            if (!word.empty()) {
                 to_.name("\"value\"");
-                to_.out().put(quote);
-                to_.out().put(text);
-                to_.out().put(quote);
+                to_.out().put(word);
             }
             to_.end_object();
         }
         return true;
     }
 
-    bool plain_text(std::string_view type, const uint8_t *octets, const Header &header) {
+    bool text_value(Harmless type, std::string_view text) {
+        if constexpr (Printer::prints) {
+            to_.type(type);
+            to_.name("\"value\"");
+            to_.out().put("\"");
+            to_.text_of_json(text);
+            to_.out().put("\"");
+            to_.end_object();
+        }
+        return true;
+    }
+
+    bool plain_text(Harmless type, const uint8_t *octets, const Header &header) {
         return is_plain_text(octets, header.length, header.tag) &&
-               text_value(type, {reinterpret_cast<const char *>(octets), header.length}, "\"");
+               text_value(type, {reinterpret_cast<const char *>(octets), header.length});
     }
 
     bool bits(const uint8_t *content, size_t length) {
@@ -408,7 +412,7 @@ private:
 
     bool oid(const uint8_t *content, size_t length) {
         // Arcs of four octets or less; rarer ones are the library's.
-        constexpr size_t longest = 64;
+        constexpr auto longest = threshold<size_t>(64, 2);
         char text[longest * 4];
         char *end = text;
         if (length == 0 || length > longest || content[length - 1] >= 0x80)
@@ -431,10 +435,10 @@ private:
             *end++ = '.';
             end = std::to_chars(end, text + sizeof text, arc).ptr;
         }
-        return text_value("\"OID\"", {text, static_cast<size_t>(end - text)}, "\"");
+        return text_value("\"OID\"", {text, static_cast<size_t>(end - text)});
     }
 
-    bool time(std::string_view type, const uint8_t *text, size_t length, bool is_short) {
+    bool time(Harmless type, const uint8_t *text, size_t length, bool is_short) {
         Moment moment{};
         if (!read_plain_time(text, length, is_short, moment))
             return false;
@@ -445,7 +449,7 @@ private:
             to_.first_name("\"year\"");
             to_.out().put_number(moment.year);
             const struct {
-                std::string_view name;
+                Harmless name;
                 uint32_t number;
             } fields[] = {{"\"month\"", moment.month},
                           {"\"day\"", moment.day},
@@ -457,7 +461,7 @@ private:
                 to_.out().put_number(number);
             }
             to_.name("\"ns\"");
-            to_.out().put('0');
+            to_.out().put("0");
             to_.name("\"utc\"");
             to_.out().put("true");
             to_.end_object();
@@ -471,8 +475,7 @@ private:
         const size_t end = element_end(octets_, at_, limit, Tags::possible);
         if (end == nowhere)
             return refuse(at_, limit, KOVRA_ASN1_TYPE_ANY);
-        const std::unique_ptr<kovra_json, Free> value(
-            kovra_asn1_tojson(octets_ + at_, static_cast<int32_t>(end - at_)));
+        const std::unique_ptr<kovra_json, Free> value(kovra_asn1_tojson(octets_ + at_, library_size(end - at_)));
         if (value == nullptr)
             return refuse(at_, end, type);
         if constexpr (Printer::prints) {
@@ -499,14 +502,17 @@ private:
 } // namespace
 
 void json(Session &session) {
-    session.for_each_item([&](const Item &item, const std::string &place) {
+    session.for_each_item([&](const Item &item, const Place &place) {
         NoWriter nothing;
         Description check(item, nothing);
         if (!check.run())
-            return session.report(place, explain(check.refusal(), {KOVRA_ASN1_TYPE_ANY, check.refused_type()}));
+            return session.report(place.text(), explain(check.refusal(), {KOVRA_ASN1_TYPE_ANY, check.refused_type()}));
         Writer writer(session.out, session.options.indent);
-        Description(item, writer).run();
-        session.out.put('\n');
+        const bool is_whole = Description(item, writer).run();
+        session.out.put("\n");
+        // What can be described once lacks only memory the second time.
+        if (!is_whole)
+            session.report(place.text(), no_memory(item.begin));
     });
 }
 

@@ -4,9 +4,9 @@
 
 #include <algorithm>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <sstream>
 
 #include "command.hpp"
 #include "platform.hpp"
@@ -81,6 +81,35 @@ bool is_colored(const Arguments &arguments, const Output &out, const Terminal &t
            (arguments.color == "auto" && !is_unwanted && out.is_terminal() && terminal.takes_escapes());
 }
 
+// What the parser says, a value in it on one line.
+std::string one_line(const CLI::App *app, const CLI::Error &error) {
+    const Message text{Outside(error.what())};
+    return CLI::FailureMessage::simple(
+        app, CLI::Error(error.get_name(), std::string(Harmless(text).view()), error.get_exit_code()));
+}
+
+// Prints help, or why the arguments are not understood.
+Status explain(CLI::App &app, const CLI::ParseError &error, Output &out) {
+    std::ostringstream help;
+    std::ostringstream refusal;
+    app.failure_message(one_line);
+    const bool is_good = app.exit(error, help, refusal) == 0;
+    const std::string text = is_good ? help.str() : refusal.str();
+    Message lines;
+    for (size_t at = 0; at < text.size();) {
+        const size_t end = std::min(text.find('\n', at), text.size());
+        lines += Outside(std::string_view(text).substr(at, end - at));
+        lines += end < text.size() ? Harmless("\n") : "";
+        at = end + 1;
+    }
+    if (is_good)
+        out.put(lines);
+    else
+        put_error(lines);
+    out.flush();
+    return is_good ? Status::good : Status::usage;
+}
+
 int run(std::vector<std::string> given) {
     const Terminal terminal;
     Session session;
@@ -95,7 +124,7 @@ int run(std::vector<std::string> given) {
         std::reverse(given.begin(), given.end());
         app.parse(std::move(given));
     } catch (const CLI::ParseError &error) {
-        return static_cast<int>(app.exit(error) == 0 ? Status::good : Status::usage);
+        return static_cast<int>(explain(app, error, session.out));
     }
     if (arguments.is_compact)
         session.options.indent = 0;
@@ -103,12 +132,12 @@ int run(std::vector<std::string> given) {
         session.options.type = find_type(arguments.type);
     if (session.options.files.empty())
         session.options.files.emplace_back("-");
-    session.out.set_path(arguments.out);
+    session.out.set_path(arguments.out, session.options.has_secrets);
     session.options.is_colored = is_colored(arguments, session.out, terminal);
     chosen->run(session);
-    session.out.finish(session.status() == Status::good);
+    session.out.finish(session.status() == Status::good, !session.is_incomplete());
     if (!session.out.failure().empty())
-        session.report_file(session.out.failure());
+        session.report_file(session.out.name(), session.out.failure());
     return static_cast<int>(session.status());
 }
 
@@ -123,7 +152,7 @@ int main(int argc, char **argv) {
         return run(utf8_arguments(argc, argv));
     } catch (const std::exception &) {
         // No memory for it, or more than a vector can hold where addresses have 32 bits: nothing else is thrown.
-        std::fputs("kovra-asn1: memory is short\n", stderr);
+        put_error("kovra-asn1: memory is short\n");
         return static_cast<int>(Status::io);
     }
 }

@@ -9,7 +9,7 @@ namespace {
 
 struct OidName {
     std::string_view dotted;
-    std::string_view name;
+    Harmless name;
 };
 
 // In the order of the texts.
@@ -421,11 +421,11 @@ static_assert(std::is_sorted(std::begin(names), std::end(names),
 
 } // namespace
 
-std::string_view oid_name(std::string_view dotted) {
+Harmless oid_name(std::string_view dotted) {
     const auto *found =
         std::lower_bound(std::begin(names), std::end(names), dotted,
                          [](const OidName &entry, std::string_view text) { return entry.dotted < text; });
-    return found != std::end(names) && found->dotted == dotted ? found->name : std::string_view();
+    return found != std::end(names) && found->dotted == dotted ? found->name : Harmless();
 }
 
 } // namespace kovra::tool

@@ -3,9 +3,11 @@
 
 #include <string_view>
 
+#include "text.hpp"
+
 namespace kovra::tool {
 
 // The name of a dotted identifier; empty when it is not a usual one.
-std::string_view oid_name(std::string_view dotted);
+Harmless oid_name(std::string_view dotted);
 
 } // namespace kovra::tool

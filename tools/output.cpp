@@ -1,92 +1,89 @@
 #include "output.hpp"
 
-#include <algorithm>
 #include <cerrno>
 #include <charconv>
-#include <cstring>
+#include <cstdio>
 
 #include "platform.hpp"
-
-#include <fcntl.h>
-#if defined(_WIN32)
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
 
 namespace kovra::tool {
 
 namespace {
 
-#if defined(_WIN32)
-int close_file(int file) {
-    return _close(file);
-}
-long write_file(int file, const char *octets, size_t size) {
-    return _write(file, octets, static_cast<unsigned>(size));
-}
-void set_binary(int file) {
-    _setmode(file, _O_BINARY);
-}
-#else
-int close_file(int file) {
-    return ::close(file);
-}
-long write_file(int file, const char *octets, size_t size) {
-    return static_cast<long>(::write(file, octets, size));
-}
-void set_binary(int) {}
-#endif
-
 constexpr size_t number_digits = 20;
+
+// Text that is not known to be harmless is printed through Outside only.
+template <class Text>
+concept printable = requires(Output &out, Text text) {
+    out.put(text);
+};
+static_assert(printable<Harmless> && printable<Outside> && printable<Message>);
+static_assert(!printable<std::string> && !printable<std::string_view>);
 
 } // namespace
 
-Output::~Output() {
-    if (file_ > standard_output)
-        close_file(file_);
+void put_error(Harmless text) {
+    // Nowhere is left to tell a failure.
+    static_cast<void>(std::fwrite(text.view().data(), 1, text.size(), stderr));
 }
 
-void Output::put_number(uint64_t number) {
-    char *out = room(number_digits);
-    used(std::to_chars(out, out + number_digits, number).ptr);
+size_t Output::put(Outside text) {
+    for (Harmless piece; text.next(piece);)
+        put(piece);
+    return text.taken();
+}
+
+void Output::put_number(uint64_t number, int base) {
+    put_filled<number_digits>([=](char *out) { return std::to_chars(out, out + number_digits, number, base).ptr; });
+}
+
+void Output::put_digits(uint64_t number, size_t count) {
+    char digits[number_digits];
+    const auto size = static_cast<size_t>(std::to_chars(digits, digits + number_digits, number).ptr - digits);
+    for (size_t i = size; i < count; ++i)
+        put("0");
+    put_data({digits, size});
 }
 
 void Output::put_right(uint64_t number, size_t width) {
     char digits[number_digits];
-    const auto count = static_cast<size_t>(std::to_chars(digits, digits + number_digits, number).ptr - digits);
-    const size_t blanks = width > count ? width - count : 0;
-    char *out = room(blanks + count);
-    std::memset(out, ' ', blanks);
-    std::memcpy(out + blanks, digits, count);
-    used(out + blanks + count);
+    const auto size = static_cast<size_t>(std::to_chars(digits, digits + number_digits, number).ptr - digits);
+    put_blanks(width > size ? width - size : 0);
+    put_data({digits, size});
 }
 
-void Output::fill(char character, size_t count) {
-    for (size_t piece = 0; count != 0; count -= piece) {
-        piece = std::min(count, largest_room);
-        char *out = room(piece);
-        std::memset(out, character, piece);
-        used(out + piece);
-    }
+void Output::put_blanks(size_t count) {
+    constexpr size_t piece = 32;
+    for (; count >= piece; count -= piece)
+        put("                                ");
+    if (count != 0)
+        put_filled<piece>([=](char *out) {
+            std::memset(out, ' ', piece);
+            return out + count;
+        });
 }
 
 void Output::put_hex(const uint8_t *octets, size_t length) {
     static constexpr char digits[] = "0123456789abcdef";
+    constexpr auto most = threshold<size_t>(2048, 1);
     for (size_t piece = 0; length != 0; length -= piece, octets += piece) {
-        piece = std::min(length, largest_room / 2);
-        char *out = room(piece * 2);
-        for (size_t i = 0; i < piece; ++i) {
-            *out++ = digits[octets[i] >> 4];
-            *out++ = digits[octets[i] & 0x0F];
-        }
-        used(out);
+        piece = std::min(length, most);
+        put_filled<2 * most>([=](char *out) {
+            for (size_t i = 0; i < piece; ++i) {
+                *out++ = digits[octets[i] >> 4];
+                *out++ = digits[octets[i] & 0x0F];
+            }
+            return out;
+        });
     }
 }
 
-void Output::put_long(std::string_view text) {
+void Output::put_long(std::string_view octets) {
     flush();
-    write(text.data(), text.size());
+    if (octets.size() < capacity)
+        used_ = octets.copy(buffer_.get(), octets.size());
+    else
+        write(octets.data(), octets.size());
 }
 
 void Output::flush() {
@@ -94,25 +91,23 @@ void Output::flush() {
     used_ = 0;
 }
 
-void Output::finish(bool may_be_empty) {
+void Output::finish(bool may_be_empty, bool is_whole) {
     flush();
-    if (file_ < 0 && may_be_empty)
+    if (file_ < 0 && may_be_empty && is_whole)
         open();
-    if (file_ > standard_output) {
-        if (close_file(file_) != 0 && failure_.empty())
-            fail();
-        file_ = standard_output;
-    }
+    if (!path_.empty() && file_ >= 0 && is_whole && !is_over_)
+        if (const std::error_code error = out_file_.finish())
+            fail(error);
+    out_file_.discard();
+    file_ = standard_output;
 }
 
 void Output::open() {
     if (is_over_)
         return;
-    file_ = path_.empty() ? standard_output : open_to_write(path_);
+    file_ = path_.empty() ? standard_output : out_file_.open(path_, is_private_);
     if (file_ < 0)
-        fail();
-    else
-        set_binary(file_);
+        fail({errno, std::generic_category()});
     is_on_terminal_ = file_ >= 0 && is_terminal();
 }
 
@@ -120,7 +115,7 @@ void Output::write(const char *octets, size_t size) {
     if (size != 0 && file_ < 0)
         open();
     // The largest piece that every system takes at once.
-    constexpr size_t largest_piece = 1 << 30;
+    constexpr auto largest_piece = threshold<size_t>(1 << 30, 2);
     while (size != 0 && !is_over_) {
         const size_t piece = std::min(size, largest_piece);
         const long written = is_on_terminal_ ? write_to_terminal(octets, piece) : write_file(file_, octets, piece);
@@ -128,21 +123,21 @@ void Output::write(const char *octets, size_t size) {
             octets += written;
             size -= static_cast<size_t>(written);
         } else if (errno != EINTR) {
-            fail();
+            fail({errno, std::generic_category()});
         }
     }
 }
 
-void Output::fail() {
+void Output::fail(std::error_code error) {
     is_over_ = true;
 #if defined(_WIN32)
     // A pipe that nobody reads any more reports this.
-    const bool is_closed_pipe = errno == EPIPE || errno == EINVAL;
+    const bool is_closed_pipe = error.value() == EPIPE || error.value() == EINVAL;
 #else
-    const bool is_closed_pipe = errno == EPIPE;
+    const bool is_closed_pipe = error.value() == EPIPE;
 #endif
     if (!is_closed_pipe)
-        failure_ = (path_.empty() ? "standard output" : path_) + ": " + std::strerror(errno);
+        failure_ = error.message();
 }
 
 bool Output::is_terminal() const {

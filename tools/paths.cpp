@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 class Walk {
 public:
-    explicit Walk(const std::function<void(const std::string &)> &fail) : fail_(fail) {}
+    explicit Walk(const std::function<void(std::string_view, std::string_view)> &fail) : fail_(fail) {}
 
     void named(const std::string &path) {
         std::error_code error;
@@ -41,7 +41,7 @@ private:
         for (fs::directory_iterator entry(path, error), end; !error && entry != end; entry.increment(error))
             entries.push_back(*entry);
         if (error)
-            fail_(utf8_text(path) + ": " + error.message());
+            fail_(utf8_text(path), error.message());
         std::sort(entries.begin(), entries.end());
         for (const fs::directory_entry &entry : entries) {
             const bool is_link = entry.is_symlink(error);
@@ -53,13 +53,13 @@ private:
         }
     }
 
-    const std::function<void(const std::string &)> &fail_;
+    const std::function<void(std::string_view, std::string_view)> &fail_;
 };
 
 } // namespace
 
 std::vector<FoundFile> find_files(const std::vector<std::string> &paths,
-                                  const std::function<void(const std::string &)> &fail) {
+                                  const std::function<void(std::string_view, std::string_view)> &fail) {
     Walk walk(fail);
     for (const std::string &path : paths)
         walk.named(path);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kovra::tool {
@@ -16,8 +17,8 @@ struct FoundFile {
 
 // The files that paths stand for: a directory for all files in it and in those below it, in the order of their names.
 // Symbolic links to files are followed, those to directories only when they are named. Directories that cannot be read
-// are told to `fail` with what the system says.
+// are told to `fail`, with what the system says.
 std::vector<FoundFile> find_files(const std::vector<std::string> &paths,
-                                  const std::function<void(const std::string &)> &fail);
+                                  const std::function<void(std::string_view, std::string_view)> &fail);
 
 } // namespace kovra::tool

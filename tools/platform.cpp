@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cerrno>
 
+#include "base/thresholds.hpp"
+
 #include <fcntl.h>
 
 #if defined(_WIN32)
@@ -17,6 +19,8 @@
 
 #include <shellapi.h>
 #else
+#include <csignal>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -76,9 +80,39 @@ FILE *open_to_read(const std::string &utf8_path) {
     return _wfopen(native_path(utf8_path).c_str(), L"rb");
 }
 
-int open_to_write(const std::string &utf8_path) {
-    return _wopen(native_path(utf8_path).c_str(), _O_WRONLY | _O_CREAT | _O_TRUNC | _O_BINARY | _O_NOINHERIT,
-                  _S_IREAD | _S_IWRITE);
+int open_to_write(const fs::path &path) {
+    return _wopen(path.c_str(), _O_WRONLY | _O_BINARY | _O_NOINHERIT);
+}
+
+int create_file(const fs::path &path, bool) {
+    return _wopen(path.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
+}
+
+long write_file(int file, const char *octets, size_t size) {
+    return _write(file, octets, static_cast<unsigned>(size));
+}
+
+int close_file(int file) {
+    return _close(file);
+}
+
+bool empty_file(int file) {
+    return _chsize_s(file, 0) == 0;
+}
+
+bool make_private(int) {
+    return true;
+}
+
+bool take_after(int, const fs::path &) {
+    return true;
+}
+
+void remove_if_ended(const fs::path *) {}
+
+bool is_file(int file) {
+    struct _stat status {};
+    return _fstat(file, &status) == 0 && (status.st_mode & _S_IFMT) == _S_IFREG;
 }
 
 bool is_terminal(int file) {
@@ -109,7 +143,7 @@ Terminal::~Terminal() {
 
 long write_to_terminal(const char *octets, size_t size) {
     static std::string begun; // of the character that the last piece ended in
-    constexpr size_t largest_piece = 8192;
+    constexpr auto largest_piece = threshold<size_t>(8192, 1);
     const size_t taken = std::min(size, largest_piece);
     std::string text = begun + std::string(octets, taken);
     begun = text.substr(text.size() - unfinished(text));
@@ -137,8 +171,61 @@ FILE *open_to_read(const std::string &utf8_path) {
     return std::fopen(utf8_path.c_str(), "rb");
 }
 
-int open_to_write(const std::string &utf8_path) {
-    return ::open(utf8_path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+int open_to_write(const fs::path &path) {
+    return ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+}
+
+int create_file(const fs::path &path, bool is_open_to_all) {
+    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, is_open_to_all ? 0666 : 0600);
+}
+
+long write_file(int file, const char *octets, size_t size) {
+    return static_cast<long>(::write(file, octets, size));
+}
+
+int close_file(int file) {
+    return ::close(file);
+}
+
+bool empty_file(int file) {
+    return ::ftruncate(file, 0) == 0;
+}
+
+bool make_private(int file) {
+    return ::fchmod(file, 0600) == 0;
+}
+
+bool take_after(int file, const fs::path &path) {
+    struct stat old {};
+    struct stat fresh {};
+    return ::stat(path.c_str(), &old) == 0 && ::fstat(file, &fresh) == 0 && old.st_nlink == 1 &&
+           old.st_uid == fresh.st_uid && old.st_gid == fresh.st_gid && ::fchmod(file, old.st_mode & 0777) == 0;
+}
+
+namespace {
+
+constexpr int ending_signals[] = {SIGHUP, SIGINT, SIGTERM};
+const char *volatile unfinished_file = nullptr;
+
+extern "C" void remove_and_end(int signal) {
+    if (const char *path = unfinished_file; path != nullptr)
+        ::unlink(path);
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+}
+
+} // namespace
+
+void remove_if_ended(const fs::path *path) {
+    unfinished_file = path != nullptr ? path->c_str() : nullptr;
+    for (const int signal : ending_signals)
+        if (path != nullptr && std::signal(signal, remove_and_end) == SIG_IGN)
+            std::signal(signal, SIG_IGN);
+}
+
+bool is_file(int file) {
+    struct stat status {};
+    return ::fstat(file, &status) == 0 && S_ISREG(status.st_mode);
 }
 
 bool is_terminal(int file) {

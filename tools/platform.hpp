@@ -15,10 +15,24 @@ std::string utf8_text(const std::filesystem::path &path);
 // The arguments of the program, its name first.
 std::vector<std::string> utf8_arguments(int argc, char **argv);
 
-// Both are in binary mode; null and -1 with errno set when the file cannot be opened.
+// Files are in binary mode. Null, -1 and false: what is wrong is in errno.
 FILE *open_to_read(const std::string &utf8_path);
-int open_to_write(const std::string &utf8_path);
+// Opens what is there, whatever it is, and leaves it as it is.
+int open_to_write(const std::filesystem::path &path);
+// Makes a file that is not there yet, for its owner alone unless it is open to all that the user lets in.
+int create_file(const std::filesystem::path &path, bool is_open_to_all);
+long write_file(int file, const char *octets, size_t size);
+int close_file(int file);
+bool empty_file(int file);
+// Takes the rights of all others away, where the system knows such.
+bool make_private(int file);
+// Gives the file the mode of the one at the path. False when it would not be the same to all who know that one: it has
+// other names, or another owner or group.
+bool take_after(int file, const std::filesystem::path &path);
+// The file is removed when a signal ends the tool, until the call with null. The path has to live so long.
+void remove_if_ended(const std::filesystem::path *path);
 
+bool is_file(int file); // else it is a device, a pipe ...
 bool is_terminal(int file);
 
 // While it lives the terminal takes UTF-8 and, where it can, escape sequences. Line ends are the same on all systems.

@@ -1,10 +1,8 @@
 #include "progress.hpp"
 
-#include <algorithm>
-#include <cstdio>
-#include <string>
-
+#include "output.hpp"
 #include "platform.hpp"
+#include <algorithm>
 
 namespace kovra::tool {
 
@@ -22,16 +20,17 @@ void Progress::step(uint64_t done, size_t files) {
     constexpr size_t width = 40;
     const double share = static_cast<double>(std::min(done, total_)) / static_cast<double>(total_);
     const auto filled = static_cast<size_t>(share * static_cast<double>(width));
-    std::string bar(filled, '#');
-    bar.resize(width, ' ');
-    std::fprintf(stderr, "\r[%s] %3d%%  %zu files", bar.c_str(), static_cast<int>(share * 100), files);
-    std::fflush(stderr);
+    Message bar("\r[");
+    for (size_t i = 0; i < width; ++i)
+        bar += i < filled ? Harmless("#") : " ";
+    const Message percent = decimal(static_cast<uint64_t>(share * 100));
+    put_error(bar + "] " + blanks(3 - percent.size()) + percent + "%  " + decimal(files) + " files");
     is_shown_ = true;
 }
 
 void Progress::erase() {
     if (is_shown_)
-        std::fputs("\r\x1b[K", stderr);
+        put_error("\r\x1b[K");
     is_shown_ = false;
 }
 

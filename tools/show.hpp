@@ -15,36 +15,36 @@ namespace kovra::tool {
 // Prints lines: indentation, a label with a colon, and the value in a column of its own.
 class Printer {
 public:
-    Printer(Session &session, std::string place) : out(session.out), session_(session), place_(std::move(place)) {}
+    Printer(Session &session, Message place) : out(session.out), session_(session), place_(std::move(place)) {}
 
     Output &out;
 
     // Begins a line; the caller prints the value, and ends the line.
-    void begin(std::string_view label) { begin(label, value_column); }
-    void end() { out.put('\n'); }
-    void field(std::string_view label, std::string_view value);
+    void begin(Harmless label) { begin(label, value_column); }
+    void end() { out.put("\n"); }
+    void field(Harmless label, Harmless value);
     // A line without a value, for what follows in the lines below it.
-    void heading(std::string_view label);
-    void blanks() { out.fill(' ', indent_); }
+    void heading(Harmless label);
+    void blanks() { out.put_blanks(indent_); }
 
     // Octets in hexadecimal, long ones cut.
     void hex(std::string_view octets);
     // A line of such.
-    void hex(std::string_view label, std::string_view octets);
+    void hex(Harmless label, std::string_view octets);
     // The octets of one element: on one line when it is primitive, else as a tree below the label.
-    void element(std::string_view label, std::string_view octets);
+    void element(Harmless label, std::string_view octets);
     // An element as a tree, indented like a line.
     void tree(std::string_view octets);
 
     // A line with octets that are not of the type, which standard error explains. `what` says in words what they are.
-    void malformed(std::string_view what, uint32_t type, std::string_view octets);
+    void malformed(Harmless what, uint32_t type, std::string_view octets);
     // The same of octets that may be private.
-    void malformed_secret(std::string_view what, uint32_t type, std::string_view octets);
+    void malformed_secret(Harmless what, uint32_t type, std::string_view octets);
 
     // Are private keys shown? Else their sizes are.
     [[nodiscard]] bool has_secrets() const { return session_.options.has_secrets; }
     // A line with octets that are private.
-    void secret(std::string_view label, std::string_view octets);
+    void secret(Harmless label, std::string_view octets);
     [[nodiscard]] bool is_full() const { return session_.options.is_full; }
 
     // The type of what stands in content of type data, where that is known: in stores of keys.
@@ -70,11 +70,11 @@ private:
     static constexpr size_t step = 2;
     static constexpr size_t value_column = 28;
 
-    void begin(std::string_view label, size_t column);
-    void report(std::string_view what, uint32_t type, std::string_view octets);
+    void begin(Harmless label, size_t column);
+    void report(Harmless what, uint32_t type, std::string_view octets);
 
     Session &session_;
-    std::string place_;
+    Message place_;
     size_t indent_ = 0;
 };
 
@@ -105,7 +105,7 @@ std::string bits_of(kovra_asn1_value *bit_string);
 std::string integer_octets(const kovra_asn1_value *integer);
 std::string encoding_of(uint32_t type, const kovra_asn1_value *value);
 std::string_view text_of_oid(const kovra_asn1_value *oid);
-std::string_view name_of_oid(const kovra_asn1_value *oid);
+Message name_of_oid(const kovra_asn1_value *oid);
 
 template <class Function> void for_each(kovra_asn1_value *list, Function function) {
     kovra_asn1_value *element = nullptr;
@@ -120,30 +120,29 @@ void put_serial(Printer &printer, const kovra_asn1_value *integer);  // hexadeci
 void put_time(Printer &printer, const kovra_asn1_value *value);
 void put_unquoted(Printer &printer, std::string_view text);
 void put_quoted(Printer &printer, uint32_t tag, std::string_view octets);
-void put_bits(Printer &printer, kovra_asn1_value *bit_string, std::span<const std::string_view> names);
+void put_bits(Printer &printer, kovra_asn1_value *bit_string, std::span<const Harmless> names);
 // The name of a number, and the number itself where it has none.
-void put_named(Printer &printer, const kovra_asn1_value *integer, std::span<const std::string_view> names);
+void put_named(Printer &printer, const kovra_asn1_value *integer, std::span<const Harmless> names);
 void put_name(Printer &printer, const kovra_asn1_value *name);
 void put_relative_name(Printer &printer, kovra_asn1_value *rdn);
 void put_address(Printer &printer, std::string_view octets);
 void put_general_name(Printer &printer, const kovra_asn1_value *name);
-std::string_view kind_of_general_name(const kovra_asn1_value *name);
+Harmless kind_of_general_name(const kovra_asn1_value *name);
 
 // Lines with a label, nothing for null.
-void show_integer(Printer &printer, std::string_view label, kovra_asn1_value *integer);
-void show_serial(Printer &printer, std::string_view label, kovra_asn1_value *integer);
-void show_time(Printer &printer, std::string_view label, kovra_asn1_value *time);
-void show_name(Printer &printer, std::string_view label, kovra_asn1_value *name);
-void show_any(Printer &printer, std::string_view label, kovra_asn1_value *any);
-void show_bits(Printer &printer, std::string_view label, kovra_asn1_value *bit_string,
-               std::span<const std::string_view> names);
-void show_text(Printer &printer, std::string_view label, uint32_t tag, kovra_asn1_value *string);
-void show_algorithm(Printer &printer, std::string_view label, kovra_asn1_value *algorithm);
-void show_general_names(Printer &printer, std::string_view label, kovra_asn1_value *names);
+void show_integer(Printer &printer, Harmless label, kovra_asn1_value *integer);
+void show_serial(Printer &printer, Harmless label, kovra_asn1_value *integer);
+void show_time(Printer &printer, Harmless label, kovra_asn1_value *time);
+void show_name(Printer &printer, Harmless label, kovra_asn1_value *name);
+void show_any(Printer &printer, Harmless label, kovra_asn1_value *any);
+void show_bits(Printer &printer, Harmless label, kovra_asn1_value *bit_string, std::span<const Harmless> names);
+void show_text(Printer &printer, Harmless label, uint32_t tag, kovra_asn1_value *string);
+void show_algorithm(Printer &printer, Harmless label, kovra_asn1_value *algorithm);
+void show_general_names(Printer &printer, Harmless label, kovra_asn1_value *names);
 
 // Names of the bits of ReasonFlags and of the numbers of CRLReason.
-std::span<const std::string_view> reason_flags();
-std::span<const std::string_view> crl_reasons();
+std::span<const Harmless> reason_flags();
+std::span<const Harmless> crl_reasons();
 
 // Versions are counted from 0; one that is absent is version 1.
 void show_version(Printer &printer, const kovra_asn1_value *version);

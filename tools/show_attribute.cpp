@@ -8,7 +8,7 @@ namespace kovra::tool {
 void show_attribute(Printer &printer, kovra_asn1_value *attribute) {
     const kovra_asn1_value *oid = kovra_x500attribute_gettype(attribute);
     const OidRow *row = printer.is_deep() ? nullptr : find_attribute(text_of_oid(oid));
-    const std::string_view name = name_of_oid(oid);
+    const Message name = name_of_oid(oid);
     printer.heading(name);
     const Printer::Deeper deeper(printer);
     for_each(kovra_x500attribute_getvalue(attribute), [&](kovra_asn1_value *any) {

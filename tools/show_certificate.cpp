@@ -14,12 +14,12 @@ void show_signature(Printer &printer, kovra_asn1_value *inner, kovra_asn1_value 
     printer.hex("signature", bits_of(value));
 }
 
-void show_unique_id(Printer &printer, std::string_view label, kovra_asn1_value *identifier) {
+void show_unique_id(Printer &printer, Harmless label, kovra_asn1_value *identifier) {
     if (identifier != nullptr)
         printer.hex(label, bits_of(identifier));
 }
 
-void show_certificate(Printer &printer, std::string_view label, kovra_asn1_value *certificate) {
+void show_certificate(Printer &printer, Harmless label, kovra_asn1_value *certificate) {
     if (certificate == nullptr)
         return;
     printer.heading(label);
@@ -57,8 +57,8 @@ void show_version(Printer &printer, const kovra_asn1_value *version) {
     printer.end();
 }
 
-std::span<const std::string_view> crl_reasons() {
-    static constexpr std::string_view reasons[] = {
+std::span<const Harmless> crl_reasons() {
+    static constexpr Harmless reasons[] = {
         "unspecified",   "keyCompromise",        "cACompromise",    "affiliationChanged",
         "superseded",    "cessationOfOperation", "certificateHold", "",
         "removeFromCRL", "privilegeWithdrawn",   "aACompromise"};

@@ -16,11 +16,11 @@ bool is_true(const kovra_asn1_value *value) {
 }
 
 // Octets of known meaning, as shown; unknown and malformed ones in hexadecimal.
-void show_extension_value(Printer &printer, std::string_view name, kovra_asn1_value *oid, kovra_asn1_value *string) {
+void show_extension_value(Printer &printer, const Message &name, kovra_asn1_value *oid, kovra_asn1_value *string) {
     const OidRow *row = printer.is_deep() ? nullptr : find_extension(text_of_oid(oid));
     if (row == nullptr) {
-        if (name != text_of_oid(oid))
-            printer.field("id", text_of_oid(oid));
+        if (const Message id{Outside(text_of_oid(oid))}; Harmless(id) != name)
+            printer.field("id", id);
         return printer.hex("value", octets_of(string));
     }
     Value value(row->type);
@@ -84,7 +84,7 @@ bool show_timestamp(Printer &printer, std::string_view octets) {
 
 void show_extension(Printer &printer, kovra_asn1_value *extension) {
     kovra_asn1_value *oid = kovra_x509extension_getid(extension);
-    const std::string_view name = name_of_oid(oid);
+    const Message name = name_of_oid(oid);
     if (is_true(kovra_x509extension_getcritical(extension)))
         printer.field(name, "critical");
     else
@@ -104,15 +104,15 @@ void show_extensions(Printer &printer, kovra_asn1_value *extensions) {
 }
 
 void show_key_usage(Printer &printer, kovra_asn1_value *bits) {
-    static constexpr std::string_view names[] = {"digitalSignature", "contentCommitment", "keyEncipherment",
-                                                 "dataEncipherment", "keyAgreement",      "keyCertSign",
-                                                 "cRLSign",          "encipherOnly",      "decipherOnly"};
+    static constexpr Harmless names[] = {"digitalSignature", "contentCommitment", "keyEncipherment",
+                                         "dataEncipherment", "keyAgreement",      "keyCertSign",
+                                         "cRLSign",          "encipherOnly",      "decipherOnly"};
     show_bits(printer, "usage", bits, names);
 }
 
 void show_certificate_type(Printer &printer, kovra_asn1_value *bits) {
-    static constexpr std::string_view names[] = {"sslClient", "sslServer", "email",   "objectSigning",
-                                                 "reserved",  "sslCA",     "emailCA", "objectSigningCA"};
+    static constexpr Harmless names[] = {"sslClient", "sslServer", "email",   "objectSigning",
+                                         "reserved",  "sslCA",     "emailCA", "objectSigningCA"};
     show_bits(printer, "type", bits, names);
 }
 
@@ -122,7 +122,7 @@ void show_private_key_period(Printer &printer, kovra_asn1_value *period) {
 }
 
 void show_basic_constraints(Printer &printer, kovra_asn1_value *constraints) {
-    printer.field("CA", is_true(kovra_x509basicconstraints_getisca(constraints)) ? "yes" : "no");
+    printer.field("CA", is_true(kovra_x509basicconstraints_getisca(constraints)) ? Harmless("yes") : "no");
     show_integer(printer, "path length", kovra_x509basicconstraints_getlen(constraints));
 }
 
@@ -176,7 +176,7 @@ void show_features(Printer &printer, kovra_asn1_value *features) {
             return show_any(printer, "feature", element);
         kovra_asn1_integer_getlong(feature.get(), &number);
         if (number == 5 || number == 17)
-            printer.field("feature", number == 5 ? "status_request" : "status_request_v2");
+            printer.field("feature", number == 5 ? Harmless("status_request") : "status_request_v2");
         else
             show_integer(printer, "feature", feature.get());
     });

@@ -7,11 +7,11 @@
 namespace kovra::tool {
 
 // Prints a component, as a line or as a heading with lines below it; nothing for null.
-using Line = void (*)(Printer &, std::string_view, kovra_asn1_value *);
+using Line = void (*)(Printer &, Harmless, kovra_asn1_value *);
 
 // A component of a structure with functions of its own.
 struct Field {
-    std::string_view label;
+    Harmless label;
     kovra_asn1_value *(*get)(const kovra_asn1_value *);
     Line line;
 };
@@ -23,7 +23,7 @@ template <const auto &fields> void show_fields(Printer &printer, kovra_asn1_valu
 // A component of a structure that is a SEQUENCE of elements to the library, in the order of the table. What is not of
 // its type, and what is left, is shown as it is.
 struct Element {
-    std::string_view label;
+    Harmless label;
     uint32_t type;
     Line line;
 };
@@ -31,29 +31,29 @@ void show_items(Printer &printer, std::span<const Element> items, kovra_asn1_val
 template <const auto &items> void show_items(Printer &printer, kovra_asn1_value *list) {
     show_items(printer, items, list);
 }
-template <const auto &items> void show_items(Printer &printer, std::string_view label, kovra_asn1_value *list) {
+template <const auto &items> void show_items(Printer &printer, Harmless label, kovra_asn1_value *list) {
     printer.heading(label);
     const Printer::Deeper deeper(printer);
     show_items(printer, items, list);
 }
 
 // Lines. Numbers and octets that are private are told by their size only, unless they are asked for.
-void show_count(Printer &printer, std::string_view label, kovra_asn1_value *list);
-void show_hex(Printer &printer, std::string_view label, kovra_asn1_value *octet_string);
-void show_bit_hex(Printer &printer, std::string_view label, kovra_asn1_value *bit_string);
-void show_named_oid(Printer &printer, std::string_view label, kovra_asn1_value *oid);
-void show_flag(Printer &printer, std::string_view label, kovra_asn1_value *boolean);
-void show_utf8(Printer &printer, std::string_view label, kovra_asn1_value *string);
-void show_one_name(Printer &printer, std::string_view label, kovra_asn1_value *general_name);
-void show_secret_number(Printer &printer, std::string_view label, kovra_asn1_value *integer);
-void show_secret_octets(Printer &printer, std::string_view label, kovra_asn1_value *octet_string);
+void show_count(Printer &printer, Harmless label, kovra_asn1_value *list);
+void show_hex(Printer &printer, Harmless label, kovra_asn1_value *octet_string);
+void show_bit_hex(Printer &printer, Harmless label, kovra_asn1_value *bit_string);
+void show_named_oid(Printer &printer, Harmless label, kovra_asn1_value *oid);
+void show_flag(Printer &printer, Harmless label, kovra_asn1_value *boolean);
+void show_utf8(Printer &printer, Harmless label, kovra_asn1_value *string);
+void show_one_name(Printer &printer, Harmless label, kovra_asn1_value *general_name);
+void show_secret_number(Printer &printer, Harmless label, kovra_asn1_value *integer);
+void show_secret_octets(Printer &printer, Harmless label, kovra_asn1_value *octet_string);
 // An element that is not known to be anything.
-void show_unknown(Printer &printer, std::string_view label, kovra_asn1_value *any);
+void show_unknown(Printer &printer, Harmless label, kovra_asn1_value *any);
 // A number with its size.
-void show_modulus(Printer &printer, std::string_view label, kovra_asn1_value *integer);
+void show_modulus(Printer &printer, Harmless label, kovra_asn1_value *integer);
 
 // A heading, and below it the lines of the type.
-template <uint32_t type> void show_below(Printer &printer, std::string_view label, kovra_asn1_value *value) {
+template <uint32_t type> void show_below(Printer &printer, Harmless label, kovra_asn1_value *value) {
     if (value == nullptr)
         return;
     printer.heading(label);
@@ -62,13 +62,13 @@ template <uint32_t type> void show_below(Printer &printer, std::string_view labe
 }
 
 // The lines of the type where the component stands.
-template <uint32_t type> void show_here(Printer &printer, std::string_view, kovra_asn1_value *value) {
+template <uint32_t type> void show_here(Printer &printer, Harmless, kovra_asn1_value *value) {
     if (value != nullptr)
         show_value(printer, type, value);
 }
 
 // The number of elements, and below it the lines of the list.
-template <uint32_t type> void show_counted(Printer &printer, std::string_view label, kovra_asn1_value *list) {
+template <uint32_t type> void show_counted(Printer &printer, Harmless label, kovra_asn1_value *list) {
     if (list == nullptr)
         return;
     show_count(printer, label, list);
@@ -80,7 +80,7 @@ template <uint32_t type> void show_counted(Printer &printer, std::string_view la
 bool read_octets(std::string_view octets, uint32_t type, Value &out);
 bool read_any(kovra_asn1_value *any, uint32_t type, Value &out);
 
-size_t bit_length(const std::string &octets);
+uint64_t bit_length(const std::string &octets);
 
 // The rows of each file.
 std::span<const TypeRow> key_structures();

@@ -25,14 +25,15 @@ private:
 
 // Prints the name of an algorithm with, for a mask generation function, the digest in its parameters.
 void put_inner_algorithm(Printer &printer, const kovra_asn1_value *algorithm) {
-    const std::string_view name = name_of_oid(kovra_x509algoid_getalgo(algorithm));
-    if (name != "id-mgf1")
+    const Message name = name_of_oid(kovra_x509algoid_getalgo(algorithm));
+    if (Harmless(name) != "id-mgf1")
         return printer.out.put(name);
     printer.out.put("MGF1 with ");
     Value digest(KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER);
     kovra_asn1_any_toobject(kovra_x509algoid_getparam(algorithm), KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, digest.place(),
                             nullptr);
-    printer.out.put(digest.get() != nullptr ? name_of_oid(kovra_x509algoid_getalgo(digest.get())) : "(no digest)");
+    printer.out.put(digest.get() != nullptr ? name_of_oid(kovra_x509algoid_getalgo(digest.get()))
+                                            : Message("(no digest)"));
 }
 
 // The parameters of RSASSA-PSS and RSAES-OAEP (RFC 8017, A.2): digest, mask generation function, and a salt length and
@@ -50,7 +51,7 @@ bool put_rsa_parameters(Printer &printer, kovra_asn1_value *parameters, bool is_
         });
         return out.get() != nullptr;
     };
-    const auto put = [&](int32_t tag, std::string_view standard) {
+    const auto put = [&](int32_t tag, Harmless standard) {
         Value algorithm(KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER);
         printer.out.put(", ");
         if (find(tag, KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, algorithm))
@@ -113,7 +114,7 @@ bool put_parameters(Printer &printer, kovra_asn1_value *algorithm) {
     return found != std::end(known_parameters) && found->put(printer, parameters);
 }
 
-void put_size(Printer &printer, size_t bits) {
+void put_size(Printer &printer, uint64_t bits) {
     if (bits == 0)
         return;
     printer.out.put(", ");
@@ -217,7 +218,7 @@ bool show_plain_key(Printer &printer, kovra_asn1_value *algorithm, kovra_asn1_va
 
 // The same where all octets count (RFC 8410).
 bool show_edwards_key(Printer &printer, kovra_asn1_value *algorithm, kovra_asn1_value *key, bool has_all) {
-    put_size(printer, bits_of(key).size() * 8);
+    put_size(printer, uint64_t{bits_of(key).size()} * 8);
     return show_plain_key(printer, algorithm, key, has_all);
 }
 
@@ -243,7 +244,7 @@ constexpr Key keys[] = {
 
 } // namespace
 
-void show_algorithm(Printer &printer, std::string_view label, kovra_asn1_value *algorithm) {
+void show_algorithm(Printer &printer, Harmless label, kovra_asn1_value *algorithm) {
     printer.begin(label);
     printer.out.put(name_of_oid(kovra_x509algoid_getalgo(algorithm)));
     const bool has_all = put_parameters(printer, algorithm);

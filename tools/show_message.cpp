@@ -79,8 +79,8 @@ void show_encapsulated_content(Printer &printer, kovra_asn1_value *info) {
 }
 
 void show_certificate_choice(Printer &printer, kovra_asn1_value *choice) {
-    static constexpr std::string_view kinds[] = {"", "extended certificate", "attribute certificate, version 1",
-                                                 "attribute certificate, version 2"};
+    static constexpr Harmless kinds[] = {"", "extended certificate", "attribute certificate, version 1",
+                                         "attribute certificate, version 2"};
     const int32_t kind = kovra_cmscertchoice_gettype(choice);
     if (kind == 0)
         return show_certificate(printer, kovra_cmscertchoice_getx509pubkeycert(choice));

@@ -17,6 +17,6 @@ void show_private_number(Printer &printer, kovra_asn1_value *integer);
 void show_private_octets(Printer &printer, kovra_asn1_value *octet_string);
 
 // A list of Certificates, without alternatives.
-void show_plain_certificates(Printer &printer, std::string_view label, kovra_asn1_value *certificates);
+void show_plain_certificates(Printer &printer, Harmless label, kovra_asn1_value *certificates);
 
 } // namespace kovra::tool

@@ -1,7 +1,6 @@
 // Distinguished names on one line as in RFC 4514, general names, directory strings.
 
 #include <algorithm>
-#include <charconv>
 #include <iterator>
 
 #include "characters.hpp"
@@ -15,7 +14,7 @@ namespace {
 
 struct ShortName {
     std::string_view oid;
-    std::string_view name;
+    Harmless name;
 };
 constexpr ShortName short_names[] = {
     {"2.5.4.3", "CN"},
@@ -46,19 +45,24 @@ void put_attribute(Printer &printer, const kovra_asn1_value *attribute) {
     const std::string_view dotted = text_of_oid(oid);
     const auto *found = std::find_if(std::begin(short_names), std::end(short_names),
                                      [&](const ShortName &row) { return row.oid == dotted; });
-    printer.out.put(found != std::end(short_names) ? found->name : name_of_oid(oid));
-    printer.out.put('=');
+    if (found != std::end(short_names))
+        printer.out.put(found->name);
+    else
+        printer.out.put(name_of_oid(oid));
+    printer.out.put("=");
     const std::string value = encoding_of(KOVRA_ASN1_TYPE_ANY, kovra_x500attrtypedistval_getvalue(attribute));
     std::string text;
-    if (characters_of(value, text))
-        return put_name_text(printer.out, text);
-    printer.out.put('#');
-    printer.out.put_hex(reinterpret_cast<const uint8_t *>(value.data()), value.size());
+    if (characters_of(value, text)) {
+        printer.out.put(Outside(text, Form::name));
+    } else {
+        printer.out.put("#");
+        printer.out.put_hex(reinterpret_cast<const uint8_t *>(value.data()), value.size());
+    }
 }
 
 void put_version_4(Printer &printer, const uint8_t *octets) {
     for (size_t i = 0; i < 4; ++i) {
-        printer.out.put(i == 0 ? "" : ".");
+        printer.out.put(i == 0 ? Harmless() : ".");
         printer.out.put_number(octets[i]);
     }
 }
@@ -86,10 +90,8 @@ void put_version_6(Printer &printer, const uint8_t *octets) {
             i += longest - 1;
             continue;
         }
-        printer.out.put(i == 0 || i == best + longest ? "" : ":");
-        char digits[8];
-        printer.out.put(
-            {digits, static_cast<size_t>(std::to_chars(digits, digits + sizeof digits, groups[i], 16).ptr - digits)});
+        printer.out.put(i == 0 || i == best + longest ? Harmless() : ":");
+        printer.out.put_number(groups[i], 16);
     }
 }
 
@@ -106,8 +108,8 @@ int prefix_of(const uint8_t *mask, size_t size) {
     return static_cast<int>(ones);
 }
 
-constexpr std::string_view kinds[] = {"otherName",    "email", "DNS", "x400Address", "dirName",
-                                      "ediPartyName", "URI",   "IP",  "registeredID"};
+constexpr Harmless kinds[] = {"otherName",    "email", "DNS", "x400Address", "dirName",
+                              "ediPartyName", "URI",   "IP",  "registeredID"};
 
 size_t alternative_of(const kovra_asn1_value *name) {
     int32_t alternative = -1;
@@ -117,14 +119,14 @@ size_t alternative_of(const kovra_asn1_value *name) {
 
 void put_other_name(Printer &printer, const kovra_asn1_value *name) {
     printer.out.put(name_of_oid(kovra_instanceoftypeid_getid(name)));
-    printer.out.put(' ');
+    printer.out.put(" ");
     const std::string value = encoding_of(KOVRA_ASN1_TYPE_ANY, kovra_instanceoftypeid_gettype(name));
     std::string text;
     if (!characters_of(value, text))
         return printer.hex(value);
-    printer.out.put('"');
+    printer.out.put("\"");
     put_unquoted(printer, text);
-    printer.out.put('"');
+    printer.out.put("\"");
 }
 
 void put_directory_string(Printer &printer, kovra_asn1_value *string) {
@@ -146,7 +148,7 @@ void put_party_name(Printer &printer, const kovra_asn1_value *name) {
 void put_relative_name(Printer &printer, kovra_asn1_value *rdn) {
     bool is_first = true;
     for_each(rdn, [&](const kovra_asn1_value *attribute) {
-        printer.out.put(is_first ? "" : "+");
+        printer.out.put(is_first ? Harmless() : "+");
         is_first = false;
         put_attribute(printer, attribute);
     });
@@ -160,7 +162,7 @@ void put_name(Printer &printer, const kovra_asn1_value *name) {
     kovra_asn1_value *rdn = nullptr;
     for (int32_t i = size; i-- > 0 && kovra_asn1_list_get(list, i, &rdn) == 1;) {
         put_relative_name(printer, rdn);
-        printer.out.put(i == 0 ? "" : ",");
+        printer.out.put(i == 0 ? Harmless() : ",");
     }
 }
 
@@ -174,14 +176,14 @@ void put_address(Printer &printer, std::string_view octets) {
     put(printer, first);
     if (!has_mask)
         return;
-    printer.out.put('/');
+    printer.out.put("/");
     if (const int prefix = prefix_of(first + size, size); prefix >= 0)
         printer.out.put_number(static_cast<uint64_t>(prefix));
     else
         put(printer, first + size);
 }
 
-std::string_view kind_of_general_name(const kovra_asn1_value *name) {
+Harmless kind_of_general_name(const kovra_asn1_value *name) {
     const size_t alternative = alternative_of(name);
     return alternative < std::size(kinds) ? kinds[alternative] : "name";
 }
@@ -209,7 +211,7 @@ void put_general_name(Printer &printer, const kovra_asn1_value *name) {
     }
 }
 
-void show_name(Printer &printer, std::string_view label, kovra_asn1_value *name) {
+void show_name(Printer &printer, Harmless label, kovra_asn1_value *name) {
     if (name == nullptr)
         return;
     printer.begin(label);
@@ -231,7 +233,7 @@ void show_general_names(Printer &printer, kovra_asn1_value *names) {
     for_each(names, [&](kovra_asn1_value *name) { show_general_name(printer, name); });
 }
 
-void show_general_names(Printer &printer, std::string_view label, kovra_asn1_value *names) {
+void show_general_names(Printer &printer, Harmless label, kovra_asn1_value *names) {
     if (names == nullptr)
         return;
     printer.heading(label);

@@ -97,7 +97,7 @@ const Field pbmac1[] = {
 };
 
 // RC2 has its effective key length in a number that stands for it (RFC 8018, B.2.3).
-void show_rc2_version(Printer &printer, std::string_view label, kovra_asn1_value *version) {
+void show_rc2_version(Printer &printer, Harmless label, kovra_asn1_value *version) {
     struct Bits {
         int32_t number;
         uint64_t bits;

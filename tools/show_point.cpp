@@ -17,11 +17,10 @@ void show_point_name(Printer &printer, kovra_asn1_value *name) {
 
 } // namespace
 
-std::span<const std::string_view> reason_flags() {
-    static constexpr std::string_view names[] = {
-        "unused",      "keyCompromise",        "cACompromise",    "affiliationChanged",
-        "superseded",  "cessationOfOperation", "certificateHold", "privilegeWithdrawn",
-        "aACompromise"};
+std::span<const Harmless> reason_flags() {
+    static constexpr Harmless names[] = {"unused",      "keyCompromise",        "cACompromise",    "affiliationChanged",
+                                         "superseded",  "cessationOfOperation", "certificateHold", "privilegeWithdrawn",
+                                         "aACompromise"};
     return names;
 }
 
@@ -58,7 +57,7 @@ void show_access(Printer &printer, kovra_asn1_value *descriptions) {
         const kovra_asn1_value *location = kovra_pkixaccessdesp_getlocate(description);
         printer.begin(name_of_oid(kovra_pkixaccessdesp_getmethod(description)));
         printer.out.put(kind_of_general_name(location));
-        printer.out.put(':');
+        printer.out.put(":");
         put_general_name(printer, location);
         printer.end();
     });

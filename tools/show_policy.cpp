@@ -28,7 +28,7 @@ void show_notice(Printer &printer, kovra_asn1_value *notice) {
     put_display_text(printer, kovra_pkixnoticeref_getorg(reference));
     printer.end();
     printer.begin("numbers");
-    std::string_view between;
+    Harmless between;
     for_each(kovra_pkixnoticeref_getnums(reference), [&](const kovra_asn1_value *number) {
         printer.out.put(between);
         put_integer(printer, number);
@@ -58,7 +58,7 @@ void show_qualifier(Printer &printer, kovra_asn1_value *info) {
     show_any(printer, "value", qualifier);
 }
 
-void show_subtrees(Printer &printer, std::string_view label, kovra_asn1_value *subtrees) {
+void show_subtrees(Printer &printer, Harmless label, kovra_asn1_value *subtrees) {
     if (subtrees == nullptr)
         return;
     printer.heading(label);
@@ -115,9 +115,9 @@ void show_name_constraints(Printer &printer, kovra_asn1_value *constraints) {
     kovra_asn1_value *forms = kovra_x509namecons_getreqforms(constraints);
     if (forms == nullptr)
         return;
-    static constexpr std::string_view basic[] = {"rfc822Name",    "dNSName",      "x400Address",
-                                                 "directoryName", "ediPartyName", "uniformResourceIdentifier",
-                                                 "iPAddress",     "registeredID"};
+    static constexpr Harmless basic[] = {"rfc822Name",    "dNSName",      "x400Address",
+                                         "directoryName", "ediPartyName", "uniformResourceIdentifier",
+                                         "iPAddress",     "registeredID"};
     printer.heading("required name forms");
     const Printer::Deeper deeper(printer);
     show_bits(printer, "basic", kovra_x509nameforms_getbasic(forms), basic);

@@ -15,21 +15,21 @@ const uint8_t *octets_in(std::string_view text) {
 
 } // namespace
 
-void Printer::begin(std::string_view label, size_t column) {
+void Printer::begin(Harmless label, size_t column) {
     blanks();
     out.put(label);
-    out.put(':');
+    out.put(":");
     const size_t printed = indent_ + label.size() + 1;
-    out.fill(' ', printed < column ? column - printed : 1);
+    out.put_blanks(printed < column ? column - printed : 1);
 }
 
-void Printer::field(std::string_view label, std::string_view value) {
+void Printer::field(Harmless label, Harmless value) {
     begin(label);
     out.put(value);
     end();
 }
 
-void Printer::heading(std::string_view label) {
+void Printer::heading(Harmless label) {
     blanks();
     out.put(label);
     out.put(":\n");
@@ -48,13 +48,13 @@ void Printer::hex(std::string_view octets) {
     out.put(" octets)");
 }
 
-void Printer::hex(std::string_view label, std::string_view octets) {
+void Printer::hex(Harmless label, std::string_view octets) {
     begin(label);
     hex(octets);
     end();
 }
 
-void Printer::element(std::string_view label, std::string_view octets) {
+void Printer::element(Harmless label, std::string_view octets) {
     Header header;
     if (!read_header(octets_in(octets), 0, octets.size(), header))
         return hex(label, octets);
@@ -64,8 +64,8 @@ void Printer::element(std::string_view label, std::string_view octets) {
         return tree(octets);
     }
     if (header.length == 0) {
-        const char *name = header.is_universal() ? universal_name(header.tag) : nullptr;
-        return field(label, name != nullptr ? name : "(empty)");
+        const Harmless name = header.is_universal() ? universal_name(header.tag) : Harmless();
+        return field(label, !name.empty() ? name : "(empty)");
     }
     // put_value begins with a blank.
     begin(label, value_column - 1);
@@ -84,20 +84,20 @@ void Printer::tree(std::string_view octets) {
         hex("malformed", octets);
 }
 
-void Printer::malformed(std::string_view what, uint32_t type, std::string_view octets) {
+void Printer::malformed(Harmless what, uint32_t type, std::string_view octets) {
     if (is_in_store())
         return malformed_secret(what, type, octets);
     hex("malformed", octets);
     report(what, type, octets);
 }
 
-void Printer::malformed_secret(std::string_view what, uint32_t type, std::string_view octets) {
+void Printer::malformed_secret(Harmless what, uint32_t type, std::string_view octets) {
     secret("malformed", octets);
     report(what, type, octets);
 }
 
-void Printer::report(std::string_view what, uint32_t type, std::string_view octets) {
-    session_.report(place_ + " " + std::string(what), explain({octets_in(octets), 0, octets.size(), true}, {type}));
+void Printer::report(Harmless what, uint32_t type, std::string_view octets) {
+    session_.report(place_ + " " + what, explain({octets_in(octets), 0, octets.size(), true}, {type}));
 }
 
 } // namespace kovra::tool

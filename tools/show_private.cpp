@@ -8,7 +8,7 @@ namespace kovra::tool {
 
 namespace {
 
-constexpr std::string_view private_label = "private key";
+constexpr Harmless private_label = "private key";
 
 const Field rsa_public[] = {
     {"modulus", kovra_pkcs1rsapublickey_getmodulus, show_modulus},

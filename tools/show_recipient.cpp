@@ -108,7 +108,7 @@ const Field dh_other_info[] = {
 };
 
 struct RecipientKind {
-    std::string_view name;
+    Harmless name;
     kovra_asn1_value *(*get)(const kovra_asn1_value *);
     std::span<const Field> fields;
 };
@@ -219,7 +219,7 @@ constexpr TypeRow rows[] = {
 
 void show_enveloped_elements(Printer &printer, kovra_asn1_value *list) {
     struct Part {
-        std::string_view label;
+        Harmless label;
         uint32_t type;
         Line line;
         int32_t tag; // of a context tag that is implicit

@@ -48,7 +48,7 @@ constexpr TypeRow structures[] = {
 // Lists, and how each element is shown.
 struct ListRow {
     uint32_t type;
-    std::string_view label;
+    Harmless label;
     Line line;
 };
 constexpr ListRow lists[] = {

@@ -20,41 +20,41 @@ const Field request[] = {
     {"", kovra_tsp_timestampreq_getexts, show_here<KOVRA_ASN1_TYPE_EXTENSIONS>},
 };
 
-void show_status(Printer &printer, std::string_view label, kovra_asn1_value *status) {
-    static constexpr std::string_view names[] = {"granted", "grantedWithMods",   "rejection",
-                                                 "waiting", "revocationWarning", "revocationNotification"};
+void show_status(Printer &printer, Harmless label, kovra_asn1_value *status) {
+    static constexpr Harmless names[] = {"granted", "grantedWithMods",   "rejection",
+                                         "waiting", "revocationWarning", "revocationNotification"};
     printer.begin(label);
     put_named(printer, status, names);
     printer.end();
 }
 
-void show_failure(Printer &printer, std::string_view label, kovra_asn1_value *bits) {
-    static constexpr std::string_view names[] = {"badAlg",
-                                                 "badMessageCheck",
-                                                 "badRequest",
-                                                 "badTime",
-                                                 "badCertId",
-                                                 "badDataFormat",
-                                                 "wrongAuthority",
-                                                 "incorrectData",
-                                                 "missingTimeStamp",
-                                                 "badPOP",
-                                                 "",
-                                                 "",
-                                                 "",
-                                                 "",
-                                                 "timeNotAvailable",
-                                                 "unacceptedPolicy",
-                                                 "unacceptedExtension",
-                                                 "addInfoNotAvailable",
-                                                 "",
-                                                 "",
-                                                 "",
-                                                 "",
-                                                 "",
-                                                 "",
-                                                 "",
-                                                 "systemFailure"};
+void show_failure(Printer &printer, Harmless label, kovra_asn1_value *bits) {
+    static constexpr Harmless names[] = {"badAlg",
+                                         "badMessageCheck",
+                                         "badRequest",
+                                         "badTime",
+                                         "badCertId",
+                                         "badDataFormat",
+                                         "wrongAuthority",
+                                         "incorrectData",
+                                         "missingTimeStamp",
+                                         "badPOP",
+                                         "",
+                                         "",
+                                         "",
+                                         "",
+                                         "timeNotAvailable",
+                                         "unacceptedPolicy",
+                                         "unacceptedExtension",
+                                         "addInfoNotAvailable",
+                                         "",
+                                         "",
+                                         "",
+                                         "",
+                                         "",
+                                         "",
+                                         "",
+                                         "systemFailure"};
     show_bits(printer, label, bits, names);
 }
 

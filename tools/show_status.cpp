@@ -20,7 +20,7 @@ const Field single_request[] = {
     {"", kovra_ocsp_request_getexts, show_here<KOVRA_ASN1_TYPE_EXTENSIONS>},
 };
 
-void show_version_line(Printer &printer, std::string_view, kovra_asn1_value *version) {
+void show_version_line(Printer &printer, Harmless, kovra_asn1_value *version) {
     show_version(printer, version);
 }
 
@@ -42,9 +42,9 @@ const Field request[] = {
     {"", kovra_ocsp_ocsprequest_getsignature, show_here<KOVRA_ASN1_TYPE_OCSP_SIGNATURE>},
 };
 
-void show_response_status(Printer &printer, std::string_view label, kovra_asn1_value *status) {
-    static constexpr std::string_view names[] = {"successful", "malformedRequest", "internalError", "tryLater",
-                                                 "",           "sigRequired",      "unauthorized"};
+void show_response_status(Printer &printer, Harmless label, kovra_asn1_value *status) {
+    static constexpr Harmless names[] = {"successful", "malformedRequest", "internalError", "tryLater",
+                                         "",           "sigRequired",      "unauthorized"};
     printer.begin(label);
     put_named(printer, status, names);
     printer.end();
@@ -73,7 +73,7 @@ void show_responder(Printer &printer, kovra_asn1_value *responder) {
     show_hex(printer, "responder key hash", kovra_ocsp_responderid_getkeyhash(responder));
 }
 
-void show_reason_line(Printer &printer, std::string_view, kovra_asn1_value *reason) {
+void show_reason_line(Printer &printer, Harmless, kovra_asn1_value *reason) {
     show_reason(printer, reason);
 }
 
@@ -83,7 +83,7 @@ const Field revoked_info[] = {
 };
 
 void show_certificate_status(Printer &printer, kovra_asn1_value *status) {
-    static constexpr std::string_view names[] = {"good", "revoked", "unknown"};
+    static constexpr Harmless names[] = {"good", "revoked", "unknown"};
     const int32_t kind = kovra_ocsp_certstatus_gettype(status);
     printer.field("status", names[kind]);
     if (kovra_asn1_value *revoked = kovra_ocsp_certstatus_getrevoked(status); revoked != nullptr)
@@ -113,7 +113,7 @@ const Field basic_response[] = {
     {"certificates", kovra_ocsp_basicocspresponse_getcerts, show_plain_certificates},
 };
 
-void show_url(Printer &printer, std::string_view label, kovra_asn1_value *string) {
+void show_url(Printer &printer, Harmless label, kovra_asn1_value *string) {
     constexpr uint32_t ia5_string = 22;
     show_text(printer, label, ia5_string, string);
 }
@@ -143,7 +143,7 @@ constexpr TypeRow rows[] = {
 
 } // namespace
 
-void show_plain_certificates(Printer &printer, std::string_view label, kovra_asn1_value *certificates) {
+void show_plain_certificates(Printer &printer, Harmless label, kovra_asn1_value *certificates) {
     show_count(printer, label, certificates);
     const Printer::Deeper deeper(printer);
     for_each(certificates, [&](kovra_asn1_value *certificate) {

@@ -7,7 +7,7 @@ namespace kovra::tool {
 
 namespace {
 
-void show_safe(Printer &printer, std::string_view, kovra_asn1_value *info) {
+void show_safe(Printer &printer, Harmless, kovra_asn1_value *info) {
     printer.type_of_data = KOVRA_ASN1_TYPE_AUTHENTICATED_SAFE;
     show_value(printer, KOVRA_ASN1_TYPE_CONTENT_INFO, info);
     printer.type_of_data = KOVRA_ASN1_TYPE_COUNT;
@@ -71,7 +71,7 @@ void show_crl_bag(Printer &printer, kovra_asn1_value *bag) {
     show_bag_content(printer, kovra_pkcs12crlbag_getcrlid(bag), kovra_pkcs12crlbag_getcrlvalue(bag));
 }
 
-void show_secret_any(Printer &printer, std::string_view label, kovra_asn1_value *any) {
+void show_secret_any(Printer &printer, Harmless label, kovra_asn1_value *any) {
     if (printer.has_secrets())
         show_any(printer, label, any);
     else

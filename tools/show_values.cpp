@@ -46,10 +46,10 @@ std::string_view text_of_oid(const kovra_asn1_value *oid) {
     return text == nullptr || *text == '\0' ? "(no object identifier)" : text;
 }
 
-std::string_view name_of_oid(const kovra_asn1_value *oid) {
+Message name_of_oid(const kovra_asn1_value *oid) {
     const std::string_view text = text_of_oid(oid);
-    const std::string_view name = oid_name(text);
-    return name.empty() ? text : name;
+    const Harmless name = oid_name(text);
+    return name.empty() ? Message(Outside(text)) : Message(name);
 }
 
 void put_integer(Printer &printer, const kovra_asn1_value *integer) {
@@ -61,7 +61,7 @@ void put_integer(Printer &printer, const kovra_asn1_value *integer) {
     for (const char octet : octets)
         number = number << 8 | static_cast<uint8_t>(octet);
     if (is_negative)
-        printer.out.put('-');
+        printer.out.put("-");
     printer.out.put_number(is_negative ? 0 - number : number);
 }
 
@@ -69,7 +69,7 @@ void put_serial(Printer &printer, const kovra_asn1_value *integer) {
     std::string octets = integer_octets(integer);
     if (!octets.empty() && static_cast<uint8_t>(octets[0]) >= 0x80) {
         // The magnitude of the two's complement.
-        printer.out.put('-');
+        printer.out.put("-");
         unsigned carry = 1;
         for (size_t i = octets.size(); i-- != 0; carry >>= 8) {
             carry += static_cast<uint8_t>(~octets[i]);
@@ -89,7 +89,7 @@ void put_time(Printer &printer, const kovra_asn1_value *value) {
 }
 
 void put_unquoted(Printer &printer, std::string_view text) {
-    put_text(printer.out, reinterpret_cast<const uint8_t *>(text.data()), text.size(), text.size());
+    printer.out.put(Outside(text, Form::quoted));
 }
 
 void put_quoted(Printer &printer, uint32_t tag, std::string_view octets) {
@@ -98,12 +98,12 @@ void put_quoted(Printer &printer, uint32_t tag, std::string_view octets) {
         printer.hex(octets);
         return printer.out.put(" (not characters)");
     }
-    printer.out.put('"');
+    printer.out.put("\"");
     put_unquoted(printer, text);
-    printer.out.put('"');
+    printer.out.put("\"");
 }
 
-void put_bits(Printer &printer, kovra_asn1_value *bit_string, std::span<const std::string_view> names) {
+void put_bits(Printer &printer, kovra_asn1_value *bit_string, std::span<const Harmless> names) {
     const std::string octets = bits_of(bit_string);
     const int64_t count = static_cast<int64_t>(octets.size()) * 8 - kovra_asn1_bitstring_getunusedbits(bit_string);
     // Of a long string of no known use the octets say more.
@@ -114,7 +114,7 @@ void put_bits(Printer &printer, kovra_asn1_value *bit_string, std::span<const st
     for (int32_t bit = 0; bit < count; ++bit) {
         if (kovra_asn1_bitstring_getbit(bit_string, bit) != 1)
             continue;
-        printer.out.put(is_first ? "" : ", ");
+        printer.out.put(is_first ? Harmless() : ", ");
         is_first = false;
         const auto index = static_cast<size_t>(bit);
         if (index < names.size() && !names[index].empty()) {
@@ -128,7 +128,7 @@ void put_bits(Printer &printer, kovra_asn1_value *bit_string, std::span<const st
         printer.out.put("(none)");
 }
 
-void put_named(Printer &printer, const kovra_asn1_value *integer, std::span<const std::string_view> names) {
+void put_named(Printer &printer, const kovra_asn1_value *integer, std::span<const Harmless> names) {
     int32_t number = -1;
     kovra_asn1_integer_getlong(integer, &number);
     const auto index = static_cast<size_t>(number);
@@ -138,7 +138,7 @@ void put_named(Printer &printer, const kovra_asn1_value *integer, std::span<cons
         put_integer(printer, integer);
 }
 
-void show_integer(Printer &printer, std::string_view label, kovra_asn1_value *integer) {
+void show_integer(Printer &printer, Harmless label, kovra_asn1_value *integer) {
     if (integer == nullptr)
         return;
     printer.begin(label);
@@ -146,7 +146,7 @@ void show_integer(Printer &printer, std::string_view label, kovra_asn1_value *in
     printer.end();
 }
 
-void show_serial(Printer &printer, std::string_view label, kovra_asn1_value *integer) {
+void show_serial(Printer &printer, Harmless label, kovra_asn1_value *integer) {
     if (integer == nullptr)
         return;
     printer.begin(label);
@@ -154,12 +154,12 @@ void show_serial(Printer &printer, std::string_view label, kovra_asn1_value *int
     if (const int32_t length = kovra_asn1_integer_getlength(integer); length > 0 && length <= 8) {
         printer.out.put(" (");
         put_integer(printer, integer);
-        printer.out.put(')');
+        printer.out.put(")");
     }
     printer.end();
 }
 
-void show_time(Printer &printer, std::string_view label, kovra_asn1_value *time) {
+void show_time(Printer &printer, Harmless label, kovra_asn1_value *time) {
     if (time == nullptr)
         return;
     printer.begin(label);
@@ -167,13 +167,12 @@ void show_time(Printer &printer, std::string_view label, kovra_asn1_value *time)
     printer.end();
 }
 
-void show_any(Printer &printer, std::string_view label, kovra_asn1_value *any) {
+void show_any(Printer &printer, Harmless label, kovra_asn1_value *any) {
     if (any != nullptr)
         printer.element(label, encoding_of(KOVRA_ASN1_TYPE_ANY, any));
 }
 
-void show_bits(Printer &printer, std::string_view label, kovra_asn1_value *bit_string,
-               std::span<const std::string_view> names) {
+void show_bits(Printer &printer, Harmless label, kovra_asn1_value *bit_string, std::span<const Harmless> names) {
     if (bit_string == nullptr)
         return;
     printer.begin(label);
@@ -181,7 +180,7 @@ void show_bits(Printer &printer, std::string_view label, kovra_asn1_value *bit_s
     printer.end();
 }
 
-void show_text(Printer &printer, std::string_view label, uint32_t tag, kovra_asn1_value *string) {
+void show_text(Printer &printer, Harmless label, uint32_t tag, kovra_asn1_value *string) {
     if (string == nullptr)
         return;
     printer.begin(label);

@@ -4,13 +4,14 @@
 #include <cstring>
 #include <utility>
 
+#include "base/thresholds.hpp"
+#include "platform.hpp"
+
 #if defined(_WIN32)
 #include <fcntl.h>
 #include <io.h>
-#include <sys/stat.h>
 #else
 #include <poll.h>
-#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -21,18 +22,10 @@ namespace {
 constexpr int standard_input = 0;
 
 #if defined(_WIN32)
-bool is_file() {
-    struct _stat status {};
-    return _fstat(standard_input, &status) == 0 && (status.st_mode & _S_IFMT) == _S_IFREG;
-}
 auto read_input(uint8_t *octets, size_t size) {
     return _read(standard_input, octets, static_cast<unsigned>(size));
 }
 #else
-bool is_file() {
-    struct stat status {};
-    return fstat(standard_input, &status) == 0 && S_ISREG(status.st_mode);
-}
 auto read_input(uint8_t *octets, size_t size) {
     return ::read(standard_input, octets, size);
 }
@@ -47,11 +40,11 @@ StandardInput::StandardInput(std::function<void()> before_reading) : before_read
 }
 
 bool StandardInput::arrives_in_pieces() {
-    return !is_file();
+    return !is_file(standard_input);
 }
 
 bool StandardInput::read(std::vector<uint8_t> &octets) {
-    constexpr size_t largest_piece = 1 << 16;
+    constexpr auto largest_piece = threshold<size_t>(1 << 16, 3);
     before_reading_();
     const size_t size = octets.size();
     octets.resize(size + largest_piece);

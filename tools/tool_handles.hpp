@@ -33,6 +33,11 @@ private:
     kovra_asn1_value *handle_ = nullptr;
 };
 
+// A size as the library takes it; 0, for which it has nothing, for one that it does not take.
+constexpr int32_t library_size(size_t size) {
+    return size <= INT32_MAX ? static_cast<int32_t>(size) : 0;
+}
+
 inline std::string to_string(const kovra_data_blob *blob) {
     const auto *octets = reinterpret_cast<const char *>(kovra_data_blob_getdata(blob));
     return octets == nullptr ? std::string()

@@ -84,7 +84,7 @@ private:
         // Deeper levels are indented no further, so that a deep nest takes no more than a line each.
         constexpr size_t deepest_indent = 32;
         const size_t indent = style_.indent + 2 * std::min(open_.depth(), deepest_indent);
-        out_.fill(' ', indent);
+        out_.put_blanks(indent);
         const size_t printed = indent + put_tag(header);
         if (!header.is_constructed() && !header.is_indefinite && !header.is_end_of_contents()) {
             // put_value begins with a blank of its own.
@@ -94,15 +94,15 @@ private:
             else if (header.length != 0)
                 put_plain(header, blanks);
         }
-        out_.put('\n');
+        out_.put("\n");
     }
 
     void put_columns(const Header &header) {
         out_.put_right(style_.origin + at_, width_);
         out_.put_right(header.size, 4);
-        out_.put(' ');
+        out_.put(" ");
         if (header.is_indefinite) {
-            out_.fill(' ', width_ - 5);
+            out_.put_blanks(width_ - 5);
             out_.put("indef");
         } else {
             out_.put_right(header.length, width_);
@@ -110,13 +110,13 @@ private:
     }
 
     void put_plain(const Header &header, size_t blanks) {
-        out_.fill(' ', blanks);
+        out_.put_blanks(blanks);
         put_value(out_, header, octets_ + at_, {style_.is_full, style_.is_colored});
     }
 
     // The content is entered like that of a constructed element; the octet of unused bits, 0, goes to the header.
     void put_opened(Header &header, size_t blanks) {
-        out_.fill(' ', blanks + 1);
+        out_.put_blanks(blanks + 1);
         out_.put("contains an element");
         if (header.tag == bit_string) {
             ++header.size;
@@ -129,20 +129,19 @@ private:
         if (style_.is_colored && header.is_constructed())
             out_.put("\x1b[1;34m");
         size_t width = 0;
-        const auto put = [&](std::string_view text) {
+        const auto put = [&](Harmless text) {
             out_.put(text);
             width += text.size();
         };
-        const char *name = header.is_universal() ? universal_name(header.tag) : nullptr;
-        if (name != nullptr) {
+        const Harmless name = header.is_universal() ? universal_name(header.tag) : Harmless();
+        if (!name.empty()) {
             put(name);
             if (header.is_constructed() && header.tag != sequence && header.tag != set)
                 put(" (constructed)");
         } else {
-            constexpr std::string_view classes[] = {"[UNIVERSAL ", "[APPLICATION ", "[", "[PRIVATE "};
-            char digits[12];
+            constexpr Harmless classes[] = {"[UNIVERSAL ", "[APPLICATION ", "[", "[PRIVATE "};
             put(classes[header.lead >> 6]);
-            put({digits, static_cast<size_t>(std::to_chars(digits, digits + sizeof digits, header.tag).ptr - digits)});
+            put(decimal(header.tag));
             put("]");
         }
         if (style_.is_colored && header.is_constructed())

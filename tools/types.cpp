@@ -12,9 +12,9 @@ namespace kovra::tool {
 namespace {
 
 struct TypeRow {
-    std::string_view name;
+    Harmless name;
     uint8_t tag; // universal; 0: that of the alternative
-    std::string_view form;
+    Harmless form;
 };
 
 // By type identifier.
@@ -232,8 +232,8 @@ static_assert(sizeof rows / sizeof rows[0] == KOVRA_ASN1_TYPE_COUNT);
 
 } // namespace
 
-std::string_view type_name(uint32_t type) {
-    return type < KOVRA_ASN1_TYPE_COUNT ? rows[type].name : std::string_view();
+Harmless type_name(uint32_t type) {
+    return type < KOVRA_ASN1_TYPE_COUNT ? rows[type].name : Harmless();
 }
 
 uint32_t find_type(std::string_view text) {
@@ -245,8 +245,10 @@ uint32_t find_type(std::string_view text) {
         const auto plain = [](char c) { return c == '-' ? '_' : c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; };
         return plain(left) == right;
     };
-    while (number < KOVRA_ASN1_TYPE_COUNT &&
-           !std::equal(text.begin(), text.end(), rows[number].name.begin(), rows[number].name.end(), same))
+    const auto is_name = [&](std::string_view name) {
+        return std::equal(text.begin(), text.end(), name.begin(), name.end(), same);
+    };
+    while (number < KOVRA_ASN1_TYPE_COUNT && !is_name(rows[number].name.view()))
         ++number;
     return number;
 }
@@ -257,11 +259,11 @@ void types(Session &session) {
     for (const TypeRow &row : rows) {
         session.out.put_right(number++, 4);
         session.out.put_right(row.tag, 5);
-        session.out.fill(' ', 2);
+        session.out.put_blanks(2);
         session.out.put(row.form);
-        session.out.fill(' ', 13 - row.form.size());
+        session.out.put_blanks(13 - row.form.size());
         session.out.put(row.name);
-        session.out.put('\n');
+        session.out.put("\n");
     }
 }
 

@@ -13,7 +13,7 @@ namespace kovra::tool {
 
 namespace {
 
-constexpr std::array<const char *, 37> names = {
+constexpr std::array<Harmless, 37> names = {
     "end-of-contents",
     "BOOLEAN",
     "INTEGER",
@@ -29,7 +29,7 @@ constexpr std::array<const char *, 37> names = {
     "UTF8String",
     "RELATIVE-OID",
     "TIME",
-    nullptr,
+    "",
     "SEQUENCE",
     "SET",
     "NumericString",
@@ -108,14 +108,16 @@ public:
     }
 
 private:
-    void boolean() { out_.put(content_[0] == 0 ? " FALSE" : content_[0] == 0xFF ? " TRUE" : " TRUE (not FF)"); }
+    void boolean() {
+        out_.put(content_[0] == 0 ? Harmless(" FALSE") : content_[0] == 0xFF ? Harmless(" TRUE") : " TRUE (not FF)");
+    }
 
     void integer() {
         const bool is_negative = content_[0] >= 0x80;
         uint64_t number = is_negative ? UINT64_MAX : 0;
         for (size_t i = 0; i < length_; ++i)
             number = number << 8 | content_[i];
-        out_.put(is_negative ? " -" : " ");
+        out_.put(is_negative ? Harmless(" -") : " ");
         out_.put_number(is_negative ? 0 - number : number);
     }
 
@@ -123,15 +125,15 @@ private:
         if (content_[0] != 0) {
             out_.put(" (unused bits: ");
             out_.put_number(content_[0]);
-            out_.put(')');
+            out_.put(")");
         }
         hex(content_ + 1, length_ - 1);
     }
 
-    void hex(const uint8_t *octets, size_t length, std::string_view prefix = "") {
+    void hex(const uint8_t *octets, size_t length, Harmless prefix = {}) {
         const size_t shown = style_.is_full ? length : std::min(length, shown_octets);
         if (length != 0) {
-            out_.put(' ');
+            out_.put(" ");
             out_.put(prefix);
         }
         out_.put_hex(octets, shown);
@@ -187,12 +189,12 @@ private:
             hex(content_, length_);
             return out_.put(" (not an object identifier)");
         }
-        out_.put(' ');
-        out_.put(text);
-        const std::string_view name = header_.tag == 6 ? oid_name(text) : std::string_view();
+        out_.put(" ");
+        out_.put(Outside(text));
+        const Harmless name = header_.tag == 6 ? oid_name(text) : Harmless();
         if (name.empty())
             return;
-        out_.put(style_.is_colored ? " \x1b[32m" : " ");
+        out_.put(style_.is_colored ? Harmless(" \x1b[32m") : " ");
         out_.put(name);
         if (style_.is_colored)
             out_.put("\x1b[0m");
@@ -200,8 +202,9 @@ private:
 
     void text(const uint8_t *octets, size_t length) {
         out_.put(" \"");
-        const size_t printed = put_text(out_, octets, length, style_.is_full ? length : std::min(length, shown_text));
-        out_.put('"');
+        const std::string_view all(reinterpret_cast<const char *>(octets), length);
+        const size_t printed = out_.put(Outside(all, Form::quoted, style_.is_full ? Outside::all : shown_text));
+        out_.put("\"");
         cut(std::min(printed, length), length);
     }
 
@@ -224,7 +227,8 @@ private:
         const auto pair = [rest](size_t i) { return (rest[i] - '0') * 10 + (rest[i + 1] - '0'); };
         if (pair(0) < 1 || pair(0) > 12 || pair(2) < 1 || pair(2) > 28 || pair(4) > 23 || pair(6) > 59 || pair(8) > 59)
             return false;
-        char *out = out_.room(32);
+        char text[24];
+        char *out = text;
         *out++ = ' ';
         if (header_.tag == 23)
             out = std::copy_n(content_[0] < '5' ? "20" : "19", 2, out);
@@ -233,23 +237,24 @@ private:
             *out++ = "-- ::"[i];
             out = std::copy_n(rest + 2 * i, 2, out);
         }
-        out_.used(std::copy_n(" UTC", 4, out));
+        out = std::copy_n(" UTC", 4, out);
+        out_.put(Outside({text, static_cast<size_t>(out - text)}));
         return true;
     }
 
     void time() {
         if (plain_time())
             return;
-        const auto size = static_cast<int32_t>(header_.size + header_.length);
+        const auto size = library_size(size_t{header_.size} + header_.length);
         Value value(KOVRA_ASN1_TYPE_TIME);
         Time time;
-        if (kovra_asn1_mem_decode(element_, size, KOVRA_ASN1_TYPE_TIME, value.place()) == size)
+        if (size > 0 && kovra_asn1_mem_decode(element_, size, KOVRA_ASN1_TYPE_TIME, value.place()) == size)
             time.reset(kovra_asn1_time_getutctime(value.get()));
         if (time == nullptr) {
             text(content_, length_);
             out_.put(" (not a time)");
         } else {
-            out_.put(' ');
+            out_.put(" ");
             put_time(out_, *time);
         }
     }
@@ -264,8 +269,8 @@ private:
 
 } // namespace
 
-const char *universal_name(uint32_t tag) {
-    return tag < names.size() ? names[tag] : nullptr;
+Harmless universal_name(uint32_t tag) {
+    return tag < names.size() ? names[tag] : Harmless();
 }
 
 void put_value(Output &out, const Header &header, const uint8_t *element, ValueStyle style) {
@@ -274,7 +279,7 @@ void put_value(Output &out, const Header &header, const uint8_t *element, ValueS
 
 void put_time(Output &out, const kovra_time &time) {
     const struct {
-        std::string_view before;
+        Harmless before;
         int32_t number;
     } parts[] = {{"", kovra_time_getyear(&time)},    {"-", kovra_time_getmonth(&time)},
                  {"-", kovra_time_getday(&time)},    {" ", kovra_time_gethour(&time)},
@@ -282,15 +287,15 @@ void put_time(Output &out, const kovra_time &time) {
     for (const auto &[before, number] : parts) {
         out.put(before);
         if (number < 10)
-            out.put('0');
+            out.put("0");
         out.put_number(static_cast<uint64_t>(number));
     }
     if (int32_t fraction = kovra_time_getns(&time); fraction != 0) {
-        out.put('.');
+        out.put(".");
         for (int32_t unit = 100000000; fraction != 0; fraction %= unit, unit /= 10)
-            out.put(static_cast<char>('0' + fraction / unit));
+            out.put_number(static_cast<uint64_t>(fraction / unit));
     }
-    out.put(kovra_time_isutctime(&time) == 1 ? " UTC" : " local");
+    out.put(kovra_time_isutctime(&time) == 1 ? Harmless(" UTC") : " local");
 }
 
 } // namespace kovra::tool

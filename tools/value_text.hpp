@@ -14,8 +14,8 @@ struct ValueStyle {
     bool is_colored = false; // names of object identifiers
 };
 
-// The name of a universal tag; null for one that has none.
-const char *universal_name(uint32_t tag);
+// The name of a universal tag; empty for one that has none.
+Harmless universal_name(uint32_t tag);
 
 // Prints the value of a primitive element: a blank, then the value; nothing for an empty one without meaning. Text is
 // quoted; in it control characters, those that turn the direction of writing, and octets that are not of the character

@@ -6,8 +6,8 @@
 namespace kovra::tool {
 
 void version(Session &session) {
-    session.out.put(kovra_asn1_version());
-    session.out.put('\n');
+    session.out.put(Outside(kovra_asn1_version()));
+    session.out.put("\n");
 }
 
 } // namespace kovra::tool
