@@ -2,7 +2,7 @@
 
 file(GLOB KOVRA_UTIL_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/util/*.cpp)
 set(KOVRA_ASN1_SOURCES "")
-foreach(room core types json pkix cms services keys)
+foreach(room core types push json pkix cms services keys)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${room}/*.cpp)
   list(APPEND KOVRA_ASN1_SOURCES ${sources})
 endforeach()

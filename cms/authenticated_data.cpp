@@ -1,7 +1,7 @@
 // AuthenticatedData (RFC 5652, 9.1).
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 
@@ -21,19 +21,7 @@ constexpr char source[] = "ASN1_CMS";
 //     authAttrs         [2] IMPLICIT SET OF Attribute OPTIONAL,
 //     mac               OCTET STRING,
 //     unauthAttrs       [3] IMPLICIT SET OF Attribute OPTIONAL }
-namespace authenticated {
-enum Slot : uint8_t {
-    version,
-    originator,
-    recipients,
-    mac_algorithm,
-    digest_algorithm,
-    content,
-    authenticated_attributes,
-    mac,
-    unauthenticated_attributes,
-};
-constexpr Component components[] = {
+constexpr Component authenticated_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     optional("originatorInfo", KOVRA_ASN1_TYPE_ORIGINATOR_INFO, implicit_tag(0)),
     required("recipientInfos", KOVRA_ASN1_TYPE_RECIPIENT_INFOS),
@@ -44,12 +32,10 @@ constexpr Component components[] = {
     required("mac", KOVRA_ASN1_TYPE_OCTET_STRING),
     optional("unauthAttrs", KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTES, implicit_tag(3)),
 };
-static_assert(is_sound(components));
-} // namespace authenticated
 
 } // namespace
 
-constexpr Structure authenticated_data = structure(source, authenticated::components);
+constexpr Structure authenticated_data = structure(source, authenticated_components);
 
 } // namespace kovra::asn1
 
@@ -60,58 +46,58 @@ kovra_asn1_value *kovra_cmsauthdata_new(const kovra_asn1_value *version, const k
                                         const kovra_asn1_value *mac_algorithm, const kovra_asn1_value *digest_algorithm,
                                         const kovra_asn1_value *encap_content_info, const kovra_asn1_value *auth_attrs,
                                         const kovra_asn1_value *mac, const kovra_asn1_value *unauth_attrs) noexcept {
-    return construct(authenticated_data, version, originator_info_value, recipient_infos_list, mac_algorithm,
-                     digest_algorithm, encap_content_info, auth_attrs, mac, unauth_attrs);
+    return construct<authenticated_data>(version, originator_info_value, recipient_infos_list, mac_algorithm,
+                                         digest_algorithm, encap_content_info, auth_attrs, mac, unauth_attrs);
 }
 
 kovra_asn1_value *kovra_cmsauthdata_getversion(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::version);
+    return part<authenticated_data, "version">(obj);
 }
 
 kovra_asn1_value *kovra_cmsauthdata_getoriginator(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::originator);
+    return part<authenticated_data, "originatorInfo">(obj);
 }
 
 int32_t kovra_cmsauthdata_hasoriginator(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::originator) != nullptr ? 1 : 0;
+    return has_part<authenticated_data, "originatorInfo">(obj);
 }
 
 kovra_asn1_value *kovra_cmsauthdata_getrecipinfos(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::recipients);
+    return part<authenticated_data, "recipientInfos">(obj);
 }
 
 kovra_asn1_value *kovra_cmsauthdata_getmacalgo(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::mac_algorithm);
+    return part<authenticated_data, "macAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_cmsauthdata_gethashalgo(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::digest_algorithm);
+    return part<authenticated_data, "digestAlgorithm">(obj);
 }
 
 int32_t kovra_cmsauthdata_hashashalgo(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::digest_algorithm) != nullptr ? 1 : 0;
+    return has_part<authenticated_data, "digestAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_cmsauthdata_getencapinfo(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::content);
+    return part<authenticated_data, "encapContentInfo">(obj);
 }
 
 kovra_asn1_value *kovra_cmsauthdata_getauthatrrs(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::authenticated_attributes);
+    return part<authenticated_data, "authAttrs">(obj);
 }
 
 int32_t kovra_cmsauthdata_hasauthatrrs(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::authenticated_attributes) != nullptr ? 1 : 0;
+    return has_part<authenticated_data, "authAttrs">(obj);
 }
 
 kovra_asn1_value *kovra_cmsauthdata_getmac(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::mac);
+    return part<authenticated_data, "mac">(obj);
 }
 
 kovra_asn1_value *kovra_cmsauthdata_getunauthatrrs(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::unauthenticated_attributes);
+    return part<authenticated_data, "unauthAttrs">(obj);
 }
 
 int32_t kovra_cmsauthdata_hasunauthatrrs(const kovra_asn1_value *obj) noexcept {
-    return component(authenticated_data, obj, authenticated::unauthenticated_attributes) != nullptr ? 1 : 0;
+    return has_part<authenticated_data, "unauthAttrs">(obj);
 }

@@ -1,9 +1,8 @@
 // CertificateChoices, CertificateSet and OtherCertificateFormat (RFC 5652, 10.2.2, 10.2.3, 10.2.5).
 
-#include "core/choice.hpp"
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 
@@ -16,13 +15,10 @@ constexpr char source[] = "ASN1_CMS";
 // OtherCertificateFormat ::= SEQUENCE {
 //     otherCertFormat  OBJECT IDENTIFIER,
 //     otherCert        ANY DEFINED BY otherCertFormat }
-namespace other_format {
-enum Slot : uint8_t { format, value };
-constexpr Component components[] = {
+constexpr Component other_format_components[] = {
     required("otherCertFormat", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("otherCert", KOVRA_ASN1_TYPE_ANY),
 };
-} // namespace other_format
 
 // CertificateChoices ::= CHOICE {
 //     certificate          Certificate,
@@ -32,22 +28,18 @@ constexpr Component components[] = {
 //     other                [3] IMPLICIT OtherCertificateFormat }
 // The certificates of the old and of attributes stay undissected: lists of their components. Decoding reports `other`
 // with the code of v2AttrCert.
-namespace certificate_choice {
-enum Alternative : uint8_t { public_key, extended, v1_attribute, v2_attribute, other };
-constexpr Component alternatives[] = {
+constexpr Component certificate_choice_alternatives[] = {
     required("certificate", KOVRA_ASN1_TYPE_CERTIFICATE),
     required("extendedCertificate", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY_1, implicit_tag(0)).codes(0x10343, 0x10344),
     required("v1AttrCert", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY_1, implicit_tag(1)).codes(0x10345, 0x10346),
     required("v2AttrCert", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY_1, implicit_tag(2)).codes(0x10347, 0x10348),
     required("other", KOVRA_ASN1_TYPE_OTHER_CERTIFICATE_FORMAT, implicit_tag(3)).codes(0x1033f, 0x10348),
 };
-static_assert(is_sound(alternatives));
-} // namespace certificate_choice
 
 } // namespace
 
-constexpr Structure other_certificate_format = structure(source, other_format::components);
-constexpr ChoiceShape certificate_choices = choice(source, certificate_choice::alternatives);
+constexpr Structure other_certificate_format = structure(source, other_format_components);
+constexpr ChoiceShape certificate_choices = choice(source, certificate_choice_alternatives);
 // CertificateSet ::= SET OF CertificateChoices
 constexpr ListShape certificate_set = {KOVRA_ASN1_TYPE_CERTIFICATE_CHOICES, ListReading::inlined, nullptr, source};
 
@@ -56,11 +48,11 @@ constexpr ListShape certificate_set = {KOVRA_ASN1_TYPE_CERTIFICATE_CHOICES, List
 using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_cmscertchoice_newx509pubkeycert(const kovra_asn1_value *certificate_value) noexcept {
-    return construct_choice(certificate_choices, certificate_choice::public_key, certificate_value);
+    return construct_choice<certificate_choices, "certificate">(certificate_value);
 }
 
 kovra_asn1_value *kovra_cmscertchoice_newothercert(const kovra_asn1_value *other_format_value) noexcept {
-    return construct_choice(certificate_choices, certificate_choice::other, other_format_value);
+    return construct_choice<certificate_choices, "other">(other_format_value);
 }
 
 int32_t kovra_cmscertchoice_gettype(const kovra_asn1_value *obj) noexcept {
@@ -76,13 +68,13 @@ kovra_asn1_value *kovra_cmscertchoice_getothercert(const kovra_asn1_value *obj) 
 }
 
 kovra_asn1_value *kovra_cmsothercertformat_new(const kovra_asn1_value *format, const kovra_asn1_value *value) noexcept {
-    return construct(other_certificate_format, format, value);
+    return construct<other_certificate_format>(format, value);
 }
 
 kovra_asn1_value *kovra_cmsothercertformat_getformat(const kovra_asn1_value *obj) noexcept {
-    return component(other_certificate_format, obj, other_format::format);
+    return part<other_certificate_format, "otherCertFormat">(obj);
 }
 
 kovra_asn1_value *kovra_cmsothercertformat_getothercert(const kovra_asn1_value *obj) noexcept {
-    return component(other_certificate_format, obj, other_format::value);
+    return part<other_certificate_format, "otherCert">(obj);
 }

@@ -1,7 +1,7 @@
 // EncapsulatedContentInfo (RFC 5652, 5.2).
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 
@@ -14,18 +14,14 @@ constexpr char source[] = "ASN1_CMS";
 // EncapsulatedContentInfo ::= SEQUENCE {
 //     eContentType  OBJECT IDENTIFIER,
 //     eContent      [0] EXPLICIT OCTET STRING OPTIONAL }
-namespace encapsulated {
-enum Slot : uint8_t { content_type, content };
-constexpr Component components[] = {
+constexpr Component encapsulated_components[] = {
     required("eContentType", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     optional("eContent", KOVRA_ASN1_TYPE_OCTET_STRING, explicit_tag(0)),
 };
-static_assert(is_sound(components));
-} // namespace encapsulated
 
 } // namespace
 
-constexpr Structure encapsulated_content_info = structure(source, encapsulated::components);
+constexpr Structure encapsulated_content_info = structure(source, encapsulated_components);
 
 } // namespace kovra::asn1
 
@@ -33,13 +29,13 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_cmsencapsulatedcontentinfo_new(const kovra_asn1_value *content_type,
                                                        const kovra_asn1_value *content) noexcept {
-    return construct(encapsulated_content_info, content_type, content);
+    return construct<encapsulated_content_info>(content_type, content);
 }
 
 kovra_asn1_value *kovra_cmsencapsulatedcontentinfo_getcontenttype(const kovra_asn1_value *obj) noexcept {
-    return component(encapsulated_content_info, obj, encapsulated::content_type);
+    return part<encapsulated_content_info, "eContentType">(obj);
 }
 
 kovra_asn1_value *kovra_cmsencapsulatedcontentinfo_getcontent(const kovra_asn1_value *obj) noexcept {
-    return component(encapsulated_content_info, obj, encapsulated::content);
+    return part<encapsulated_content_info, "eContent">(obj);
 }

@@ -1,9 +1,8 @@
 // RecipientInfo and its kinds (RFC 5652, 6.2), but for key agreement.
 
-#include "core/choice.hpp"
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 
@@ -18,15 +17,12 @@ constexpr char source[] = "ASN1_CMS";
 //     rid                     SignerIdentifier,
 //     keyEncryptionAlgorithm  AlgorithmIdentifier,
 //     encryptedKey            OCTET STRING }
-namespace transport {
-enum Slot : uint8_t { version, recipient, algorithm, key };
-constexpr Component components[] = {
+constexpr Component transport_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("rid", KOVRA_ASN1_TYPE_SIGNER_IDENTIFIER),
     required("keyEncryptionAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("encryptedKey", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
-} // namespace transport
 
 // KEKRecipientInfo ::= SEQUENCE {
 //     version                 INTEGER,
@@ -34,15 +30,12 @@ constexpr Component components[] = {
 //     keyEncryptionAlgorithm  AlgorithmIdentifier,
 //     encryptedKey            OCTET STRING }
 // A KEKIdentifier has the components of a RecipientKeyIdentifier.
-namespace kek {
-enum Slot : uint8_t { version, identifier, algorithm, key };
-constexpr Component components[] = {
+constexpr Component kek_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("kekid", KOVRA_ASN1_TYPE_RECIPIENT_KEY_IDENTIFIER),
     required("keyEncryptionAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("encryptedKey", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
-} // namespace kek
 
 // PasswordRecipientInfo ::= SEQUENCE {
 //     version                 INTEGER,
@@ -50,28 +43,21 @@ constexpr Component components[] = {
 //     keyEncryptionAlgorithm  AlgorithmIdentifier,
 //     encryptedKey            OCTET STRING }
 // keyDerivationAlgorithm is written under an implicit tag and read under an explicit one.
-namespace password {
-enum Slot : uint8_t { version, derivation, algorithm, key };
-constexpr Component components[] = {
+constexpr Component password_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     optional("keyDerivationAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, explicit_tag(0))
         .encode_under(implicit_tag(0)),
     required("keyEncryptionAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("encryptedKey", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
-static_assert(is_sound(components));
-} // namespace password
 
 // OtherRecipientInfo ::= SEQUENCE {
 //     oriType   OBJECT IDENTIFIER,
 //     oriValue  ANY DEFINED BY oriType }
-namespace other_recipient {
-enum Slot : uint8_t { type, value };
-constexpr Component components[] = {
+constexpr Component other_recipient_components[] = {
     required("oriType", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("oriValue", KOVRA_ASN1_TYPE_ANY),
 };
-} // namespace other_recipient
 
 // RecipientInfo ::= CHOICE {
 //     ktri   KeyTransRecipientInfo,
@@ -79,25 +65,21 @@ constexpr Component components[] = {
 //     kekri  [2] IMPLICIT KEKRecipientInfo,
 //     pwri   [3] IMPLICIT PasswordRecipientInfo,
 //     ori    [4] IMPLICIT OtherRecipientInfo }
-namespace recipient {
-enum Alternative : uint8_t { key_transport, key_agreement, key_encryption_key, password, other };
-constexpr Component alternatives[] = {
+constexpr Component recipient_alternatives[] = {
     required("ktri", KOVRA_ASN1_TYPE_KEY_TRANS_RECIPIENT_INFO),
     required("kari", KOVRA_ASN1_TYPE_KEY_AGREE_RECIPIENT_INFO, implicit_tag(1)),
     required("kekri", KOVRA_ASN1_TYPE_KEK_RECIPIENT_INFO, implicit_tag(2)),
     required("pwri", KOVRA_ASN1_TYPE_PASSWORD_RECIPIENT_INFO, implicit_tag(3)),
     required("ori", KOVRA_ASN1_TYPE_OTHER_RECIPIENT_INFO, implicit_tag(4)),
 };
-static_assert(is_sound(alternatives));
-} // namespace recipient
 
 } // namespace
 
-constexpr Structure key_trans_recipient_info = structure(source, transport::components);
-constexpr Structure kek_recipient_info = structure(source, kek::components);
-constexpr Structure password_recipient_info = structure(source, password::components);
-constexpr Structure other_recipient_info = structure(source, other_recipient::components);
-constexpr ChoiceShape recipient_info = choice(source, recipient::alternatives);
+constexpr Structure key_trans_recipient_info = structure(source, transport_components);
+constexpr Structure kek_recipient_info = structure(source, kek_components);
+constexpr Structure password_recipient_info = structure(source, password_components);
+constexpr Structure other_recipient_info = structure(source, other_recipient_components);
+constexpr ChoiceShape recipient_info = choice(source, recipient_alternatives);
 // RecipientInfos ::= SET OF RecipientInfo
 constexpr ListShape recipient_infos = {KOVRA_ASN1_TYPE_RECIPIENT_INFO, ListReading::dispatched};
 
@@ -106,23 +88,23 @@ constexpr ListShape recipient_infos = {KOVRA_ASN1_TYPE_RECIPIENT_INFO, ListReadi
 using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_cmsrecipientinfo_newktri(const kovra_asn1_value *ktri) noexcept {
-    return construct_choice(recipient_info, recipient::key_transport, ktri);
+    return construct_choice<recipient_info, "ktri">(ktri);
 }
 
 kovra_asn1_value *kovra_cmsrecipientinfo_newkari(const kovra_asn1_value *kari) noexcept {
-    return construct_choice(recipient_info, recipient::key_agreement, kari);
+    return construct_choice<recipient_info, "kari">(kari);
 }
 
 kovra_asn1_value *kovra_cmsrecipientinfo_newkekri(const kovra_asn1_value *kekri) noexcept {
-    return construct_choice(recipient_info, recipient::key_encryption_key, kekri);
+    return construct_choice<recipient_info, "kekri">(kekri);
 }
 
 kovra_asn1_value *kovra_cmsrecipientinfo_newpwri(const kovra_asn1_value *pwri) noexcept {
-    return construct_choice(recipient_info, recipient::password, pwri);
+    return construct_choice<recipient_info, "pwri">(pwri);
 }
 
 kovra_asn1_value *kovra_cmsrecipientinfo_newori(const kovra_asn1_value *ori) noexcept {
-    return construct_choice(recipient_info, recipient::other, ori);
+    return construct_choice<recipient_info, "ori">(ori);
 }
 
 int32_t kovra_cmsrecipientinfo_gettype(const kovra_asn1_value *obj) noexcept {
@@ -152,83 +134,83 @@ kovra_asn1_value *kovra_cmsrecipientinfo_getori(const kovra_asn1_value *obj) noe
 kovra_asn1_value *kovra_cmskeytransrecipientinfo_new(const kovra_asn1_value *version, const kovra_asn1_value *rid,
                                                      const kovra_asn1_value *algorithm,
                                                      const kovra_asn1_value *encrypted_key) noexcept {
-    return construct(key_trans_recipient_info, version, rid, algorithm, encrypted_key);
+    return construct<key_trans_recipient_info>(version, rid, algorithm, encrypted_key);
 }
 
 kovra_asn1_value *kovra_cmskeytransrecipientinfo_getversion(const kovra_asn1_value *obj) noexcept {
-    return component(key_trans_recipient_info, obj, transport::version);
+    return part<key_trans_recipient_info, "version">(obj);
 }
 
 kovra_asn1_value *kovra_cmskeytransrecipientinfo_getrid(const kovra_asn1_value *obj) noexcept {
-    return component(key_trans_recipient_info, obj, transport::recipient);
+    return part<key_trans_recipient_info, "rid">(obj);
 }
 
 kovra_asn1_value *kovra_cmskeytransrecipientinfo_getencalgo(const kovra_asn1_value *obj) noexcept {
-    return component(key_trans_recipient_info, obj, transport::algorithm);
+    return part<key_trans_recipient_info, "keyEncryptionAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_cmskeytransrecipientinfo_getenckey(const kovra_asn1_value *obj) noexcept {
-    return component(key_trans_recipient_info, obj, transport::key);
+    return part<key_trans_recipient_info, "encryptedKey">(obj);
 }
 
 kovra_asn1_value *kovra_cmskekrecipientinfo_new(const kovra_asn1_value *version, const kovra_asn1_value *kekid,
                                                 const kovra_asn1_value *algorithm,
                                                 const kovra_asn1_value *encrypted_key) noexcept {
-    return construct(kek_recipient_info, version, kekid, algorithm, encrypted_key);
+    return construct<kek_recipient_info>(version, kekid, algorithm, encrypted_key);
 }
 
 kovra_asn1_value *kovra_cmskekrecipientinfo_getversion(const kovra_asn1_value *obj) noexcept {
-    return component(kek_recipient_info, obj, kek::version);
+    return part<kek_recipient_info, "version">(obj);
 }
 
 kovra_asn1_value *kovra_cmskekrecipientinfo_getkekid(const kovra_asn1_value *obj) noexcept {
-    return component(kek_recipient_info, obj, kek::identifier);
+    return part<kek_recipient_info, "kekid">(obj);
 }
 
 kovra_asn1_value *kovra_cmskekrecipientinfo_getencalgo(const kovra_asn1_value *obj) noexcept {
-    return component(kek_recipient_info, obj, kek::algorithm);
+    return part<kek_recipient_info, "keyEncryptionAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_cmskekrecipientinfo_getenckey(const kovra_asn1_value *obj) noexcept {
-    return component(kek_recipient_info, obj, kek::key);
+    return part<kek_recipient_info, "encryptedKey">(obj);
 }
 
 kovra_asn1_value *kovra_cmspwdrecipientinfo_new(const kovra_asn1_value *version,
                                                 const kovra_asn1_value *derivation_algorithm,
                                                 const kovra_asn1_value *algorithm,
                                                 const kovra_asn1_value *encrypted_key) noexcept {
-    return construct(password_recipient_info, version, derivation_algorithm, algorithm, encrypted_key);
+    return construct<password_recipient_info>(version, derivation_algorithm, algorithm, encrypted_key);
 }
 
 kovra_asn1_value *kovra_cmspwdrecipientinfo_getversion(const kovra_asn1_value *obj) noexcept {
-    return component(password_recipient_info, obj, password::version);
+    return part<password_recipient_info, "version">(obj);
 }
 
 kovra_asn1_value *kovra_cmspwdrecipientinfo_getderivalgo(const kovra_asn1_value *obj) noexcept {
-    return component(password_recipient_info, obj, password::derivation);
+    return part<password_recipient_info, "keyDerivationAlgorithm">(obj);
 }
 
 int32_t kovra_cmspwdrecipientinfo_hasderivalgo(const kovra_asn1_value *obj) noexcept {
-    return component(password_recipient_info, obj, password::derivation) != nullptr ? 1 : 0;
+    return has_part<password_recipient_info, "keyDerivationAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_cmspwdrecipientinfo_getencalgo(const kovra_asn1_value *obj) noexcept {
-    return component(password_recipient_info, obj, password::algorithm);
+    return part<password_recipient_info, "keyEncryptionAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_cmspwdrecipientinfo_getenckey(const kovra_asn1_value *obj) noexcept {
-    return component(password_recipient_info, obj, password::key);
+    return part<password_recipient_info, "encryptedKey">(obj);
 }
 
 kovra_asn1_value *kovra_cmsotherrecipientinfo_new(const kovra_asn1_value *type,
                                                   const kovra_asn1_value *value) noexcept {
-    return construct(other_recipient_info, type, value);
+    return construct<other_recipient_info>(type, value);
 }
 
 kovra_asn1_value *kovra_cmsotherrecipientinfo_gettype(const kovra_asn1_value *obj) noexcept {
-    return component(other_recipient_info, obj, other_recipient::type);
+    return part<other_recipient_info, "oriType">(obj);
 }
 
 kovra_asn1_value *kovra_cmsotherrecipientinfo_getvalue(const kovra_asn1_value *obj) noexcept {
-    return component(other_recipient_info, obj, other_recipient::value);
+    return part<other_recipient_info, "oriValue">(obj);
 }

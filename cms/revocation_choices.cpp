@@ -1,9 +1,8 @@
 // RevocationInfoChoice, RevocationInfoChoices and OtherRevocationInfoFormat (RFC 5652, 10.2.1).
 
-#include "core/choice.hpp"
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 
@@ -16,26 +15,24 @@ constexpr char source[] = "ASN1_CMS";
 // OtherRevocationInfoFormat ::= SEQUENCE {
 //     otherRevInfoFormat  OBJECT IDENTIFIER,
 //     otherRevInfo        ANY DEFINED BY otherRevInfoFormat }
-// It is an OtherCertificateFormat with other codes.
-namespace other_format {
-enum Slot : uint8_t { format, value };
-} // namespace other_format
+// Its records are OtherCertificateFormats.
+constexpr Component other_components[] = {
+    required("otherRevInfoFormat", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
+    required("otherRevInfo", KOVRA_ASN1_TYPE_ANY),
+};
 
 // RevocationInfoChoice ::= CHOICE {
 //     crl    CertificateList,
 //     other  [1] IMPLICIT OtherRevocationInfoFormat }
-namespace revocation_choice {
-enum Alternative : uint8_t { crl, other };
-constexpr Component alternatives[] = {
+constexpr Component revocation_choice_alternatives[] = {
     required("crl", KOVRA_ASN1_TYPE_CERTIFICATE_LIST),
     required("other", KOVRA_ASN1_TYPE_OTHER_REVOCATION_INFO_FORMAT, implicit_tag(1)),
 };
-static_assert(is_sound(alternatives));
-} // namespace revocation_choice
 
 } // namespace
 
-constexpr ChoiceShape revocation_info_choice = choice(source, revocation_choice::alternatives);
+constexpr Structure other_revocation_info_format = alike(source, other_components, other_certificate_format);
+constexpr ChoiceShape revocation_info_choice = choice(source, revocation_choice_alternatives);
 // RevocationInfoChoices ::= SET OF RevocationInfoChoice
 constexpr ListShape revocation_info_choices = {KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICE, ListReading::inlined, nullptr,
                                                source};
@@ -45,11 +42,11 @@ constexpr ListShape revocation_info_choices = {KOVRA_ASN1_TYPE_REVOCATION_INFO_C
 using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_cmsrevinfochoice_newcrl(const kovra_asn1_value *crl) noexcept {
-    return construct_choice(revocation_info_choice, revocation_choice::crl, crl);
+    return construct_choice<revocation_info_choice, "crl">(crl);
 }
 
 kovra_asn1_value *kovra_cmsrevinfochoice_newotherrevinfo(const kovra_asn1_value *other_format_value) noexcept {
-    return construct_choice(revocation_info_choice, revocation_choice::other, other_format_value);
+    return construct_choice<revocation_info_choice, "other">(other_format_value);
 }
 
 int32_t kovra_cmsrevinfochoice_gettype(const kovra_asn1_value *obj) noexcept {
@@ -66,13 +63,13 @@ kovra_asn1_value *kovra_cmsrevinfochoice_getotherrevinfo(const kovra_asn1_value 
 
 kovra_asn1_value *kovra_cmsotherrevinfoformat_new(const kovra_asn1_value *format,
                                                   const kovra_asn1_value *value) noexcept {
-    return construct(other_certificate_format, format, value);
+    return construct<other_revocation_info_format>(format, value);
 }
 
 kovra_asn1_value *kovra_cmsotherrevinfoformat_getformat(const kovra_asn1_value *obj) noexcept {
-    return component(other_certificate_format, obj, other_format::format);
+    return part<other_revocation_info_format, "otherRevInfoFormat">(obj);
 }
 
 kovra_asn1_value *kovra_cmsotherrevinfoformat_getotherrevinfo(const kovra_asn1_value *obj) noexcept {
-    return component(other_certificate_format, obj, other_format::value);
+    return part<other_revocation_info_format, "otherRevInfo">(obj);
 }

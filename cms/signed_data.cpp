@@ -3,7 +3,7 @@
 #include "core/any.hpp"
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_pkcs7.h"
 #include "kovra/asn1_types.h"
 
@@ -21,9 +21,7 @@ constexpr char source[] = "ASN1_PKCS7";
 //     crls              [1] IMPLICIT RevocationInfoChoices OPTIONAL,
 //     signerInfos       SignerInfos }
 // No version is tied to what else is there.
-namespace signed_message {
-enum Slot : uint8_t { version, digest_algorithms, content, certificates, crls, signers };
-constexpr Component components[] = {
+constexpr Component signed_message_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("digestAlgorithms", KOVRA_ASN1_TYPE_DIGEST_ALGORITHM_IDENTIFIERS),
     required("contentInfo", KOVRA_ASN1_TYPE_CONTENT_INFO),
@@ -31,20 +29,17 @@ constexpr Component components[] = {
     optional("crls", KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICES, implicit_tag(1)),
     required("signerInfos", KOVRA_ASN1_TYPE_SIGNER_INFOS),
 };
-static_assert(is_sound(components));
-} // namespace signed_message
 
 // In CMS the content is an OCTET STRING, in either form, or detached; in PKCS #7 it is anything.
 constexpr int32_t not_an_octet_string = 0x10355;
 bool is_octet_string_or_absent(const Record &record) {
-    const auto *content =
-        as<Any>(kovra_pkcs7contentinfo_getcontent(component(pkcs7_signed_data, &record, signed_message::content)));
+    const auto *content = as<Any>(kovra_pkcs7contentinfo_getcontent(part<pkcs7_signed_data, "contentInfo">(&record)));
     return content == nullptr || (content->tag_class == Class::universal && content->tag == tag::octet_string);
 }
 
 } // namespace
 
-constexpr Structure pkcs7_signed_data = structure(source, signed_message::components);
+constexpr Structure pkcs7_signed_data = structure(source, signed_message_components);
 constexpr Structure cms_signed_data =
     restricted(pkcs7_signed_data, is_octet_string_or_absent, not_an_octet_string, false);
 // DigestAlgorithmIdentifiers ::= SET OF AlgorithmIdentifier
@@ -59,38 +54,38 @@ kovra_asn1_value *kovra_pkcs7signeddata_new(const kovra_asn1_value *version,
                                             const kovra_asn1_value *content_info_value,
                                             const kovra_asn1_value *certificates, const kovra_asn1_value *crls,
                                             const kovra_asn1_value *signers) noexcept {
-    return construct(pkcs7_signed_data, version, digest_algorithms_list, content_info_value, certificates, crls,
-                     signers);
+    return construct<pkcs7_signed_data>(version, digest_algorithms_list, content_info_value, certificates, crls,
+                                        signers);
 }
 
 kovra_asn1_value *kovra_pkcs7signeddata_getversion(const kovra_asn1_value *obj) noexcept {
-    return component(pkcs7_signed_data, obj, signed_message::version);
+    return part<pkcs7_signed_data, "version">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs7signeddata_getdigestalgos(const kovra_asn1_value *obj) noexcept {
-    return component(pkcs7_signed_data, obj, signed_message::digest_algorithms);
+    return part<pkcs7_signed_data, "digestAlgorithms">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs7signeddata_getcontentinfo(const kovra_asn1_value *obj) noexcept {
-    return component(pkcs7_signed_data, obj, signed_message::content);
+    return part<pkcs7_signed_data, "contentInfo">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs7signeddata_getcerts(const kovra_asn1_value *obj) noexcept {
-    return component(pkcs7_signed_data, obj, signed_message::certificates);
+    return part<pkcs7_signed_data, "certificates">(obj);
 }
 
 int32_t kovra_pkcs7signeddata_hascerts(const kovra_asn1_value *obj) noexcept {
-    return component(pkcs7_signed_data, obj, signed_message::certificates) != nullptr ? 1 : 0;
+    return has_part<pkcs7_signed_data, "certificates">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs7signeddata_getcrls(const kovra_asn1_value *obj) noexcept {
-    return component(pkcs7_signed_data, obj, signed_message::crls);
+    return part<pkcs7_signed_data, "crls">(obj);
 }
 
 int32_t kovra_pkcs7signeddata_hascrls(const kovra_asn1_value *obj) noexcept {
-    return component(pkcs7_signed_data, obj, signed_message::crls) != nullptr ? 1 : 0;
+    return has_part<pkcs7_signed_data, "crls">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs7signeddata_getsignerinfos(const kovra_asn1_value *obj) noexcept {
-    return component(pkcs7_signed_data, obj, signed_message::signers);
+    return part<pkcs7_signed_data, "signerInfos">(obj);
 }

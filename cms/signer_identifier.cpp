@@ -1,8 +1,7 @@
 // Who signed, or whom a key is encrypted for: IssuerAndSerialNumber and SignerIdentifier (RFC 5652, 10.2.4, 5.3).
 
-#include "core/choice.hpp"
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 
@@ -15,30 +14,23 @@ constexpr char source[] = "ASN1_CMS";
 // IssuerAndSerialNumber ::= SEQUENCE {
 //     issuer        Name,
 //     serialNumber  INTEGER }
-namespace issuer_and_serial {
-enum Slot : uint8_t { issuer, serial_number };
-constexpr Component components[] = {
+constexpr Component issuer_and_serial_components[] = {
     required("issuer", KOVRA_ASN1_TYPE_NAME),
     required("serialNumber", KOVRA_ASN1_TYPE_INTEGER),
 };
-} // namespace issuer_and_serial
 
 // SignerIdentifier ::= CHOICE {
 //     issuerAndSerialNumber  IssuerAndSerialNumber,
 //     subjectKeyIdentifier   [0] IMPLICIT OCTET STRING }
-namespace identifier {
-enum Alternative : uint8_t { issuer_and_serial_number, subject_key_identifier };
-constexpr Component alternatives[] = {
+constexpr Component identifier_alternatives[] = {
     required("issuerAndSerialNumber", KOVRA_ASN1_TYPE_ISSUER_AND_SERIAL_NUMBER),
     required("subjectKeyIdentifier", KOVRA_ASN1_TYPE_OCTET_STRING, implicit_tag(0)),
 };
-static_assert(is_sound(alternatives));
-} // namespace identifier
 
 } // namespace
 
-constexpr Structure issuer_and_serial_number = structure(source, issuer_and_serial::components);
-constexpr ChoiceShape signer_identifier = choice(source, identifier::alternatives);
+constexpr Structure issuer_and_serial_number = structure(source, issuer_and_serial_components);
+constexpr ChoiceShape signer_identifier = choice(source, identifier_alternatives);
 
 } // namespace kovra::asn1
 
@@ -46,23 +38,23 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_cmsissuerandsn_new(const kovra_asn1_value *issuer,
                                            const kovra_asn1_value *serial_number) noexcept {
-    return construct(issuer_and_serial_number, issuer, serial_number);
+    return construct<issuer_and_serial_number>(issuer, serial_number);
 }
 
 kovra_asn1_value *kovra_cmsissuerandsn_getissuer(const kovra_asn1_value *obj) noexcept {
-    return component(issuer_and_serial_number, obj, issuer_and_serial::issuer);
+    return part<issuer_and_serial_number, "issuer">(obj);
 }
 
 kovra_asn1_value *kovra_cmsissuerandsn_getsn(const kovra_asn1_value *obj) noexcept {
-    return component(issuer_and_serial_number, obj, issuer_and_serial::serial_number);
+    return part<issuer_and_serial_number, "serialNumber">(obj);
 }
 
 kovra_asn1_value *kovra_cmssignerid_newissuersn(const kovra_asn1_value *issuer_and_serial) noexcept {
-    return construct_choice(signer_identifier, identifier::issuer_and_serial_number, issuer_and_serial);
+    return construct_choice<signer_identifier, "issuerAndSerialNumber">(issuer_and_serial);
 }
 
 kovra_asn1_value *kovra_cmssignerid_newsubkeyid(const kovra_asn1_value *key_identifier) noexcept {
-    return construct_choice(signer_identifier, identifier::subject_key_identifier, key_identifier);
+    return construct_choice<signer_identifier, "subjectKeyIdentifier">(key_identifier);
 }
 
 int32_t kovra_cmssignerid_gettype(const kovra_asn1_value *obj) noexcept {

@@ -2,7 +2,7 @@
 
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 
@@ -20,17 +20,7 @@ constexpr char source[] = "ASN1_CMS";
 //     signatureAlgorithm  AlgorithmIdentifier,
 //     signature           OCTET STRING,
 //     unsignedAttrs       [1] IMPLICIT SET OF Attribute OPTIONAL }
-namespace signer {
-enum Slot : uint8_t {
-    version,
-    identifier,
-    digest_algorithm,
-    signed_attributes,
-    signature_algorithm,
-    signature,
-    unsigned_attributes,
-};
-constexpr Component components[] = {
+constexpr Component signer_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("sid", KOVRA_ASN1_TYPE_SIGNER_IDENTIFIER),
     required("digestAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
@@ -39,12 +29,10 @@ constexpr Component components[] = {
     required("signature", KOVRA_ASN1_TYPE_OCTET_STRING),
     optional("unsignedAttrs", KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTES, implicit_tag(1)),
 };
-static_assert(is_sound(components));
-} // namespace signer
 
 } // namespace
 
-constexpr Structure signer_info = structure(source, signer::components);
+constexpr Structure signer_info = structure(source, signer_components);
 // SignerInfos ::= SET OF SignerInfo
 constexpr ListShape signer_infos = {KOVRA_ASN1_TYPE_SIGNER_INFO};
 
@@ -58,42 +46,42 @@ kovra_asn1_value *kovra_cmssignerinfo_new(const kovra_asn1_value *version, const
                                           const kovra_asn1_value *signature_algorithm,
                                           const kovra_asn1_value *signature,
                                           const kovra_asn1_value *unsigned_attrs) noexcept {
-    return construct(signer_info, version, sid, digest_algorithm, signed_attrs, signature_algorithm, signature,
-                     unsigned_attrs);
+    return construct<signer_info>(version, sid, digest_algorithm, signed_attrs, signature_algorithm, signature,
+                                  unsigned_attrs);
 }
 
 kovra_asn1_value *kovra_cmssignerinfo_getversion(const kovra_asn1_value *obj) noexcept {
-    return component(signer_info, obj, signer::version);
+    return part<signer_info, "version">(obj);
 }
 
 kovra_asn1_value *kovra_cmssignerinfo_getsid(const kovra_asn1_value *obj) noexcept {
-    return component(signer_info, obj, signer::identifier);
+    return part<signer_info, "sid">(obj);
 }
 
 kovra_asn1_value *kovra_cmssignerinfo_getdigestalgo(const kovra_asn1_value *obj) noexcept {
-    return component(signer_info, obj, signer::digest_algorithm);
+    return part<signer_info, "digestAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_cmssignerinfo_getsignattrs(const kovra_asn1_value *obj) noexcept {
-    return component(signer_info, obj, signer::signed_attributes);
+    return part<signer_info, "signedAttrs">(obj);
 }
 
 int32_t kovra_cmssignerinfo_hassignattrs(const kovra_asn1_value *obj) noexcept {
-    return component(signer_info, obj, signer::signed_attributes) != nullptr ? 1 : 0;
+    return has_part<signer_info, "signedAttrs">(obj);
 }
 
 kovra_asn1_value *kovra_cmssignerinfo_getsignalgo(const kovra_asn1_value *obj) noexcept {
-    return component(signer_info, obj, signer::signature_algorithm);
+    return part<signer_info, "signatureAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_cmssignerinfo_getsignature(const kovra_asn1_value *obj) noexcept {
-    return component(signer_info, obj, signer::signature);
+    return part<signer_info, "signature">(obj);
 }
 
 kovra_asn1_value *kovra_cmssignerinfo_getunsignattrs(const kovra_asn1_value *obj) noexcept {
-    return component(signer_info, obj, signer::unsigned_attributes);
+    return part<signer_info, "unsignedAttrs">(obj);
 }
 
 int32_t kovra_cmssignerinfo_hasunsignattrs(const kovra_asn1_value *obj) noexcept {
-    return component(signer_info, obj, signer::unsigned_attributes) != nullptr ? 1 : 0;
+    return has_part<signer_info, "unsignedAttrs">(obj);
 }

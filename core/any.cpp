@@ -5,8 +5,10 @@
 #include <cstring>
 
 #include "base/sizes.hpp"
+#include "core/codec.hpp"
 #include "core/content.hpp"
 #include "core/descriptors.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_any.h"
 #include "kovra/asn1_types.h"
 
@@ -330,7 +332,7 @@ int32_t kovra_asn1_decode_any_ex(kovra_stream *stream, kovra_stream *content_str
         return refuse(ctx, code::null_argument);
     Decoder decoder(stream, ctx);
     Value *value = nullptr;
-    Result result = decoder.decode_root(row(KOVRA_ASN1_TYPE_ANY), value);
+    Result result = decode_root(decoder, row(KOVRA_ASN1_TYPE_ANY), value);
     decoder.advance_stream();
     if (result != success)
         return result;

@@ -5,7 +5,7 @@
 #include <initializer_list>
 
 #include "core/decoder.hpp"
-#include "core/registry.hpp"
+#include "core/type.hpp"
 
 namespace kovra::asn1 {
 

@@ -40,7 +40,7 @@ int32_t choice_content_length(const Type &, Value *value, Measure measure) {
     if (measure == Measure::known)
         return choice->measured;
     const Component &component = chosen(*choice);
-    const Type &type = encode_row(component);
+    const Type &type = row_of(component);
     const Tagging tagging = component.encode_tag.tagging;
     choice->measured = tagging == Tagging::explicit_ || tagging == Tagging::bare ? whole_length(type, choice->value)
                                                                                  : content_length(type, choice->value);
@@ -74,7 +74,7 @@ Result encode_choice_content(Encoder &encoder, const Type &type, Value *value, i
         return encoder.fail(in(shape), code::bad_argument);
     const Component &component = chosen(*choice);
     if (component.encode_tag.tagging == Tagging::bare)
-        length = content_length(encode_row(component), choice->value);
+        length = content_length(row_of(component), choice->value);
     return encode_within_tag(encoder, at(shape, component), component, choice->value, length, Measure::fresh);
 }
 
@@ -83,7 +83,7 @@ uint8_t find(const ChoiceShape &shape, const Identifier &identifier) {
     uint8_t i = 0;
     for (; i < shape.count; ++i) {
         const Component &component = shape.alternatives[i];
-        const Type &type = decode_row(component);
+        const Type &type = row_of(component);
         if (component.tag.tagging == Tagging::none) {
             if (component.begins == Begins::in_any_form ? identifier.is(Class::universal, type.tag)
                                                         : begins(type, identifier))
@@ -117,7 +117,7 @@ Result decode_begun_choice(Decoder &decoder, const Type &type, const Identifier 
             return decoder.fail(site, code::form_error);
         result = decode_explicit(decoder, site, component, element.length, value);
     } else {
-        const Type &content = decode_row(component);
+        const Type &content = row_of(component);
         if (component.tag.tagging == Tagging::none) {
             result = decode_begun(decoder, content, identifier, element, value);
         } else {

@@ -16,7 +16,8 @@ struct ChoiceShape {
 };
 
 template <size_t count>
-constexpr ChoiceShape choice(const char *source, const Component (&alternatives)[count], bool any_form = false) {
+consteval ChoiceShape choice(const char *source, const Component (&alternatives)[count], bool any_form = false) {
+    expect_sound(alternatives, count, true);
     return {source, alternatives, count, any_form};
 }
 

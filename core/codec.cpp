@@ -2,6 +2,9 @@
 
 #include "kovra/asn1_codec.h"
 
+#include <algorithm>
+
+#include "core/codec.hpp"
 #include "core/registry.hpp"
 
 namespace kovra::asn1 {
@@ -104,6 +107,38 @@ Result decode_generic(Decoder &decoder, const Type &type, Value *&out) {
 
 namespace {
 
+template <class Decode>
+Result decode_into_arena(Decoder &decoder, const Type &type, size_t octets, Decode decode_value, Value *&out) {
+    // The records of more octets than these are not made room for at once.
+    constexpr size_t much = 16384;
+    return decoder.into_own_arena(octets, type.operations->records_reserve(std::min(octets, much)), decode_value, out);
+}
+
+} // namespace
+
+Result decode_root(Decoder &decoder, const Type &type, Value *&out) {
+    // An element that is all there tells how much there will be.
+    const uint32_t begin = decoder.position();
+    uint8_t octet = 0;
+    uint32_t length = 0;
+    size_t expected = 0;
+    if (decoder.header(octet, length)) {
+        expected = decoder.position() - begin + size_t{length};
+        decoder.rewind(begin);
+    }
+    return decode_into_arena(
+        decoder, type, expected, [&](Value *&value) { return decode(decoder, type, value); }, out);
+}
+
+Result decode_root_content(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
+    const size_t announced = element.length > 0 ? static_cast<size_t>(element.length) : 0;
+    return decode_into_arena(
+        decoder, type, std::min<size_t>(decoder.reach(), announced),
+        [&](Value *&value) { return type.operations->decode_content(decoder, type, element, value); }, out);
+}
+
+namespace {
+
 enum class Streams : uint8_t { copied, left };
 
 // Once more at most, when streams were left.
@@ -123,7 +158,7 @@ Value *convert_with(const Type &from, const Value *value, const Type &to, Stream
     Decoder decoder(encoder.data(), static_cast<uint32_t>(encoder.size()), ctx);
     decoder.place_streams(encoder.take_notes());
     Value *copy = nullptr;
-    if (decoder.decode_root(to, copy) != success) {
+    if (decode_root(decoder, to, copy) != success) {
         record(ctx, here(), to.base + 1);
         return nullptr;
     }
@@ -266,7 +301,7 @@ int32_t kovra_asn1_decode(kovra_stream *stream, uint32_t type, kovra_asn1_value 
     if (unsupported(type, ctx))
         return refuse_type(out_value);
     return decode_call(stream, type, out_value, out_read, ctx, [](Decoder &decoder, const Type &wanted, Value *&value) {
-        return decoder.decode_root(wanted, value);
+        return decode_root(decoder, wanted, value);
     });
 }
 
@@ -277,7 +312,7 @@ int32_t kovra_asn1_decode_content(kovra_stream *stream, uint32_t type, kovra_asn
     const Element element{form == 0 ? Form::constructed : Form::primitive, length};
     return decode_call(stream, type, out_value, out_read, ctx,
                        [&](Decoder &decoder, const Type &wanted, Value *&value) {
-                           return decoder.decode_root_content(wanted, element, value);
+                           return decode_root_content(decoder, wanted, element, value);
                        });
 }
 
@@ -303,7 +338,7 @@ int32_t kovra_asn1_mem_decode(const void *data, int32_t length, uint32_t type, k
         return -1;
     Decoder decoder(data, static_cast<uint32_t>(length), nullptr);
     Value *value = nullptr;
-    const Result result = decoder.decode_root(row(type), value);
+    const Result result = decode_root(decoder, row(type), value);
     if (result != success || value != nullptr)
         *out_value = value;
     return result == success ? static_cast<int32_t>(decoder.position()) : -1;

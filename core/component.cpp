@@ -2,14 +2,12 @@
 
 #include <cstring>
 
-#include "kovra/asn1_boolean.h"
-#include "kovra/asn1_integer.h"
 #include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {
 
 int32_t component_length(const Component &component, Value *value, Measure measure) {
-    const Type &type = encode_row(component);
+    const Type &type = row_of(component);
     const Tag tag = component.encode_tag;
     switch (tag.tagging) {
     case Tagging::none:
@@ -26,7 +24,7 @@ int32_t component_length(const Component &component, Value *value, Measure measu
 namespace {
 
 Result encode_tagged(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure) {
-    const Type &type = encode_row(component);
+    const Type &type = row_of(component);
     const Tag tag = component.encode_tag;
     const bool is_explicit = tag.tagging == Tagging::explicit_;
     const int32_t length = is_explicit ? whole_length(type, value, measure) : content_length(type, value, measure);
@@ -48,14 +46,14 @@ Result encode_tagged(Encoder &encoder, Site site, const Component &component, Va
 Result encode_component(Encoder &encoder, Site site, const Component &component, Value *value, Measure measure) {
     if (component.encode_tag.tagging != Tagging::none)
         return encode_tagged(encoder, site, component, value, measure);
-    const Result result = encode(encoder, encode_row(component), value, measure);
+    const Result result = encode(encoder, row_of(component), value, measure);
     return result == success ? success : fail_encode(encoder, site, component, result);
 }
 
 Result encode_within_tag(Encoder &encoder, Site site, const Component &component, Value *value, int32_t length,
                          Measure measure) {
     const bool is_explicit = component.encode_tag.tagging == Tagging::explicit_;
-    Result result = is_explicit ? encode(encoder, encode_row(component), value, measure)
+    Result result = is_explicit ? encode(encoder, row_of(component), value, measure)
                                 : encode_component_content(encoder, site, component, value, length);
     if (result != success)
         return fail_encode(encoder, site, component, result);
@@ -67,7 +65,7 @@ Result encode_within_tag(Encoder &encoder, Site site, const Component &component
 
 Result encode_component_content(Encoder &encoder, Site site, const Component &component, Value *value, int32_t length) {
     if (component.content_written_as == nullptr)
-        return encode_content(encoder, encode_row(component), value, length);
+        return encode_content(encoder, row_of(component), value, length);
     const Type &type = *component.content_written_as;
     return holds(type, value) ? encode_content(encoder, type, value, length) : encoder.fail(site, code::incorrect_item);
 }
@@ -86,45 +84,10 @@ Result decode_explicit(Decoder &decoder, Site site, const Component &component, 
     return result == success ? success : decoder.fail(site, code::read_end_of_contents, result);
 }
 
-namespace {
-
-Value *make_zero(Arena &arena) {
-    static constexpr uint8_t zero = 0;
-    auto *integer = new_record<Integer>(arena);
-    if (integer != nullptr)
-        integer->octets = {&zero, 0, 1};
-    return integer;
-}
-bool is_zero(const Value &value) {
-    int32_t number = 0;
-    return kovra_asn1_integer_getlong(&value, &number) == 1 && number == 0;
-}
-
-Value *make_boolean(Arena &arena, uint32_t word) {
-    auto *boolean = new_record<Boolean>(arena);
-    if (boolean != nullptr)
-        boolean->word = word;
-    return boolean;
-}
-Value *make_false(Arena &arena) {
-    return make_boolean(arena, 0);
-}
-Value *make_true(Arena &arena) {
-    return make_boolean(arena, 255);
-}
-bool is_false(const Value &value) {
-    return kovra_asn1_boolean_istrue(&value) == 0;
-}
-bool is_true(const Value &value) {
-    return kovra_asn1_boolean_istrue(&value) == 1;
-}
-
-} // namespace
-
 Value *make_encoded(Arena &arena, uint8_t type, const uint8_t *octets, size_t count) {
     Decoder decoder(octets, static_cast<uint32_t>(count), nullptr);
     Value *value = nullptr;
-    if (decoder.decode_root(row(type), value) != success)
+    if (decode_root(decoder, row(type), value) != success)
         return nullptr;
     if (arena.adopt(value))
         return value;
@@ -140,9 +103,5 @@ bool is_encoded(const Value &value, uint8_t type, const uint8_t *octets, size_t 
            encode(encoder, row(type), own, Measure::known) == success && encoder.size() == count &&
            std::memcmp(encoder.data(), octets, count) == 0;
 }
-
-constexpr Default default_zero = {make_zero, is_zero};
-constexpr Default default_false = {make_false, is_false};
-constexpr Default default_true = {make_true, is_true};
 
 } // namespace kovra::asn1

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/codec.hpp"
 #include "core/registry.hpp"
 #include "kovra/asn1_types.h"
 
@@ -19,13 +20,22 @@ enum class Presence : uint8_t { required, optional, defaulted };
 
 // What an absent component stands for.
 struct Default {
+    uint8_t type;
     Value *(*make)(Arena &); // null when memory is short
     bool (*is)(const Value &);
 };
 
-extern const Default default_zero;  // INTEGER 0, as far as it reads as a 32-bit number
-extern const Default default_false; // BOOLEAN FALSE
-extern const Default default_true;  // BOOLEAN TRUE
+Value *make_zero(Arena &arena);
+Value *make_false(Arena &arena);
+Value *make_true(Arena &arena);
+bool is_zero(const Value &value);
+bool is_false(const Value &value);
+bool is_true(const Value &value);
+
+// INTEGER 0, as far as it reads as a 32-bit number, and the two values of BOOLEAN.
+inline constexpr Default default_zero = {KOVRA_ASN1_TYPE_INTEGER, make_zero, is_zero};
+inline constexpr Default default_false = {KOVRA_ASN1_TYPE_BOOLEAN, make_false, is_false};
+inline constexpr Default default_true = {KOVRA_ASN1_TYPE_BOOLEAN, make_true, is_true};
 
 // What a constant encoding decodes to: a new value, and the test whether one is encoded just so.
 Value *make_encoded(Arena &arena, uint8_t type, const uint8_t *octets, size_t count);
@@ -34,6 +44,7 @@ bool is_encoded(const Value &value, uint8_t type, const uint8_t *octets, size_t 
 // A default given by its type and its encoding.
 template <uint8_t type, const auto &octets>
 inline constexpr Default default_encoding = {
+    type,
     [](Arena &arena) { return make_encoded(arena, type, octets, sizeof octets); },
     [](const Value &value) { return is_encoded(value, type, octets, sizeof octets); },
 };
@@ -80,11 +91,10 @@ struct Component {
     // Codes that stand in for those of the component's type; 0: none does.
     int32_t encode_code = 0;
     int32_t decode_code = 0;
-    // The row as which each direction takes the component, and as which a constructor copies its argument: that of its
-    // type, unless another stands in for it.
-    const Type *written_as = &registry[type];
-    const Type *read_as = &registry[type];
-    const Type *copied_as = &registry[type];
+    // The row as which the component is taken, and as which a constructor copies its argument: that of its type, unless
+    // another stands in for it.
+    const Type *taken_as = &row(type);
+    const Type *copied_as = &row(type);
     // The row that writes the content octets although the lengths are those of the component's own; null: none does.
     const Type *content_written_as = nullptr;
 
@@ -104,19 +114,9 @@ struct Component {
         changed.decode_code = decode;
         return changed;
     }
-    constexpr Component encode_as(uint8_t other) const {
-        Component changed = *this;
-        changed.written_as = &registry[other];
-        return changed;
-    }
-    constexpr Component decode_as(uint8_t other) const {
-        Component changed = *this;
-        changed.read_as = &registry[other];
-        return changed;
-    }
     constexpr Component encode_content_as(uint8_t other) const {
         Component changed = *this;
-        changed.content_written_as = &registry[other];
+        changed.content_written_as = &row(other);
         return changed;
     }
     constexpr Component encode_under(Tag other) const {
@@ -126,13 +126,13 @@ struct Component {
     }
     constexpr Component copy_as(uint8_t other) const {
         Component changed = *this;
-        changed.copied_as = &registry[other];
+        changed.copied_as = &row(other);
         return changed;
     }
     // Of a type that has no number.
     constexpr Component of(const Type &own) const {
         Component changed = *this;
-        changed.written_as = changed.read_as = changed.copied_as = &own;
+        changed.taken_as = changed.copied_as = &own;
         return changed;
     }
 };
@@ -148,30 +148,70 @@ constexpr Component defaulted(const char *name, uint8_t type, const Default &fal
     return {name, type, Presence::defaulted, tag, tag, &fallback, line};
 }
 
-// Free of contradictions, for a static_assert beside a table: no two components have the same tag.
-template <size_t count> consteval bool is_sound(const Component (&components)[count]) {
-    for (size_t i = 0; i < count; ++i) {
-        if (components[i].tag.tagging == Tagging::none)
-            continue;
-        for (size_t j = 0; j < i; ++j)
-            if (components[j].tag.tagging != Tagging::none && components[j].tag.number == components[i].tag.number)
-                return false;
-    }
-    return true;
+// A table that contradicts itself does not compile: `structure` and `choice` call one of these, which are not
+// constexpr, so that the error names what is wrong.
+inline void an_implicit_tag_on_a_type_without_a_tag_of_its_own() {}
+inline void components_that_cannot_be_told_apart() {}
+inline void two_components_of_one_name() {}
+inline void a_default_of_another_type() {}
+
+// Has the type a tag that an implicit one can stand for? Choices and the open type have none.
+constexpr bool has_own_tag(const Type &type) {
+    return type.tag != 0 || type.number == KOVRA_ASN1_TYPE_STRING;
 }
 
-// The types and codes that apply in each direction.
-inline const Type &encode_row(const Component &component) {
-    return *component.written_as;
+// Can one element begin either component? Of untagged choices only their own table knows; the open type begins with
+// anything.
+constexpr bool are_alike(const Component &left, const Component &right) {
+    const auto is_open = [](const Component &component) {
+        return component.tag.tagging == Tagging::none && component.taken_as->number == KOVRA_ASN1_TYPE_ANY;
+    };
+    if (is_open(left) || is_open(right))
+        return true;
+    const bool is_left_tagged = left.tag.tagging != Tagging::none;
+    if (is_left_tagged != (right.tag.tagging != Tagging::none))
+        return false;
+    if (is_left_tagged)
+        return left.tag.number == right.tag.number;
+    return has_own_tag(*left.taken_as) && left.taken_as->tag == right.taken_as->tag;
 }
-inline const Type &decode_row(const Component &component) {
-    return *component.read_as;
+
+constexpr bool is_same_text(const char *left, const char *right) {
+    for (; *left == *right; ++left, ++right)
+        if (*left == '\0')
+            return true;
+    return false;
+}
+
+// What may be absent must be told from all that may stand in its place, up to and with the next required component;
+// each alternative of a choice from each other.
+constexpr void expect_sound(const Component *components, size_t count, bool is_choice) {
+    for (size_t i = 0; i < count; ++i) {
+        const Component &component = components[i];
+        if (component.tag.tagging == Tagging::implicit && !has_own_tag(*component.taken_as))
+            an_implicit_tag_on_a_type_without_a_tag_of_its_own();
+        if (component.fallback != nullptr && component.fallback->type != component.type)
+            a_default_of_another_type();
+        bool may_be_next = true;
+        for (size_t j = i + 1; j < count; ++j) {
+            may_be_next = may_be_next && (is_choice || components[j - 1].presence != Presence::required);
+            if (may_be_next && are_alike(component, components[j]))
+                components_that_cannot_be_told_apart();
+            if (is_same_text(component.name, components[j].name))
+                two_components_of_one_name();
+        }
+    }
+}
+
+// The row and the codes that apply.
+inline const Type &row_of(const Component &component) {
+    return *component.taken_as;
 }
 inline int32_t encode_code(const Component &component) {
-    return component.encode_code != 0 ? component.encode_code : encode_row(component).base;
+    return component.encode_code != 0 ? component.encode_code : row_of(component).base;
 }
 inline int32_t decode_code(const Component &component) {
-    return component.decode_code != 0 ? component.decode_code : decode_row(component).base + 1;
+    return component.decode_code != 0 ? component.decode_code : row_of(component).base + 1;
 }
 
 // Records the code of a component whose value could not be written or read.
@@ -197,7 +237,7 @@ Result encode_component_content(Encoder &encoder, Site site, const Component &co
 Result decode_explicit(Decoder &decoder, Site site, const Component &component, int32_t length, Value *&out);
 // Reads a value whole, as the component's type.
 inline Result decode_component(Decoder &decoder, Site site, const Component &component, Value *&out) {
-    const Result result = decode(decoder, decode_row(component), out);
+    const Result result = decode(decoder, row_of(component), out);
     return result == success ? success : fail_decode(decoder, site, component, result);
 }
 

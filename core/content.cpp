@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "core/codec.hpp"
 #include "core/registry.hpp"
 #include "kovra/util_memory.h"
 
@@ -132,8 +133,8 @@ Result decode_from(Content &content, const Arena &arena, Site site, uint32_t num
     }
     const Type &type = row(number);
     const auto run = [&](Decoder &decoder, Value *&value) {
-        return element == nullptr ? decoder.decode_root(type, value)
-                                  : decoder.decode_root_content(type, *element, value);
+        return element == nullptr ? decode_root(decoder, type, value)
+                                  : decode_root_content(decoder, type, *element, value);
     };
     const auto finish = [&](Result result, bool all_consumed, Value *value) {
         if (result != success) {

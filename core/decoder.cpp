@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include "core/registry.hpp"
 #include "core/stream_contents.hpp"
 
 namespace kovra::asn1 {
@@ -119,20 +118,23 @@ bool Decoder::keep_octets() {
     return true;
 }
 
-template <class Decode> Result Decoder::into_own_arena(const Type &type, size_t expected, Decode decode, Value *&out) {
-    Value *value = nullptr;
-    const size_t copy = expected <= one_allocation ? expected : 0;
-    const size_t records = type.operations->records_reserve(std::min(expected, one_allocation));
-    arena_ = Arena::create(std::min(records, most_records), copy);
-    if (arena_ == nullptr)
-        return fail(here(), code::no_memory);
+bool Decoder::begin_arena(size_t octets, size_t records) {
+    arena_ = Arena::create(std::min(records, most_records), octets <= one_allocation ? octets : 0);
+    if (arena_ == nullptr) {
+        fail(here(), code::no_memory);
+        return false;
+    }
     arena_->octets = base_;
     arena_->stream_contents = notes_;
-    Result result = decode(value);
+    return true;
+}
+
+Result Decoder::end_arena(Result result, Value *value, Value *&out) {
+    Arena *arena = arena_;
     if (result == success && value != nullptr) {
-        arena_->root = value;
+        arena->root = value;
         if (keep_octets()) {
-            link_stream_contents(*arena_, notes_);
+            link_stream_contents(*arena, notes_);
             notes_ = nullptr;
             out = value;
             arena_ = nullptr;
@@ -140,29 +142,9 @@ template <class Decode> Result Decoder::into_own_arena(const Type &type, size_t 
         }
         result = fail(here(), code::no_memory);
     }
-    Arena::destroy(arena_);
+    Arena::destroy(arena);
     arena_ = nullptr;
     return result;
-}
-
-Result Decoder::decode_root(const Type &type, Value *&out) {
-    // An element that is all there tells how much there will be.
-    size_t expected = 0;
-    uint8_t octet = 0;
-    uint32_t length = 0;
-    if (header(octet, length)) {
-        expected = position_ + size_t{length};
-        position_ = 0;
-    }
-    return into_own_arena(
-        type, expected, [&](Value *&value) { return decode(*this, type, value); }, out);
-}
-
-Result Decoder::decode_root_content(const Type &type, const Element &element, Value *&out) {
-    const auto expected = std::min<size_t>(size_, element.length > 0 ? static_cast<size_t>(element.length) : 0);
-    return into_own_arena(
-        type, expected, [&](Value *&value) { return type.operations->decode_content(*this, type, element, value); },
-        out);
 }
 
 Decoder::Scratch::Scratch(Decoder &decoder, bool only_checking)

@@ -46,9 +46,15 @@ public:
     Decoder(const Decoder &) = delete;
     Decoder &operator=(const Decoder &) = delete;
 
-    // Decodes a whole value, or the content of one, into an arena of its own that holds a copy of the octets.
-    Result decode_root(const Type &type, Value *&out);
-    Result decode_root_content(const Type &type, const Element &element, Value *&out);
+    // Runs decode(value) with an arena of its own for what it makes, which holds a copy of the octets in the end. About
+    // `octets` of them are expected, and `records` octets of records.
+    template <class Decode> Result into_own_arena(size_t octets, size_t records, Decode decode, Value *&out) {
+        if (!begin_arena(octets, records))
+            return failure;
+        Value *value = nullptr;
+        const Result result = decode(value);
+        return end_arena(result, value, out);
+    }
     // The octets in memory that the decoder reads become the arena's without a copy when the decode succeeds.
     void take_over(Arena::Block *block) { pulled_ = block; }
     // Contents that are in streams, from the encoding whose octets are read. They become the arena's when the decode
@@ -221,7 +227,8 @@ private:
     bool enter_long(uint32_t &length);
     bool pull(uint32_t count);
     Result short_read(Site site);
-    template <class Decode> Result into_own_arena(const Type &type, size_t expected, Decode decode, Value *&out);
+    bool begin_arena(size_t octets, size_t records);
+    Result end_arena(Result result, Value *value, Value *&out);
     bool keep_octets();
 
     kovra_err_ctx *ctx_;

@@ -29,6 +29,9 @@ extern const Operations time_operations;
 extern const Operations choice_operations;
 extern const Operations string_choice_operations;
 
+extern const ListShape list_of_any;
+extern const ListShape list_of_any_1;
+
 // keys/
 extern const Structure cert_bag;
 extern const Structure cert_with_attributes;
@@ -105,6 +108,7 @@ extern const Structure pkix_name_constraints;
 extern const Structure policy_constraints;
 extern const Structure policy_information;
 extern const Structure policy_mapping;
+extern const Structure policy_qualifier_info;
 extern const Structure private_key_usage_period;
 extern const Structure revoked_certificate;
 extern const Structure subject_public_key_info;
@@ -158,6 +162,7 @@ extern const Structure key_specific_info;
 extern const Structure key_trans_recipient_info;
 extern const Structure originator_info;
 extern const Structure other_certificate_format;
+extern const Structure other_revocation_info_format;
 extern const Structure other_key_attribute;
 extern const Structure other_recipient_info;
 extern const Structure password_recipient_info;
@@ -182,6 +187,7 @@ extern const ChoiceShape signer_identifier;
 extern const Structure ess_cert_id;
 extern const Structure ess_cert_id_v2;
 extern const Structure issuer_serial;
+extern const Structure message_imprint;
 extern const Structure ocsp_basic_response;
 extern const Structure ocsp_cert_id;
 extern const Structure ocsp_crl_id;

@@ -4,7 +4,9 @@
 #include <cstring>
 
 #include "core/any.hpp"
+#include "core/codec.hpp"
 #include "core/descriptors.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_codec.h"
 #include "kovra/asn1_list.h"
 #include "kovra/asn1_types.h"
@@ -445,6 +447,9 @@ constexpr Operations any_list_operations = {
     .decode_entered = decode_any_list,
     .records_reserve = list_reserve,
 };
+
+constexpr ListShape list_of_any = {KOVRA_ASN1_TYPE_ANY};
+constexpr ListShape list_of_any_1 = {KOVRA_ASN1_TYPE_ANY, ListReading::tagged, "ASN1_List"};
 
 List *new_list(Arena &arena) {
     auto *list = new_record<List>(arena);

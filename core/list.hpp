@@ -1,7 +1,7 @@
 // SEQUENCE OF and SET OF of any registered type.
 #pragma once
 
-#include "core/registry.hpp"
+#include "core/type.hpp"
 
 namespace kovra::asn1 {
 

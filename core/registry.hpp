@@ -1,163 +1,251 @@
-// The registry: a row for each type identifier, and the walk through its operations.
+// The registry: a row for each type identifier. Tables refer to the rows while they are compiled.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include <iterator>
 
-#include "core/decoder.hpp"
-#include "core/encoder.hpp"
-#include "core/value.hpp"
+#include "core/descriptors.hpp"
+#include "core/type.hpp"
+#include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {
 
-// Lengths of constructed values are computed once: an encoding that follows a measuring uses what it found.
-enum class Measure : uint8_t { fresh, known };
+inline constexpr uint32_t type_count = KOVRA_ASN1_TYPE_COUNT;
 
-// What a type can do. Types of one kind share their operations; what distinguishes them stands in their rows.
-//
-// A null `value` is the absence of one.
-struct Operations {
-    // Is this a record that the type's operations work on?
-    bool (*holds)(const Type &, const Value &) = nullptr;
-    // Content octets; indefinite when that is how the content will be written; unknown when it cannot be told.
-    int32_t (*content_length)(const Type &, Value *, Measure) = nullptr;
-    // Octets of identifier, length and content. Null: computed from the content length.
-    int32_t (*length)(const Type &, Value *, Measure) = nullptr;
-    // Writes the content, `length` being what measuring gave (indefinite: with its end-of-contents).
-    Result (*encode_content)(Encoder &, const Type &, Value *, int32_t length) = nullptr;
-    // Writes the whole value. Null: universal identifier, length, content.
-    Result (*encode)(Encoder &, const Type &, Value *) = nullptr;
-    // Reads the content of an element.
-    Result (*decode_content)(Decoder &, const Type &, const Element &, Value *&out) = nullptr;
-    // Reads a whole value. Null: the identifier must be the row's.
-    Result (*decode)(Decoder &, const Type &, Value *&out) = nullptr;
-    // Reads the content behind the row's own identifier and a definite length whose octets are all there, with what
-    // `decode` does besides. Null: there is no such shorter way, as for types with `begins`.
-    Result (*decode_entered)(Decoder &, const Type &, const Element &, Value *&out) = nullptr;
-    // Can a value begin with this identifier? Null: it must be the row's.
-    bool (*begins)(const Type &, const Identifier &) = nullptr;
-    // Reads the content behind an identifier that the value can begin with. Null: `decode_content`.
-    Result (*decode_begun)(Decoder &, const Type &, const Identifier &, const Element &, Value *&out) = nullptr;
-    // Says why the content of a value that the type does not hold is not written. Null: it is a bad argument.
-    Result (*refuse_content)(Encoder &, const Type &, const Value &) = nullptr;
-    // Whole values are refused in both directions, whatever they are.
-    bool refuses_whole = false;
-    // Octets of records to make room for when this many octets are to be decoded.
-    size_t (*records_reserve)(size_t octets) = nullptr;
+namespace rows {
+
+inline constexpr Form primitive = Form::primitive;
+inline constexpr Form constructed = Form::constructed;
+inline constexpr Form either = Form::either;
+
+// clang-format off
+// What a row holds stands in kovra/asn1_types.h. The bases are stored values: from row 56 on many are those of the row
+// before, which failures report just so, and three lie outside the table of texts.
+inline constexpr Type all[] = {
+    {KOVRA_ASN1_TYPE_END_OF_CONTENTS, primitive, 0, 0, &end_of_contents_operations, nullptr},
+    {KOVRA_ASN1_TYPE_BOOLEAN, primitive, 1, 0x1020d, &boolean_operations, nullptr},
+    {KOVRA_ASN1_TYPE_INTEGER, primitive, 2, 0x1020f, &integer_operations, nullptr},
+    {KOVRA_ASN1_TYPE_BIT_STRING, either, 3, 0x10213, &bit_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_OCTET_STRING, either, 4, 0x10218, &octet_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_NULL, primitive, 5, 0x10231, &null_operations, nullptr},
+    {KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER, primitive, 6, 0x10233, &object_identifier_operations, nullptr},
+    {KOVRA_ASN1_TYPE_ENUMERATED, primitive, 10, 0x10211, &integer_operations, nullptr},
+    {KOVRA_ASN1_TYPE_STRING, either, 0, 0x10216, &untagged_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_UTF8_STRING, either, 12, 0x1021b, &character_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_NUMERIC_STRING, either, 18, 0x1021d, &character_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_PRINTABLE_STRING, either, 19, 0x1021f, &character_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_TELETEX_STRING, either, 20, 0x10221, &character_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_VIDEOTEX_STRING, either, 21, 0x10223, &character_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_IA5_STRING, either, 22, 0x10225, &character_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_GRAPHIC_STRING, either, 25, 0x10227, &character_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_VISIBLE_STRING, either, 26, 0x10229, &character_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_GENERAL_STRING, either, 27, 0x1022b, &character_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_UNIVERSAL_STRING, either, 28, 0x1022d, &character_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_BMP_STRING, either, 30, 0x1022f, &character_string_operations, nullptr},
+    {KOVRA_ASN1_TYPE_TIME, either, 0, 0x10238, &any_time_operations, nullptr},
+    {KOVRA_ASN1_TYPE_UTC_TIME, either, 23, 0x1023a, &time_operations, nullptr},
+    {KOVRA_ASN1_TYPE_GENERALIZED_TIME, either, 24, 0x1023c, &time_operations, nullptr},
+    {KOVRA_ASN1_TYPE_ANY, either, 0, 0x10235, &any_operations, nullptr},
+    {KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, constructed, 16, 0x10270, &any_list_operations, &list_of_any},
+    {KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY_1, constructed, 16, 0x10270, &any_list_operations, &list_of_any_1},
+    {KOVRA_ASN1_TYPE_SET_OF_ANY, constructed, 17, 0x10272, &any_list_operations, &list_of_any},
+    {KOVRA_ASN1_TYPE_SET_OF_ANY_1, constructed, 17, 0x10272, &any_list_operations, &list_of_any_1},
+    {KOVRA_ASN1_TYPE_CONTEXT, constructed, 16, 0x1023e, &structure_operations, &x500_context},
+    {KOVRA_ASN1_TYPE_ATTRIBUTE_TYPE_AND_DISTINGUISHED_VALUE, constructed, 16, 0x10246, &kept_structure_operations, &attribute_type_and_distinguished_value},
+    {KOVRA_ASN1_TYPE_ATTRIBUTE_TYPE_AND_VALUE, constructed, 16, 0x10275, &kept_structure_operations, &attribute_type_and_value},
+    {KOVRA_ASN1_TYPE_RELATIVE_DISTINGUISHED_NAME, constructed, 17, 0x10248, &list_operations, &relative_distinguished_name},
+    {KOVRA_ASN1_TYPE_NAME, constructed, 16, 0x1024a, &kept_structure_operations, &x500_name},
+    {KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, constructed, 16, 0x1024c, &structure_operations, &algorithm_identifier},
+    {KOVRA_ASN1_TYPE_VALIDITY, constructed, 16, 0x1024e, &structure_operations, &validity},
+    {KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO, constructed, 16, 0x10250, &structure_operations, &subject_public_key_info},
+    {KOVRA_ASN1_TYPE_EXTENSION, constructed, 16, 0x10252, &structure_operations, &extension},
+    {KOVRA_ASN1_TYPE_EXTENSIONS, constructed, 16, 0x10254, &list_operations, &extensions},
+    {KOVRA_ASN1_TYPE_TBS_CERTIFICATE, constructed, 16, 0x10256, &structure_operations, &tbs_certificate},
+    {KOVRA_ASN1_TYPE_CERTIFICATE, constructed, 16, 0x10258, &kept_structure_operations, &certificate},
+    {KOVRA_ASN1_TYPE_TBS_CERT_LIST, constructed, 16, 0x1025e, &structure_operations, &tbs_cert_list},
+    {KOVRA_ASN1_TYPE_CERTIFICATE_LIST, constructed, 16, 0x10260, &kept_structure_operations, &certificate_list},
+    {KOVRA_ASN1_TYPE_ATTRIBUTE, constructed, 16, 0x1027b, &structure_operations, &attribute},
+    {KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTE, constructed, 16, 0x10262, &structure_operations, &pkcs10_attribute},
+    {KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTES, constructed, 17, 0x10264, &list_operations, &pkcs10_attributes},
+    {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST_INFO, constructed, 16, 0x10266, &structure_operations, &certification_request_info},
+    {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST, constructed, 16, 0x10268, &kept_structure_operations, &certification_request},
+    {KOVRA_ASN1_TYPE_DIRECTORY_STRING, either, 0, 0x10284, &string_choice_operations, &directory_string},
+    {KOVRA_ASN1_TYPE_UUID_PAIR, constructed, 16, 0x10286, &structure_operations, &uuid_pair},
+    {KOVRA_ASN1_TYPE_POSTAL_ADDRESS, constructed, 16, 0x0002f, &list_operations, &postal_address},
+    {KOVRA_ASN1_TYPE_TELEX_NUMBER, constructed, 16, 0x1028a, &structure_operations, &telex_number},
+    {KOVRA_ASN1_TYPE_NAME_AND_OPTIONAL_UID, constructed, 16, 0x1028c, &structure_operations, &name_and_optional_uid},
+    {KOVRA_ASN1_TYPE_PKCS9_STRING, either, 0, 0x1028e, &string_choice_operations, &pkcs9_string},
+    {KOVRA_ASN1_TYPE_SMIME_CAPABILITY, constructed, 16, 0x10290, &structure_operations, &algorithm_identifier},
+    {KOVRA_ASN1_TYPE_SMIME_CAPABILITIES, constructed, 16, 0x10292, &list_operations, &smime_capabilities},
+    {KOVRA_ASN1_TYPE_CERTIFICATE_PAIR, constructed, 16, 0x10294, &structure_operations, &certificate_pair},
+    {KOVRA_ASN1_TYPE_RSA_PUBLIC_KEY, constructed, 16, 0x10294, &structure_operations, &rsa_public_key},
+    {KOVRA_ASN1_TYPE_DIGEST_INFO, constructed, 16, 0x10296, &structure_operations, &digest_info},
+    {KOVRA_ASN1_TYPE_DSS_SIG_VALUE, constructed, 16, 0x10298, &structure_operations, &dss_sig_value},
+    {KOVRA_ASN1_TYPE_ECDSA_SIG_VALUE, constructed, 16, 0x1029a, &structure_operations, &ecdsa_sig_value},
+    {KOVRA_ASN1_TYPE_DSS_PARMS, constructed, 16, 0x1029c, &structure_operations, &dss_parms},
+    {KOVRA_ASN1_TYPE_INSTANCE_OF, constructed, 8, 0x1029e, &structure_operations, &instance_of},
+    {KOVRA_ASN1_TYPE_EDI_PARTY_NAME, constructed, 16, 0x102a0, &structure_operations, &edi_party_name},
+    {KOVRA_ASN1_TYPE_GENERAL_NAME, either, 0, 0x102a2, &choice_operations, &general_name},
+    {KOVRA_ASN1_TYPE_GENERAL_NAMES, constructed, 16, 0x102a4, &list_operations, &general_names},
+    {KOVRA_ASN1_TYPE_AUTHORITY_KEY_IDENTIFIER, constructed, 16, 0x102a6, &structure_operations, &authority_key_identifier},
+    {KOVRA_ASN1_TYPE_EXT_KEY_USAGE, constructed, 16, 0x102a8, &list_operations, &ext_key_usage},
+    {KOVRA_ASN1_TYPE_PRIVATE_KEY_USAGE_PERIOD, constructed, 16, 0x102aa, &structure_operations, &private_key_usage_period},
+    {KOVRA_ASN1_TYPE_POLICY_QUALIFIER_INFO, constructed, 16, 0x102ac, &structure_operations, &policy_qualifier_info},
+    {KOVRA_ASN1_TYPE_POLICY_INFORMATION, constructed, 16, 0x102b0, &structure_operations, &policy_information},
+    {KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES, constructed, 16, 0x102b2, &list_operations, &certificate_policies},
+    {KOVRA_ASN1_TYPE_DISPLAY_TEXT, either, 0, 0x102b4, &string_choice_operations, &display_text},
+    {KOVRA_ASN1_TYPE_NOTICE_REFERENCE, constructed, 16, 0x102b8, &structure_operations, &notice_reference},
+    {KOVRA_ASN1_TYPE_USER_NOTICE, constructed, 16, 0x102ba, &structure_operations, &user_notice},
+    {KOVRA_ASN1_TYPE_POLICY_MAPPINGS, constructed, 16, 0x102be, &list_operations, &policy_mappings},
+    {KOVRA_ASN1_TYPE_SUBJECT_DIRECTORY_ATTRIBUTES, constructed, 16, 0x102c0, &list_operations, &subject_directory_attributes},
+    {KOVRA_ASN1_TYPE_BASIC_CONSTRAINTS, constructed, 16, 0x102c2, &structure_operations, &basic_constraints},
+    {KOVRA_ASN1_TYPE_GENERAL_SUBTREE, constructed, 16, 0x102c4, &structure_operations, &general_subtree},
+    {KOVRA_ASN1_TYPE_GENERAL_SUBTREES, constructed, 16, 0x102c6, &list_operations, &general_subtrees},
+    {KOVRA_ASN1_TYPE_NAME_FORMS, constructed, 16, 0x102c8, &structure_operations, &name_forms},
+    {KOVRA_ASN1_TYPE_NAME_CONSTRAINTS, constructed, 16, 0x102ca, &structure_operations, &name_constraints},
+    {KOVRA_ASN1_TYPE_PKIX_NAME_CONSTRAINTS, constructed, 16, 0x102cc, &structure_operations, &pkix_name_constraints},
+    {KOVRA_ASN1_TYPE_POLICY_CONSTRAINTS, constructed, 16, 0x102cf, &structure_operations, &policy_constraints},
+    {KOVRA_ASN1_TYPE_DISTRIBUTION_POINT_NAME, constructed, 0, 0x102d1, &choice_operations, &distribution_point_name},
+    {KOVRA_ASN1_TYPE_DISTRIBUTION_POINT, constructed, 16, 0x102d3, &structure_operations, &distribution_point},
+    {KOVRA_ASN1_TYPE_CRL_DISTRIBUTION_POINTS, constructed, 16, 0x102d5, &list_operations, &crl_distribution_points},
+    {KOVRA_ASN1_TYPE_ACCESS_DESCRIPTION, constructed, 16, 0x102d9, &structure_operations, &access_description},
+    {KOVRA_ASN1_TYPE_INFORMATION_ACCESS, constructed, 16, 0x102db, &list_operations, &information_access},
+    {KOVRA_ASN1_TYPE_ISSUING_DISTRIBUTION_POINT, constructed, 16, 0x102df, &structure_operations, &issuing_distribution_point},
+    {KOVRA_ASN1_TYPE_AA_ISSUING_DISTRIBUTION_POINT, constructed, 16, 0x102e1, &structure_operations, &aa_issuing_distribution_point},
+    {KOVRA_ASN1_TYPE_RELATIVE_OID, primitive, 13, 0x102f0, &object_identifier_operations, nullptr},
+    {KOVRA_ASN1_TYPE_OLD_CERT_THUMBPRINTS, constructed, 16, 0x102f3, &list_operations, &old_cert_thumbprints},
+    {KOVRA_ASN1_TYPE_REVOKED_CERTIFICATE, constructed, 16, 0x1025a, &structure_operations, &revoked_certificate},
+    {KOVRA_ASN1_TYPE_PRIVATE_KEY_ATTRIBUTE, constructed, 16, 0x102f5, &structure_operations, &private_key_attribute},
+    {KOVRA_ASN1_TYPE_STORE_ATTRIBUTE, constructed, 16, 0x102f7, &structure_operations, &store_attribute},
+    {KOVRA_ASN1_TYPE_STORE_ATTRIBUTE_LIST, constructed, 16, 0x102f9, &list_operations, &store_attribute_list},
+    {KOVRA_ASN1_TYPE_CERT_WITH_ATTRIBUTES, constructed, 16, 0x102fb, &structure_operations, &cert_with_attributes},
+    {KOVRA_ASN1_TYPE_CERT_STORE, constructed, 16, 0x102fd, &list_operations, &cert_store},
+    {KOVRA_ASN1_TYPE_STORE_KEY_ID, either, 0, 0x102ff, &choice_operations, &store_key_id},
+    {KOVRA_ASN1_TYPE_RSA_PRIVATE_KEY, constructed, 16, 0x10306, &structure_operations, &rsa_private_key},
+    {KOVRA_ASN1_TYPE_RSAES_OAEP_PARAMS, constructed, 16, 0x10308, &structure_operations, &rsaes_oaep_params},
+    {KOVRA_ASN1_TYPE_RSASSA_PSS_PARAMS, constructed, 16, 0x1030a, &structure_operations, &rsassa_pss_params},
+    {KOVRA_ASN1_TYPE_DH_PARAMETER, constructed, 16, 0x1030c, &structure_operations, &dh_parameter},
+    {KOVRA_ASN1_TYPE_PRIVATE_KEY_INFO, constructed, 16, 0x1030e, &structure_operations, &private_key_info},
+    {KOVRA_ASN1_TYPE_ENCRYPTED_PRIVATE_KEY_INFO, constructed, 16, 0x10310, &structure_operations, &encrypted_private_key_info},
+    {KOVRA_ASN1_TYPE_PBKDF2_PARAMS, constructed, 16, 0x10314, &structure_operations, &pbkdf2_params},
+    {KOVRA_ASN1_TYPE_PBE_PARAMETER, constructed, 16, 0x10317, &structure_operations, &pbe_parameter},
+    {KOVRA_ASN1_TYPE_PBES2_PARAMS, constructed, 16, 0x10319, &structure_operations, &pbes2_params},
+    {KOVRA_ASN1_TYPE_PBMAC1_PARAMS, constructed, 16, 0x1031b, &structure_operations, &pbmac1_params},
+    {KOVRA_ASN1_TYPE_RC2_CBC_PARAMETER, constructed, 16, 0x1031d, &structure_operations, &rc2_cbc_parameter},
+    {KOVRA_ASN1_TYPE_RC5_CBC_PARAMETERS, constructed, 16, 0x1031f, &structure_operations, &rc5_cbc_parameters},
+    {KOVRA_ASN1_TYPE_CONTENT_INFO, constructed, 16, 0x10321, &structure_operations, &content_info},
+    {KOVRA_ASN1_TYPE_MAC_DATA, constructed, 16, 0x10323, &structure_operations, &mac_data},
+    {KOVRA_ASN1_TYPE_PFX, constructed, 16, 0x10325, &structure_operations, &pfx},
+    {KOVRA_ASN1_TYPE_AUTHENTICATED_SAFE, constructed, 16, 0x10325, &list_operations, &authenticated_safe},
+    {KOVRA_ASN1_TYPE_SAFE_BAG, constructed, 16, 0x10327, &structure_operations, &safe_bag},
+    {KOVRA_ASN1_TYPE_SAFE_CONTENTS, constructed, 16, 0x10329, &list_operations, &safe_contents},
+    {KOVRA_ASN1_TYPE_CERT_BAG, constructed, 16, 0x1032b, &structure_operations, &cert_bag},
+    {KOVRA_ASN1_TYPE_CRL_BAG, constructed, 16, 0x1032d, &structure_operations, &crl_bag},
+    {KOVRA_ASN1_TYPE_SECRET_BAG, constructed, 16, 0x1032f, &structure_operations, &secret_bag},
+    {KOVRA_ASN1_TYPE_PKCS12_PBE_PARAMS, constructed, 16, 0x10331, &structure_operations, &pkcs12_pbe_params},
+    {KOVRA_ASN1_TYPE_DIGESTED_DATA, constructed, 16, 0x10333, &structure_operations, &digested_data},
+    {KOVRA_ASN1_TYPE_ISSUER_AND_SERIAL_NUMBER, constructed, 16, 0x10335, &structure_operations, &issuer_and_serial_number},
+    {KOVRA_ASN1_TYPE_SIGNER_IDENTIFIER, either, 0, 0x10337, &choice_operations, &signer_identifier},
+    {KOVRA_ASN1_TYPE_SIGNER_INFO, constructed, 16, 0x10339, &structure_operations, &signer_info},
+    {KOVRA_ASN1_TYPE_SIGNER_INFOS, constructed, 17, 0x1033b, &list_operations, &signer_infos},
+    {KOVRA_ASN1_TYPE_DIGEST_ALGORITHM_IDENTIFIERS, constructed, 17, 0x1033d, &list_operations, &digest_algorithms},
+    {KOVRA_ASN1_TYPE_OTHER_CERTIFICATE_FORMAT, constructed, 16, 0x1033f, &structure_operations, &other_certificate_format},
+    {KOVRA_ASN1_TYPE_OTHER_REVOCATION_INFO_FORMAT, constructed, 16, 0x10341, &structure_operations, &other_revocation_info_format},
+    {KOVRA_ASN1_TYPE_CERTIFICATE_CHOICES, either, 0, 0x10349, &choice_operations, &certificate_choices},
+    {KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICE, either, 0, 0x1034b, &choice_operations, &revocation_info_choice},
+    {KOVRA_ASN1_TYPE_CERTIFICATE_SET, constructed, 17, 0x1034d, &list_operations, &certificate_set},
+    {KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICES, constructed, 17, 0x1034f, &list_operations, &revocation_info_choices},
+    {KOVRA_ASN1_TYPE_PKCS7_SIGNED_DATA, constructed, 16, 0x10351, &structure_operations, &pkcs7_signed_data},
+    {KOVRA_ASN1_TYPE_CMS_SIGNED_DATA, constructed, 16, 0x10353, &structure_operations, &cms_signed_data},
+    {KOVRA_ASN1_TYPE_DN_VALUES_WITH_CONTEXT_ITEM, constructed, 16, 0x10242, &structure_operations, &dn_values_with_context_item},
+    {KOVRA_ASN1_TYPE_ATTRIBUTE_VALUES_WITH_CONTEXT_ITEM, constructed, 16, 0x10277, &structure_operations, &attribute_values_with_context_item},
+    {KOVRA_ASN1_TYPE_POLICY_QUALIFIERS, constructed, 16, 0x102ae, &list_operations, &policy_qualifiers},
+    {KOVRA_ASN1_TYPE_NOTICE_NUMBERS, constructed, 16, 0x102b6, &list_operations, &notice_numbers},
+    {KOVRA_ASN1_TYPE_POLICY_MAPPING, constructed, 16, 0x102bc, &structure_operations, &policy_mapping},
+    {KOVRA_ASN1_TYPE_REVOKED_CERTIFICATES, constructed, 16, 0x1025c, &list_operations, &revoked_certificates},
+    {KOVRA_ASN1_TYPE_CONTEXT_LIST, constructed, 17, 0x10240, &list_operations, &context_list},
+    {KOVRA_ASN1_TYPE_DN_VALUES_WITH_CONTEXT, constructed, 17, 0x10244, &list_operations, &dn_values_with_context},
+    {KOVRA_ASN1_TYPE_ATTRIBUTE_VALUES_WITH_CONTEXT, constructed, 17, 0x10279, &list_operations, &attribute_values_with_context},
+    {KOVRA_ASN1_TYPE_OTHER_PRIME_INFO, constructed, 16, 0x10301, &structure_operations, &other_prime_info},
+    {KOVRA_ASN1_TYPE_OTHER_PRIME_INFOS, constructed, 16, 0x10303, &list_operations, &other_prime_infos},
+    {KOVRA_ASN1_TYPE_PBKDF2_SALT, either, 0, 0x10312, &choice_operations, &pbkdf2_salt},
+    {KOVRA_ASN1_TYPE_ENCAPSULATED_CONTENT_INFO, constructed, 16, 0x10356, &structure_operations, &encapsulated_content_info},
+    {KOVRA_ASN1_TYPE_ENCRYPTED_CONTENT_INFO, constructed, 16, 0x10358, &structure_operations, &encrypted_content_info},
+    {KOVRA_ASN1_TYPE_ENCRYPTED_DATA, constructed, 16, 0x1035a, &structure_operations, &encrypted_data},
+    {KOVRA_ASN1_TYPE_ORIGINATOR_INFO, constructed, 16, 0x1035c, &structure_operations, &originator_info},
+    {KOVRA_ASN1_TYPE_KEY_TRANS_RECIPIENT_INFO, constructed, 16, 0x10360, &structure_operations, &key_trans_recipient_info},
+    {KOVRA_ASN1_TYPE_ORIGINATOR_IDENTIFIER_OR_KEY, either, 0, 0x10361, &choice_operations, &originator_identifier_or_key},
+    {KOVRA_ASN1_TYPE_OTHER_KEY_ATTRIBUTE, constructed, 16, 0x10363, &structure_operations, &other_key_attribute},
+    {KOVRA_ASN1_TYPE_RECIPIENT_KEY_IDENTIFIER, constructed, 16, 0x10365, &structure_operations, &recipient_key_identifier},
+    {KOVRA_ASN1_TYPE_KEY_AGREE_RECIPIENT_IDENTIFIER, either, 0, 0x10367, &choice_operations, &key_agree_recipient_identifier},
+    {KOVRA_ASN1_TYPE_RECIPIENT_ENCRYPTED_KEY, constructed, 16, 0x10369, &structure_operations, &recipient_encrypted_key},
+    {KOVRA_ASN1_TYPE_RECIPIENT_ENCRYPTED_KEYS, constructed, 16, 0x1036b, &list_operations, &recipient_encrypted_keys},
+    {KOVRA_ASN1_TYPE_KEY_AGREE_RECIPIENT_INFO, constructed, 16, 0x1036d, &structure_operations, &key_agree_recipient_info},
+    {KOVRA_ASN1_TYPE_KEK_RECIPIENT_INFO, constructed, 16, 0x0009f, &structure_operations, &kek_recipient_info},
+    {KOVRA_ASN1_TYPE_PASSWORD_RECIPIENT_INFO, constructed, 16, 0x10373, &structure_operations, &password_recipient_info},
+    {KOVRA_ASN1_TYPE_OTHER_RECIPIENT_INFO, constructed, 16, 0x10375, &structure_operations, &other_recipient_info},
+    {KOVRA_ASN1_TYPE_RECIPIENT_INFO, either, 0, 0x10377, &choice_operations, &recipient_info},
+    {KOVRA_ASN1_TYPE_RECIPIENT_INFOS, constructed, 17, 0x10379, &list_operations, &recipient_infos},
+    {KOVRA_ASN1_TYPE_ENVELOPED_DATA, constructed, 16, 0x1037b, &structure_operations, &enveloped_data},
+    {KOVRA_ASN1_TYPE_AUTHENTICATED_DATA, constructed, 16, 0x1037d, &structure_operations, &authenticated_data},
+    {KOVRA_ASN1_TYPE_KEY_SPECIFIC_INFO, constructed, 16, 0x1037f, &structure_operations, &key_specific_info},
+    {KOVRA_ASN1_TYPE_DH_OTHER_INFO, constructed, 16, 0x10381, &structure_operations, &dh_other_info},
+    {KOVRA_ASN1_TYPE_OCSP_CERT_ID, constructed, 16, 0x10383, &structure_operations, &ocsp_cert_id},
+    {KOVRA_ASN1_TYPE_OCSP_SINGLE_REQUEST, constructed, 16, 0x10385, &structure_operations, &ocsp_single_request},
+    {KOVRA_ASN1_TYPE_OCSP_REQUEST_LIST, constructed, 16, 0x10387, &list_operations, &ocsp_request_list},
+    {KOVRA_ASN1_TYPE_OCSP_TBS_REQUEST, constructed, 16, 0x10389, &structure_operations, &ocsp_tbs_request},
+    {KOVRA_ASN1_TYPE_OCSP_SIGNATURE, constructed, 16, 0x1038d, &structure_operations, &ocsp_signature},
+    {KOVRA_ASN1_TYPE_OCSP_REQUEST, constructed, 16, 0x1038f, &structure_operations, &ocsp_request},
+    {KOVRA_ASN1_TYPE_OCSP_RESPONSE_BYTES, constructed, 16, 0x10391, &structure_operations, &ocsp_response_bytes},
+    {KOVRA_ASN1_TYPE_OCSP_RESPONSE, constructed, 16, 0x000af, &structure_operations, &ocsp_response},
+    {KOVRA_ASN1_TYPE_OCSP_RESPONDER_ID, either, 0, 0x10395, &choice_operations, &ocsp_responder_id},
+    {KOVRA_ASN1_TYPE_OCSP_REVOKED_INFO, constructed, 16, 0x10397, &structure_operations, &ocsp_revoked_info},
+    {KOVRA_ASN1_TYPE_OCSP_CERT_STATUS, either, 0, 0x10397, &choice_operations, &ocsp_cert_status},
+    {KOVRA_ASN1_TYPE_OCSP_SINGLE_RESPONSE, constructed, 16, 0x1039b, &structure_operations, &ocsp_single_response},
+    {KOVRA_ASN1_TYPE_OCSP_RESPONSES, constructed, 16, 0x1039d, &list_operations, &ocsp_responses},
+    {KOVRA_ASN1_TYPE_OCSP_RESPONSE_DATA, constructed, 16, 0x1039f, &structure_operations, &ocsp_response_data},
+    {KOVRA_ASN1_TYPE_OCSP_BASIC_RESPONSE, constructed, 16, 0x103a1, &structure_operations, &ocsp_basic_response},
+    {KOVRA_ASN1_TYPE_OCSP_CRL_ID, constructed, 16, 0x103a3, &structure_operations, &ocsp_crl_id},
+    {KOVRA_ASN1_TYPE_OCSP_SERVICE_LOCATOR, constructed, 16, 0x103a5, &structure_operations, &ocsp_service_locator},
+    {KOVRA_ASN1_TYPE_OCSP_PREFERRED_SIGNATURE_ALGORITHMS, constructed, 16, 0x103a7, &structure_operations, &ocsp_preferred_signature_algorithms},
+    {KOVRA_ASN1_TYPE_MESSAGE_IMPRINT, constructed, 16, 0x103a9, &structure_operations, &message_imprint},
+    {KOVRA_ASN1_TYPE_TIME_STAMP_REQ, constructed, 16, 0x103ab, &structure_operations, &time_stamp_req},
+    {KOVRA_ASN1_TYPE_PKI_FREE_TEXT, constructed, 16, 0x103ad, &list_operations, &pki_free_text},
+    {KOVRA_ASN1_TYPE_PKI_STATUS_INFO, constructed, 16, 0x103af, &structure_operations, &pki_status_info},
+    {KOVRA_ASN1_TYPE_TIME_STAMP_RESP, constructed, 16, 0x103b1, &structure_operations, &time_stamp_resp},
+    {KOVRA_ASN1_TYPE_ACCURACY, constructed, 16, 0x103b3, &structure_operations, &time_stamp_accuracy},
+    {KOVRA_ASN1_TYPE_TST_INFO, constructed, 16, 0x103b5, &structure_operations, &tst_info},
+    {KOVRA_ASN1_TYPE_ISSUER_SERIAL, constructed, 16, 0x103b7, &structure_operations, &issuer_serial},
+    {KOVRA_ASN1_TYPE_ESS_CERT_ID, constructed, 16, 0x103b9, &structure_operations, &ess_cert_id},
+    {KOVRA_ASN1_TYPE_ESS_CERT_ID_V2, constructed, 16, 0x103bb, &structure_operations, &ess_cert_id_v2},
+    {KOVRA_ASN1_TYPE_ESS_CERT_IDS, constructed, 16, 0x103bd, &list_operations, &ess_cert_ids},
+    {KOVRA_ASN1_TYPE_ESS_CERT_IDS_V2, constructed, 16, 0x103bf, &list_operations, &ess_cert_ids_v2},
+    {KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES_1, constructed, 16, 0x103c1, &list_operations, &certificate_policies},
+    {KOVRA_ASN1_TYPE_SIGNING_CERTIFICATE, constructed, 16, 0x103c3, &structure_operations, &signing_certificate},
+    {KOVRA_ASN1_TYPE_SIGNING_CERTIFICATE_V2, constructed, 16, 0x103c3, &structure_operations, &signing_certificate_v2},
+    {KOVRA_ASN1_TYPE_ECPK_PARAMETERS, either, 0, 0x103c7, &choice_operations, &ecpk_parameters},
+    {KOVRA_ASN1_TYPE_EC_PRIVATE_KEY, constructed, 16, 0x103c9, &structure_operations, &ec_private_key},
+    {KOVRA_ASN1_TYPE_SM2_CIPHER, constructed, 16, 0x103cb, &structure_operations, &sm2_cipher},
+    {KOVRA_ASN1_TYPE_SM2_ENVELOPED_KEY, constructed, 16, 0x103cd, &structure_operations, &sm2_enveloped_key},
+    {KOVRA_ASN1_TYPE_RSA_ENVELOPED_KEY_PAIR, constructed, 16, 0x103cf, &structure_operations, &rsa_enveloped_key_pair},
+    {KOVRA_ASN1_TYPE_INNER_ENVELOPED_KEY_PAIR, either, 0, 0x103d1, &choice_operations, &inner_enveloped_key_pair},
+    {KOVRA_ASN1_TYPE_ENVELOPED_KEY_PAIR, constructed, 16, 0x103d3, &structure_operations, &enveloped_key_pair},
 };
+// clang-format on
 
-// A row of the registry.
-struct Type {
-    constexpr Type(uint8_t number_, Form form_, uint8_t tag_, int32_t base_, const Operations *operations_,
-                   const void *shape_)
-        : number(number_), form(form_), tag(tag_),
-          usual_identifier(static_cast<uint8_t>(form_ == Form::constructed ? tag_ | 0x20 : tag_)),
-          usual_form(form_ == Form::constructed ? Form::constructed : Form::primitive), base(base_),
-          operations(operations_), shape(shape_) {}
-
-    uint8_t number;
-    Form form;
-    uint8_t tag;              // universal
-    uint8_t usual_identifier; // octet of the tag in the usual form
-    Form usual_form;          // primitive where either will do
-    int32_t base;             // code of a failed encode; that of a failed decode is one above
-    const Operations *operations;
-    const void *shape; // the declaration that shared operations work from; null for the leaves
-
-    // An element under the usual identifier.
-    [[nodiscard]] Element usual_element(uint32_t length, uint32_t start) const {
-        return {usual_form, static_cast<int32_t>(length), start};
-    }
-};
-
-inline constexpr uint32_t type_count = 208;
-
-// The rows by type identifier.
-extern const Type registry[type_count];
-inline const Type &row(uint32_t number) {
-    return registry[number];
+// Does each stand where its number says?
+consteval bool are_in_order() {
+    for (uint32_t i = 0; i < type_count; ++i)
+        if (all[i].number != i)
+            return false;
+    return std::size(all) == type_count;
 }
+static_assert(are_in_order());
 
-// Is there a value, and one that the type works on?
-inline bool holds(const Type &type, const Value *value) {
-    return value != nullptr && type.operations->holds(type, *value);
-}
+} // namespace rows
 
-// Lengths. A value of another kind has none.
-int32_t content_length(const Type &type, Value *value, Measure measure = Measure::fresh);
-int32_t whole_length(const Type &type, Value *value, Measure measure = Measure::fresh);
-// Identifier, length and content octets of a content length; indefinite when there are more than 0x7FFFFFFF.
-int32_t whole_length_of(int32_t tag, int32_t content);
-
-// Writes a whole value; one of known measure has just been measured as a part of its holder.
-Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure = Measure::fresh);
-// A value that the type has no use for is a bad argument; no stream, or no value, comes before it.
-Result refuse_value(Encoder &encoder, const Value *value);
-// Writes the content octets of a value that was just measured, `length` of them or of indefinite length.
-Result encode_content(Encoder &encoder, const Type &type, Value *value, int32_t length);
-
-// Reads a whole value, and the content behind an identifier that `begins` accepted.
-Result decode_generic(Decoder &decoder, const Type &type, Value *&out);
-inline Result decode(Decoder &decoder, const Type &type, Value *&out) {
-    uint32_t length = 0;
-    const uint32_t start = decoder.position();
-    const Operations &operations = *type.operations;
-    if (operations.decode_entered != nullptr && decoder.enter(type.usual_identifier, length))
-        return operations.decode_entered(decoder, type, type.usual_element(length, start), out);
-    return operations.decode != nullptr ? operations.decode(decoder, type, out) : decode_generic(decoder, type, out);
+// The row of a type identifier.
+constexpr const Type &row(uint32_t number) {
+    return rows::all[number];
 }
-inline bool begins(const Type &type, const Identifier &identifier) {
-    if (type.operations->begins != nullptr)
-        return type.operations->begins(type, identifier);
-    return identifier.is(Class::universal, type.tag) && (type.form == Form::either || type.form == identifier.form);
-}
-inline Result decode_begun(Decoder &decoder, const Type &type, const Identifier &identifier, const Element &element,
-                           Value *&out) {
-    if (type.operations->decode_begun != nullptr)
-        return type.operations->decode_begun(decoder, type, identifier, element, out);
-    return type.operations->decode_content(decoder, type, element, out);
-}
-
-// A copy that is independent of the value, by encoding and decoding it. Null, with entries, when that fails.
-Value *duplicate(const Type &type, const Value *value, kovra_err_ctx *ctx);
-// A copy for a value that is being built, without entries. Contents in streams that are so long that they are written
-// in segments are not copied: the copy refers to the same streams.
-Value *copy_part(const Type &type, const Value *value);
-// The same between two types (an INTEGER to an ANY, say); a type that needs no value may have none.
-Value *convert(const Type &from, const Value *value, const Type &to);
-
-// The type's own codes.
-inline Result fail_encode(Encoder &encoder, Site site, const Type &type, Result result = failure) {
-    return encoder.fail(site, type.base, result);
-}
-inline Result fail_decode(Decoder &decoder, Site site, const Type &type, Result result = failure) {
-    return decoder.fail(site, type.base + 1, result);
-}
-
-// The first checks of every content decoder.
-inline Result enter(Decoder &decoder, Site site) {
-    if (!decoder.has_both_ends())
-        return decoder.fail(site, code::null_argument);
-    return success;
-}
-// And of those whose content is primitive and definite.
-inline Result enter_primitive(Decoder &decoder, Site site, const Element &element) {
-    if (const Result result = enter(decoder, site); result != success)
-        return result;
-    if (element.form == Form::constructed)
-        return decoder.fail(site, code::form_error);
-    if (element.length == indefinite)
-        return decoder.fail(site, code::definite_wanted);
-    return success;
-}
-
-// Building blocks for tables of operations.
-template <class T> bool holds_kind(const Type &, const Value &value) {
-    return value.kind == T::own_kind;
-}
-template <size_t record_octets> size_t leaf_reserve(size_t) {
-    return record_octets;
-}
-Result refuse_decode_content(Decoder &decoder, const Type &, const Element &, Value *&);
 
 } // namespace kovra::asn1

@@ -30,7 +30,7 @@ Site in(const Structure &shape, int32_t line = __builtin_LINE()) {
 bool is_written(const Component &component, const Value *value) {
     if (value == nullptr)
         return false;
-    return component.presence != Presence::defaulted || !holds(encode_row(component), value) ||
+    return component.presence != Presence::defaulted || !holds(row_of(component), value) ||
            !component.fallback->is(*value);
 }
 
@@ -219,7 +219,7 @@ public:
         }
         for (; component != last; ++component, ++slot, whole >>= 1) {
             const uint32_t start = decoder.position();
-            const Type &type = *component->read_as;
+            const Type &type = *component->taken_as;
             const Operations &operations = *type.operations;
             uint32_t length = 0;
             Result result = success;
@@ -258,7 +258,7 @@ private:
 
     // Does the component begin with the identifier that was read?
     [[nodiscard]] bool matches(const Component &component) const {
-        const Type &type = decode_row(component);
+        const Type &type = row_of(component);
         switch (component.tag.tagging) {
         case Tagging::none:
             return begins(type, identifier_);
@@ -281,7 +281,7 @@ private:
     }
 
     Result read_whole(const Component &component, Value *&slot) {
-        const Type &type = decode_row(component);
+        const Type &type = row_of(component);
         if (const Result result = decode(decoder_, type, slot); result != success)
             return fail_decode(decoder_, at(shape_, component), component, result);
         return type.number == KOVRA_ASN1_TYPE_ANY && is_end_of_contents(slot) ? end_of_contents(component, slot)
@@ -330,7 +330,7 @@ private:
 
     // Behind an identifier that the component begins with, tagged or not.
     Result read_content(const Component &component, int32_t length, Value *&place) {
-        const Type &type = decode_row(component);
+        const Type &type = row_of(component);
         const bool is_own = component.tag.tagging == Tagging::none;
         const Element element{identifier_.form, length, is_own ? identifier_start_ : Element::no_start};
         const Result result = is_own ? decode_begun(decoder_, type, identifier_, element, place)

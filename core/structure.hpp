@@ -8,7 +8,7 @@
 #include <cstdint>
 
 #include "core/component.hpp"
-#include "core/registry.hpp"
+#include "core/type.hpp"
 #include "core/value.hpp"
 
 namespace kovra::asn1 {
@@ -38,8 +38,10 @@ struct Structure {
     [[nodiscard]] constexpr const Structure *shape() const { return record != nullptr ? record : this; }
 };
 
-template <size_t count> constexpr Structure structure(const char *source, const Component (&components)[count]) {
+// What all declarations of structures begin with.
+template <size_t count> constexpr Structure tabulate(const char *source, const Component (&components)[count]) {
     static_assert(count <= 32);
+    expect_sound(components, count, false);
     Structure made{source, components, count};
     for (uint32_t i = 0; i < count; ++i) {
         const bool is_required = components[i].presence == Presence::required;
@@ -53,23 +55,27 @@ template <size_t count> constexpr Structure structure(const char *source, const 
     }
     return made;
 }
+// A structure that is nothing but its components. A table that contradicts itself does not compile.
+template <size_t count> consteval Structure structure(const char *source, const Component (&components)[count]) {
+    return tabulate(source, components);
+}
 // A structure that tells an element behind its last component from a broken end.
 template <size_t count>
-constexpr Structure structure_with_tested_end(const char *source, const Component (&components)[count]) {
-    Structure made = structure(source, components);
+consteval Structure structure_with_tested_end(const char *source, const Component (&components)[count]) {
+    Structure made = tabulate(source, components);
     made.tests_end = true;
     return made;
 }
 // A list that keeps its encoding, which lists by themselves do not.
 template <size_t count>
-constexpr Structure list_structure(const char *source, const Component (&components)[count], const Type &content) {
+consteval Structure list_structure(const char *source, const Component (&components)[count], const Type &content) {
     static_assert(count == 1);
-    Structure made = structure(source, components);
+    Structure made = tabulate(source, components);
     made.content = &content;
     return made;
 }
 // The records of another structure, of which only some are allowed.
-constexpr Structure restricted(const Structure &base, bool (*allows)(const Record &), int32_t refusal,
+consteval Structure restricted(const Structure &base, bool (*allows)(const Record &), int32_t refusal,
                                bool refuses_length) {
     Structure made = base;
     made.record = &base;
@@ -78,16 +84,23 @@ constexpr Structure restricted(const Structure &base, bool (*allows)(const Recor
     made.refuses_length = refuses_length;
     return made;
 }
+// A structure whose records are those of another: the components are the same under names of its own.
+template <size_t count>
+consteval Structure alike(const char *source, const Component (&components)[count], const Structure &base) {
+    Structure made = tabulate(source, components);
+    made.record = &base;
+    return made;
+}
 // A structure of which only some records are allowed.
-constexpr Structure checked(const Structure &base, bool (*allows)(const Record &), int32_t refusal) {
+consteval Structure checked(const Structure &base, bool (*allows)(const Record &), int32_t refusal) {
     Structure made = base;
     made.allows = allows;
     made.refusal = refusal;
     return made;
 }
 // A structure that is signed: its first component is what the signature covers.
-template <size_t count> constexpr Structure signed_structure(const char *source, const Component (&components)[count]) {
-    Structure made = structure(source, components);
+template <size_t count> consteval Structure signed_structure(const char *source, const Component (&components)[count]) {
+    Structure made = tabulate(source, components);
     made.signed_slot = 0;
     return made;
 }
@@ -121,11 +134,6 @@ template <class... Arguments> Record *construct(const Structure &shape, Argument
 Record *as_record(const Structure &shape, const kovra_asn1_value *handle);
 // The value in a slot, borrowed; null when it is absent, or the handle is not of this structure.
 Value *component(const Structure &shape, const kovra_asn1_value *handle, uint8_t slot);
-
-// The same of a record whose structure is known.
-inline const Value *in_slot(const Record &record, uint8_t slot) {
-    return record.slots[slot];
-}
 
 // Are there octets that a record keeps?
 inline bool is_kept(const Octets &octets) {

@@ -8,6 +8,8 @@
 #include "base/sizes.hpp"
 #include "base/thresholds.hpp"
 #include "core/any.hpp"
+#include "core/codec.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_bitstring.h"
 #include "kovra/asn1_boolean.h"
 #include "kovra/asn1_codec.h"

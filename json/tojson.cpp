@@ -7,6 +7,8 @@
 #include "base/sizes.hpp"
 #include "base/thresholds.hpp"
 #include "core/any.hpp"
+#include "core/codec.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_json.h"
 #include "kovra/asn1_oid.h"
 #include "kovra/asn1_time.h"

@@ -1,7 +1,7 @@
 // Diffie-Hellman parameters (PKCS #3).
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_pkcs3.h"
 #include "kovra/asn1_types.h"
 
@@ -15,18 +15,15 @@ constexpr char source[] = "ASN1_PKCS3";
 //     prime               INTEGER,
 //     base                INTEGER,
 //     privateValueLength  INTEGER OPTIONAL }
-namespace parameter {
-enum Slot : uint8_t { prime, base, private_value_length };
-constexpr Component components[] = {
+constexpr Component parameter_components[] = {
     required("prime", KOVRA_ASN1_TYPE_INTEGER),
     required("base", KOVRA_ASN1_TYPE_INTEGER),
     optional("privateValueLength", KOVRA_ASN1_TYPE_INTEGER),
 };
-} // namespace parameter
 
 } // namespace
 
-constexpr Structure dh_parameter = structure(source, parameter::components);
+constexpr Structure dh_parameter = structure(source, parameter_components);
 
 } // namespace kovra::asn1
 
@@ -34,21 +31,21 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_pkcs3dhparam_new(const kovra_asn1_value *prime, const kovra_asn1_value *base,
                                          const kovra_asn1_value *private_value_length) noexcept {
-    return construct(dh_parameter, prime, base, private_value_length);
+    return construct<dh_parameter>(prime, base, private_value_length);
 }
 
 kovra_asn1_value *kovra_pkcs3dhparam_getprime(const kovra_asn1_value *obj) noexcept {
-    return component(dh_parameter, obj, parameter::prime);
+    return part<dh_parameter, "prime">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs3dhparam_getbase(const kovra_asn1_value *obj) noexcept {
-    return component(dh_parameter, obj, parameter::base);
+    return part<dh_parameter, "base">(obj);
 }
 
 int32_t kovra_pkcs3dhparam_hasprivatevaluelength(const kovra_asn1_value *obj) noexcept {
-    return component(dh_parameter, obj, parameter::private_value_length) != nullptr ? 1 : 0;
+    return has_part<dh_parameter, "privateValueLength">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs3dhparam_getprivatevaluelength(const kovra_asn1_value *obj) noexcept {
-    return component(dh_parameter, obj, parameter::private_value_length);
+    return part<dh_parameter, "privateValueLength">(obj);
 }

@@ -1,7 +1,7 @@
 // DigestInfo (PKCS #1, RFC 8017, A.2.4).
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_pkcs1.h"
 #include "kovra/asn1_types.h"
 
@@ -14,17 +14,14 @@ constexpr char source[] = "ASN1_PKCS1";
 // DigestInfo ::= SEQUENCE {
 //     digestAlgorithm  AlgorithmIdentifier,
 //     digest           OCTET STRING }
-namespace info {
-enum Slot : uint8_t { digest_algorithm, digest };
-constexpr Component components[] = {
+constexpr Component info_components[] = {
     required("digestAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("digest", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
-} // namespace info
 
 } // namespace
 
-constexpr Structure digest_info = structure(source, info::components);
+constexpr Structure digest_info = structure(source, info_components);
 
 } // namespace kovra::asn1
 
@@ -32,13 +29,13 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_pkcs1digestinfo_new(const kovra_asn1_value *digest_algorithm,
                                             const kovra_asn1_value *digest) noexcept {
-    return construct(digest_info, digest_algorithm, digest);
+    return construct<digest_info>(digest_algorithm, digest);
 }
 
 kovra_asn1_value *kovra_pkcs1digestinfo_getdigestalgorithm(const kovra_asn1_value *obj) noexcept {
-    return component(digest_info, obj, info::digest_algorithm);
+    return part<digest_info, "digestAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1digestinfo_getdigest(const kovra_asn1_value *obj) noexcept {
-    return component(digest_info, obj, info::digest);
+    return part<digest_info, "digest">(obj);
 }

@@ -1,8 +1,7 @@
 // The curve of a key (EcpkParameters, RFC 3279, 2.3.5).
 
-#include "core/choice.hpp"
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_ecc.h"
 #include "kovra/asn1_types.h"
 
@@ -17,29 +16,26 @@ constexpr char source[] = "ASN1_ECC";
 //     namedCurve    OBJECT IDENTIFIER,
 //     implicitlyCA  NULL }
 // Curves that are written out stay open. The form of the two primitive ones is judged when their content is read.
-namespace parameters {
-enum Alternative : uint8_t { ec_parameters, named_curve, implicitly_ca };
-constexpr Component alternatives[] = {
+constexpr Component parameters_alternatives[] = {
     required("ecParameters", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY_1),
     required("namedCurve", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER).begun(Begins::in_any_form),
     required("implicitlyCA", KOVRA_ASN1_TYPE_NULL).begun(Begins::in_any_form),
 };
-} // namespace parameters
 
 } // namespace
 
-constexpr ChoiceShape ecpk_parameters = choice(source, parameters::alternatives);
+constexpr ChoiceShape ecpk_parameters = choice(source, parameters_alternatives);
 
 } // namespace kovra::asn1
 
 using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_ecpkparameters_new_namedcurve(const kovra_asn1_value *curve) noexcept {
-    return construct_choice(ecpk_parameters, parameters::named_curve, curve);
+    return construct_choice<ecpk_parameters, "namedCurve">(curve);
 }
 
 kovra_asn1_value *kovra_ecpkparameters_new_implicitlyca(void) noexcept {
-    return construct_null_choice(ecpk_parameters, parameters::implicitly_ca);
+    return construct_choice<ecpk_parameters, "implicitlyCA">();
 }
 
 int32_t kovra_ecpkparameters_gettype(const kovra_asn1_value *obj) noexcept {
@@ -48,5 +44,5 @@ int32_t kovra_ecpkparameters_gettype(const kovra_asn1_value *obj) noexcept {
 }
 
 kovra_asn1_value *kovra_ecpkparameters_namedcurve(const kovra_asn1_value *obj) noexcept {
-    return alternative(ecpk_parameters, obj, parameters::named_curve);
+    return chosen<ecpk_parameters, "namedCurve">(obj);
 }

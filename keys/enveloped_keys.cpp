@@ -1,8 +1,7 @@
 // A key pair that an authority made, enveloped for the key that its owner signs with.
 
-#include "core/choice.hpp"
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_ecc.h"
 #include "kovra/asn1_types.h"
 
@@ -17,45 +16,35 @@ constexpr char source[] = "ASN1_ECC";
 //     symEncryptedKey         OCTET STRING,
 //     rsaPublicKey            RSAPublicKey,
 //     rsaEncryptedPrivateKey  OCTET STRING }
-namespace rsa_pair {
-enum Slot : uint8_t { sym_alg_id, sym_encrypted_key, public_key, encrypted_private_key };
-constexpr Component components[] = {
+constexpr Component rsa_pair_components[] = {
     required("symAlgID", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("symEncryptedKey", KOVRA_ASN1_TYPE_OCTET_STRING),
     required("rsaPublicKey", KOVRA_ASN1_TYPE_RSA_PUBLIC_KEY),
     required("rsaEncryptedPrivateKey", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
-} // namespace rsa_pair
 
 // InnerEnvelopedKeyPair ::= CHOICE {
 //     rsa  [1] EXPLICIT RSAEnvelopedKeyPair,
 //     sm2  [0] EXPLICIT SM2EnvelopedKey }
 // The alternatives are numbered 1 and 2, which are not their tags.
-namespace inner {
-enum Alternative : uint8_t { rsa, sm2 };
-constexpr Component alternatives[] = {
+constexpr Component inner_alternatives[] = {
     required("rsa", KOVRA_ASN1_TYPE_RSA_ENVELOPED_KEY_PAIR, explicit_tag(1)),
     required("sm2", KOVRA_ASN1_TYPE_SM2_ENVELOPED_KEY, explicit_tag(0)),
 };
-static_assert(is_sound(alternatives));
-} // namespace inner
 
 // EnvelopedKeyPair ::= SEQUENCE {
 //     signPublicKey  SubjectPublicKeyInfo,
 //     envKeyPair     InnerEnvelopedKeyPair }
-namespace pair {
-enum Slot : uint8_t { sign_public_key, env_key_pair };
-constexpr Component components[] = {
+constexpr Component pair_components[] = {
     required("signPublicKey", KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO),
     required("envKeyPair", KOVRA_ASN1_TYPE_INNER_ENVELOPED_KEY_PAIR),
 };
-} // namespace pair
 
 } // namespace
 
-constexpr Structure rsa_enveloped_key_pair = structure(source, rsa_pair::components);
-constexpr ChoiceShape inner_enveloped_key_pair = choice(source, inner::alternatives);
-constexpr Structure enveloped_key_pair = structure(source, pair::components);
+constexpr Structure rsa_enveloped_key_pair = structure(source, rsa_pair_components);
+constexpr ChoiceShape inner_enveloped_key_pair = choice(source, inner_alternatives);
+constexpr Structure enveloped_key_pair = structure(source, pair_components);
 
 } // namespace kovra::asn1
 
@@ -65,31 +54,31 @@ kovra_asn1_value *kovra_rsaenvelopedkeypair_new(const kovra_asn1_value *sym_alg_
                                                 const kovra_asn1_value *sym_encrypted_key,
                                                 const kovra_asn1_value *public_key,
                                                 const kovra_asn1_value *encrypted_private_key) noexcept {
-    return construct(rsa_enveloped_key_pair, sym_alg_id, sym_encrypted_key, public_key, encrypted_private_key);
+    return construct<rsa_enveloped_key_pair>(sym_alg_id, sym_encrypted_key, public_key, encrypted_private_key);
 }
 
 kovra_asn1_value *kovra_rsaenvelopedkeypair_getsymalgid(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_enveloped_key_pair, obj, rsa_pair::sym_alg_id);
+    return part<rsa_enveloped_key_pair, "symAlgID">(obj);
 }
 
 kovra_asn1_value *kovra_rsaenvelopedkeypair_getsymencryptedkey(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_enveloped_key_pair, obj, rsa_pair::sym_encrypted_key);
+    return part<rsa_enveloped_key_pair, "symEncryptedKey">(obj);
 }
 
 kovra_asn1_value *kovra_rsaenvelopedkeypair_getrsapublickey(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_enveloped_key_pair, obj, rsa_pair::public_key);
+    return part<rsa_enveloped_key_pair, "rsaPublicKey">(obj);
 }
 
 kovra_asn1_value *kovra_rsaenvelopedkeypair_getrsaencryptedprivatekey(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_enveloped_key_pair, obj, rsa_pair::encrypted_private_key);
+    return part<rsa_enveloped_key_pair, "rsaEncryptedPrivateKey">(obj);
 }
 
 kovra_asn1_value *kovra_innerenvelopedkeypair_newrsa(const kovra_asn1_value *rsa) noexcept {
-    return construct_choice(inner_enveloped_key_pair, inner::rsa, rsa);
+    return construct_choice<inner_enveloped_key_pair, "rsa">(rsa);
 }
 
 kovra_asn1_value *kovra_innerenvelopedkeypair_newsm2(const kovra_asn1_value *sm2) noexcept {
-    return construct_choice(inner_enveloped_key_pair, inner::sm2, sm2);
+    return construct_choice<inner_enveloped_key_pair, "sm2">(sm2);
 }
 
 int32_t kovra_innerenvelopedkeypair_gettype(const kovra_asn1_value *obj) noexcept {
@@ -98,22 +87,22 @@ int32_t kovra_innerenvelopedkeypair_gettype(const kovra_asn1_value *obj) noexcep
 }
 
 kovra_asn1_value *kovra_innerenvelopedkeypair_getrsa(const kovra_asn1_value *obj) noexcept {
-    return alternative(inner_enveloped_key_pair, obj, inner::rsa);
+    return chosen<inner_enveloped_key_pair, "rsa">(obj);
 }
 
 kovra_asn1_value *kovra_innerenvelopedkeypair_getsm2(const kovra_asn1_value *obj) noexcept {
-    return alternative(inner_enveloped_key_pair, obj, inner::sm2);
+    return chosen<inner_enveloped_key_pair, "sm2">(obj);
 }
 
 kovra_asn1_value *kovra_envelopedkeypair_new(const kovra_asn1_value *sign_public_key,
                                              const kovra_asn1_value *env_key_pair) noexcept {
-    return construct(enveloped_key_pair, sign_public_key, env_key_pair);
+    return construct<enveloped_key_pair>(sign_public_key, env_key_pair);
 }
 
 kovra_asn1_value *kovra_envelopedkeypair_getsignpubkey(const kovra_asn1_value *obj) noexcept {
-    return component(enveloped_key_pair, obj, pair::sign_public_key);
+    return part<enveloped_key_pair, "signPublicKey">(obj);
 }
 
 kovra_asn1_value *kovra_envelopedkeypair_getenvkeypair(const kovra_asn1_value *obj) noexcept {
-    return component(enveloped_key_pair, obj, pair::env_key_pair);
+    return part<enveloped_key_pair, "envKeyPair">(obj);
 }

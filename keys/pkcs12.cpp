@@ -2,7 +2,7 @@
 
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_any.h"
 #include "kovra/asn1_pkcs12.h"
 #include "kovra/asn1_types.h"
@@ -21,98 +21,73 @@ constexpr const Default &default_iterations = default_encoding<KOVRA_ASN1_TYPE_I
 //     version   INTEGER,
 //     authSafe  ContentInfo,
 //     macData   MacData OPTIONAL }
-namespace store {
-enum Slot : uint8_t { version, auth_safe, mac };
-constexpr Component components[] = {
+constexpr Component store_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("authSafe", KOVRA_ASN1_TYPE_CONTENT_INFO),
     optional("macData", KOVRA_ASN1_TYPE_MAC_DATA),
 };
-} // namespace store
 
 // MacData ::= SEQUENCE {
 //     mac         DigestInfo,
 //     macSalt     OCTET STRING,
 //     iterations  INTEGER DEFAULT 1 }
-namespace mac {
-enum Slot : uint8_t { digest, mac_salt, iterations };
-constexpr Component components[] = {
+constexpr Component mac_components[] = {
     required("mac", KOVRA_ASN1_TYPE_DIGEST_INFO),
     required("macSalt", KOVRA_ASN1_TYPE_OCTET_STRING),
     defaulted("iterations", KOVRA_ASN1_TYPE_INTEGER, default_iterations),
 };
-} // namespace mac
 
 // SafeBag ::= SEQUENCE {
 //     bagId          OBJECT IDENTIFIER,
 //     bagValue       [0] EXPLICIT ANY DEFINED BY bagId,
 //     bagAttributes  SET OF Attribute OPTIONAL }
-namespace bag {
-enum Slot : uint8_t { bag_id, bag_value, bag_attributes };
-constexpr Component components[] = {
+constexpr Component bag_components[] = {
     required("bagId", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("bagValue", KOVRA_ASN1_TYPE_ANY, explicit_tag(0)),
     optional("bagAttributes", KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTES),
 };
-static_assert(is_sound(components));
-} // namespace bag
 
 // CertBag ::= SEQUENCE {
 //     certId     OBJECT IDENTIFIER,
 //     certValue  [0] EXPLICIT ANY DEFINED BY certId }
-namespace cert {
-enum Slot : uint8_t { cert_id, cert_value };
-constexpr Component components[] = {
+constexpr Component cert_components[] = {
     required("certId", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("certValue", KOVRA_ASN1_TYPE_ANY, explicit_tag(0)),
 };
-static_assert(is_sound(components));
-} // namespace cert
 
 // CRLBag ::= SEQUENCE {
 //     crlId     OBJECT IDENTIFIER,
 //     crlValue  [0] EXPLICIT ANY DEFINED BY crlId }
-namespace crl {
-enum Slot : uint8_t { crl_id, crl_value };
-constexpr Component components[] = {
+constexpr Component crl_components[] = {
     required("crlId", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("crlValue", KOVRA_ASN1_TYPE_ANY, explicit_tag(0)),
 };
-static_assert(is_sound(components));
-} // namespace crl
 
 // SecretBag ::= SEQUENCE {
 //     secretTypeId  OBJECT IDENTIFIER,
 //     secretValue   [0] EXPLICIT ANY DEFINED BY secretTypeId }
-namespace secret {
-enum Slot : uint8_t { secret_type_id, secret_value };
-constexpr Component components[] = {
+constexpr Component secret_components[] = {
     required("secretTypeId", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("secretValue", KOVRA_ASN1_TYPE_ANY, explicit_tag(0)),
 };
-static_assert(is_sound(components));
-} // namespace secret
 
 // pkcs-12PbeParams ::= SEQUENCE {
 //     salt        OCTET STRING,
 //     iterations  INTEGER }
-namespace pbe {
-enum Slot : uint8_t { salt, iterations };
-constexpr Component components[] = {
+constexpr Component pbe_components[] = {
     required("salt", KOVRA_ASN1_TYPE_OCTET_STRING),
     required("iterations", KOVRA_ASN1_TYPE_INTEGER),
 };
-} // namespace pbe
 
 } // namespace
 
-constexpr Structure pfx = structure(source, store::components);
-constexpr Structure mac_data = structure(source, mac::components);
-constexpr Structure safe_bag = structure(source, bag::components);
-constexpr Structure cert_bag = structure(source, cert::components);
-constexpr Structure crl_bag = structure(source, crl::components);
-constexpr Structure secret_bag = structure(source, secret::components);
-constexpr Structure pkcs12_pbe_params = structure(source, pbe::components);
+constexpr Structure pfx = structure(source, store_components);
+constexpr Structure mac_data = structure(source, mac_components);
+constexpr Structure safe_bag = structure(source, bag_components);
+constexpr Structure cert_bag = structure(source, cert_components);
+constexpr Structure crl_bag = structure(source, crl_components);
+constexpr Structure secret_bag = structure(source, secret_components);
+constexpr Structure pkcs12_pbe_params = structure(source, pbe_components);
 // AuthenticatedSafe ::= SEQUENCE OF ContentInfo
 constexpr ListShape authenticated_safe = {KOVRA_ASN1_TYPE_CONTENT_INFO};
 // SafeContents ::= SEQUENCE OF SafeBag
@@ -124,117 +99,117 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_pkcs12pfx_new(const kovra_asn1_value *version, const kovra_asn1_value *auth_safe,
                                       const kovra_asn1_value *mac) noexcept {
-    return construct(pfx, version, auth_safe, mac);
+    return construct<pfx>(version, auth_safe, mac);
 }
 
 kovra_asn1_value *kovra_pkcs12pfx_getversion(const kovra_asn1_value *obj) noexcept {
-    return component(pfx, obj, store::version);
+    return part<pfx, "version">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12pfx_getauthsafe(const kovra_asn1_value *obj) noexcept {
-    return component(pfx, obj, store::auth_safe);
+    return part<pfx, "authSafe">(obj);
 }
 
 int32_t kovra_pkcs12pfx_hasmacdata(const kovra_asn1_value *obj) noexcept {
-    return component(pfx, obj, store::mac) != nullptr ? 1 : 0;
+    return has_part<pfx, "macData">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12pfx_getmacdata(const kovra_asn1_value *obj) noexcept {
-    return component(pfx, obj, store::mac);
+    return part<pfx, "macData">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12macdata_new(const kovra_asn1_value *digest, const kovra_asn1_value *mac_salt,
                                           const kovra_asn1_value *iterations) noexcept {
-    return construct(mac_data, digest, mac_salt, iterations);
+    return construct<mac_data>(digest, mac_salt, iterations);
 }
 
 kovra_asn1_value *kovra_pkcs12macdata_getmac(const kovra_asn1_value *obj) noexcept {
-    return component(mac_data, obj, mac::digest);
+    return part<mac_data, "mac">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12macdata_getmacsalt(const kovra_asn1_value *obj) noexcept {
-    return component(mac_data, obj, mac::mac_salt);
+    return part<mac_data, "macSalt">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12macdata_getiterations(const kovra_asn1_value *obj) noexcept {
-    return component(mac_data, obj, mac::iterations);
+    return part<mac_data, "iterations">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12safebag_new(const kovra_asn1_value *bag_id, const kovra_asn1_value *bag_value,
                                           const kovra_asn1_value *bag_attributes) noexcept {
     if (kovra_asn1_any_iseoc(bag_value) == 1)
         return nullptr;
-    return construct(safe_bag, bag_id, bag_value, bag_attributes);
+    return construct<safe_bag>(bag_id, bag_value, bag_attributes);
 }
 
 kovra_asn1_value *kovra_pkcs12safebag_getbagid(const kovra_asn1_value *obj) noexcept {
-    return component(safe_bag, obj, bag::bag_id);
+    return part<safe_bag, "bagId">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12safebag_getbagvalue(const kovra_asn1_value *obj) noexcept {
-    return component(safe_bag, obj, bag::bag_value);
+    return part<safe_bag, "bagValue">(obj);
 }
 
 int32_t kovra_pkcs12safebag_hasbagattributes(const kovra_asn1_value *obj) noexcept {
-    return component(safe_bag, obj, bag::bag_attributes) != nullptr ? 1 : 0;
+    return has_part<safe_bag, "bagAttributes">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12safebag_getbagattributes(const kovra_asn1_value *obj) noexcept {
-    return component(safe_bag, obj, bag::bag_attributes);
+    return part<safe_bag, "bagAttributes">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12certbag_new(const kovra_asn1_value *cert_id,
                                           const kovra_asn1_value *cert_value) noexcept {
     if (kovra_asn1_any_iseoc(cert_value) == 1)
         return nullptr;
-    return construct(cert_bag, cert_id, cert_value);
+    return construct<cert_bag>(cert_id, cert_value);
 }
 
 kovra_asn1_value *kovra_pkcs12certbag_getcertid(const kovra_asn1_value *obj) noexcept {
-    return component(cert_bag, obj, cert::cert_id);
+    return part<cert_bag, "certId">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12certbag_getcertvalue(const kovra_asn1_value *obj) noexcept {
-    return component(cert_bag, obj, cert::cert_value);
+    return part<cert_bag, "certValue">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12crlbag_new(const kovra_asn1_value *crl_id, const kovra_asn1_value *crl_value) noexcept {
     if (kovra_asn1_any_iseoc(crl_value) == 1)
         return nullptr;
-    return construct(crl_bag, crl_id, crl_value);
+    return construct<crl_bag>(crl_id, crl_value);
 }
 
 kovra_asn1_value *kovra_pkcs12crlbag_getcrlid(const kovra_asn1_value *obj) noexcept {
-    return component(crl_bag, obj, crl::crl_id);
+    return part<crl_bag, "crlId">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12crlbag_getcrlvalue(const kovra_asn1_value *obj) noexcept {
-    return component(crl_bag, obj, crl::crl_value);
+    return part<crl_bag, "crlValue">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12secretbag_new(const kovra_asn1_value *secret_type_id,
                                             const kovra_asn1_value *secret_value) noexcept {
     if (kovra_asn1_any_iseoc(secret_value) == 1)
         return nullptr;
-    return construct(secret_bag, secret_type_id, secret_value);
+    return construct<secret_bag>(secret_type_id, secret_value);
 }
 
 kovra_asn1_value *kovra_pkcs12secretbag_getsecrettypeid(const kovra_asn1_value *obj) noexcept {
-    return component(secret_bag, obj, secret::secret_type_id);
+    return part<secret_bag, "secretTypeId">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12secretbag_getsecretvalue(const kovra_asn1_value *obj) noexcept {
-    return component(secret_bag, obj, secret::secret_value);
+    return part<secret_bag, "secretValue">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12pbeparams_new(const kovra_asn1_value *salt, const kovra_asn1_value *iterations) noexcept {
-    return construct(pkcs12_pbe_params, salt, iterations);
+    return construct<pkcs12_pbe_params>(salt, iterations);
 }
 
 kovra_asn1_value *kovra_pkcs12pbeparams_getsalt(const kovra_asn1_value *obj) noexcept {
-    return component(pkcs12_pbe_params, obj, pbe::salt);
+    return part<pkcs12_pbe_params, "salt">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs12pbeparams_getiterations(const kovra_asn1_value *obj) noexcept {
-    return component(pkcs12_pbe_params, obj, pbe::iterations);
+    return part<pkcs12_pbe_params, "iterations">(obj);
 }

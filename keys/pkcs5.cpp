@@ -1,9 +1,8 @@
 // Parameters of password-based encryption and message authentication (PKCS #5, RFC 8018, A.2 to A.5).
 
-#include "core/choice.hpp"
 #include "core/content.hpp"
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_octetstring.h"
 #include "kovra/asn1_pkcs5.h"
 #include "kovra/asn1_types.h"
@@ -21,74 +20,59 @@ constexpr const Default &default_prf = default_encoding<KOVRA_ASN1_TYPE_ALGORITH
 // PBEParameter ::= SEQUENCE {
 //     salt            OCTET STRING (SIZE (8)),
 //     iterationCount  INTEGER }
-namespace pbe {
-enum Slot : uint8_t { salt, iteration_count };
-constexpr Component components[] = {
+constexpr Component pbe_components[] = {
     required("salt", KOVRA_ASN1_TYPE_OCTET_STRING),
     required("iterationCount", KOVRA_ASN1_TYPE_INTEGER),
 };
 
 bool has_salt_of_8(const Record &record) {
-    return has_octets(in_slot(record, salt), 8);
+    return has_octets(record.slot(slot_of(pbe_components, "salt")), 8);
 }
 constexpr int32_t bad_salt = 0x10314;
-} // namespace pbe
 
 // CHOICE {
 //     specified    OCTET STRING,
 //     otherSource  AlgorithmIdentifier }
-namespace salt_choice {
-enum Alternative : uint8_t { specified, other_source };
-constexpr Component alternatives[] = {
+constexpr Component salt_choice_alternatives[] = {
     required("specified", KOVRA_ASN1_TYPE_OCTET_STRING),
     required("otherSource", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
 };
-} // namespace salt_choice
 
 // PBKDF2-params ::= SEQUENCE {
 //     salt            CHOICE { ... },
 //     iterationCount  INTEGER,
 //     keyLength       INTEGER OPTIONAL,
 //     prf             AlgorithmIdentifier DEFAULT algid-hmacWithSHA1 }
-namespace pbkdf2 {
-enum Slot : uint8_t { salt, iteration_count, key_length, prf };
-constexpr Component components[] = {
+constexpr Component pbkdf2_components[] = {
     required("salt", KOVRA_ASN1_TYPE_PBKDF2_SALT),
     required("iterationCount", KOVRA_ASN1_TYPE_INTEGER),
     optional("keyLength", KOVRA_ASN1_TYPE_INTEGER),
     defaulted("prf", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, default_prf),
 };
-} // namespace pbkdf2
 
 // PBES2-params ::= SEQUENCE {
 //     keyDerivationFunc  AlgorithmIdentifier,
 //     encryptionScheme   AlgorithmIdentifier }
-namespace pbes2 {
-enum Slot : uint8_t { key_derivation_func, encryption_scheme };
-constexpr Component components[] = {
+constexpr Component pbes2_components[] = {
     required("keyDerivationFunc", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("encryptionScheme", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
 };
-} // namespace pbes2
 
 // PBMAC1-params ::= SEQUENCE {
 //     keyDerivationFunc  AlgorithmIdentifier,
 //     messageAuthScheme  AlgorithmIdentifier }
-namespace pbmac1 {
-enum Slot : uint8_t { key_derivation_func, message_auth_scheme };
-constexpr Component components[] = {
+constexpr Component pbmac1_components[] = {
     required("keyDerivationFunc", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("messageAuthScheme", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
 };
-} // namespace pbmac1
 
 } // namespace
 
-constexpr Structure pbe_parameter = checked(structure(source, pbe::components), pbe::has_salt_of_8, pbe::bad_salt);
-constexpr ChoiceShape pbkdf2_salt = choice(source, salt_choice::alternatives);
-constexpr Structure pbkdf2_params = structure(source, pbkdf2::components);
-constexpr Structure pbes2_params = structure(source, pbes2::components);
-constexpr Structure pbmac1_params = structure(source, pbmac1::components);
+constexpr Structure pbe_parameter = checked(structure(source, pbe_components), has_salt_of_8, bad_salt);
+constexpr ChoiceShape pbkdf2_salt = choice(source, salt_choice_alternatives);
+constexpr Structure pbkdf2_params = structure(source, pbkdf2_components);
+constexpr Structure pbes2_params = structure(source, pbes2_components);
+constexpr Structure pbmac1_params = structure(source, pbmac1_components);
 
 } // namespace kovra::asn1
 
@@ -96,23 +80,23 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_pkcs5pbeparam_new(const kovra_asn1_value *salt,
                                           const kovra_asn1_value *iteration_count) noexcept {
-    return construct(pbe_parameter, salt, iteration_count);
+    return construct<pbe_parameter>(salt, iteration_count);
 }
 
 kovra_asn1_value *kovra_pkcs5pbeparam_getsalt(const kovra_asn1_value *obj) noexcept {
-    return component(pbe_parameter, obj, pbe::salt);
+    return part<pbe_parameter, "salt">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5pbeparam_getiterationcount(const kovra_asn1_value *obj) noexcept {
-    return component(pbe_parameter, obj, pbe::iteration_count);
+    return part<pbe_parameter, "iterationCount">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5pbkdf2salt_newspecified(const kovra_asn1_value *specified) noexcept {
-    return construct_choice(pbkdf2_salt, salt_choice::specified, specified);
+    return construct_choice<pbkdf2_salt, "specified">(specified);
 }
 
 kovra_asn1_value *kovra_pkcs5pbkdf2salt_newothersource(const kovra_asn1_value *other_source) noexcept {
-    return construct_choice(pbkdf2_salt, salt_choice::other_source, other_source);
+    return construct_choice<pbkdf2_salt, "otherSource">(other_source);
 }
 
 int32_t kovra_pkcs5pbkdf2salt_gettype(const kovra_asn1_value *obj) noexcept {
@@ -121,61 +105,61 @@ int32_t kovra_pkcs5pbkdf2salt_gettype(const kovra_asn1_value *obj) noexcept {
 }
 
 kovra_asn1_value *kovra_pkcs5pbkdf2salt_getspecified(const kovra_asn1_value *obj) noexcept {
-    return alternative(pbkdf2_salt, obj, salt_choice::specified);
+    return chosen<pbkdf2_salt, "specified">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5pbkdf2salt_getothersource(const kovra_asn1_value *obj) noexcept {
-    return alternative(pbkdf2_salt, obj, salt_choice::other_source);
+    return chosen<pbkdf2_salt, "otherSource">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5pbkdf2params_new(const kovra_asn1_value *salt, const kovra_asn1_value *iteration_count,
                                               const kovra_asn1_value *key_length,
                                               const kovra_asn1_value *prf) noexcept {
-    return construct(pbkdf2_params, salt, iteration_count, key_length, prf);
+    return construct<pbkdf2_params>(salt, iteration_count, key_length, prf);
 }
 
 kovra_asn1_value *kovra_pkcs5pbkdf2params_getsalt(const kovra_asn1_value *obj) noexcept {
-    return component(pbkdf2_params, obj, pbkdf2::salt);
+    return part<pbkdf2_params, "salt">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5pbkdf2params_getiterationcount(const kovra_asn1_value *obj) noexcept {
-    return component(pbkdf2_params, obj, pbkdf2::iteration_count);
+    return part<pbkdf2_params, "iterationCount">(obj);
 }
 
 int32_t kovra_pkcs5pbkdf2params_haskeylength(const kovra_asn1_value *obj) noexcept {
-    return component(pbkdf2_params, obj, pbkdf2::key_length) != nullptr ? 1 : 0;
+    return has_part<pbkdf2_params, "keyLength">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5pbkdf2params_getkeylength(const kovra_asn1_value *obj) noexcept {
-    return component(pbkdf2_params, obj, pbkdf2::key_length);
+    return part<pbkdf2_params, "keyLength">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5pbkdf2params_getprf(const kovra_asn1_value *obj) noexcept {
-    return component(pbkdf2_params, obj, pbkdf2::prf);
+    return part<pbkdf2_params, "prf">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5pbes2params_new(const kovra_asn1_value *key_derivation_func,
                                              const kovra_asn1_value *encryption_scheme) noexcept {
-    return construct(pbes2_params, key_derivation_func, encryption_scheme);
+    return construct<pbes2_params>(key_derivation_func, encryption_scheme);
 }
 
 kovra_asn1_value *kovra_pkcs5pbes2params_getkeyderivationfunc(const kovra_asn1_value *obj) noexcept {
-    return component(pbes2_params, obj, pbes2::key_derivation_func);
+    return part<pbes2_params, "keyDerivationFunc">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5pbes2params_getencryptionscheme(const kovra_asn1_value *obj) noexcept {
-    return component(pbes2_params, obj, pbes2::encryption_scheme);
+    return part<pbes2_params, "encryptionScheme">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5pbmac1params_new(const kovra_asn1_value *key_derivation_func,
                                               const kovra_asn1_value *message_auth_scheme) noexcept {
-    return construct(pbmac1_params, key_derivation_func, message_auth_scheme);
+    return construct<pbmac1_params>(key_derivation_func, message_auth_scheme);
 }
 
 kovra_asn1_value *kovra_pkcs5pbmac1params_getkeyderivationfunc(const kovra_asn1_value *obj) noexcept {
-    return component(pbmac1_params, obj, pbmac1::key_derivation_func);
+    return part<pbmac1_params, "keyDerivationFunc">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5pbmac1params_getmessageauthscheme(const kovra_asn1_value *obj) noexcept {
-    return component(pbmac1_params, obj, pbmac1::message_auth_scheme);
+    return part<pbmac1_params, "messageAuthScheme">(obj);
 }

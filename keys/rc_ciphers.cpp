@@ -1,7 +1,7 @@
 // Parameters of RC2 and RC5 in CBC mode (RFC 8018, B.2.3 and B.2.4).
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_pkcs5.h"
 #include "kovra/asn1_types.h"
 
@@ -14,33 +14,27 @@ constexpr char source[] = "ASN1_PKCS5";
 // RC2-CBC-Parameter ::= SEQUENCE {
 //     rc2ParameterVersion  INTEGER OPTIONAL,
 //     iv                   OCTET STRING }
-namespace rc2 {
-enum Slot : uint8_t { parameter_version, iv };
-constexpr Component components[] = {
+constexpr Component rc2_components[] = {
     optional("rc2ParameterVersion", KOVRA_ASN1_TYPE_INTEGER),
     required("iv", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
-} // namespace rc2
 
 // RC5-CBC-Parameters ::= SEQUENCE {
 //     version          INTEGER,
 //     rounds           INTEGER,
 //     blockSizeInBits  INTEGER,
 //     iv               OCTET STRING OPTIONAL }
-namespace rc5 {
-enum Slot : uint8_t { version, rounds, block_size_in_bits, iv };
-constexpr Component components[] = {
+constexpr Component rc5_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("rounds", KOVRA_ASN1_TYPE_INTEGER),
     required("blockSizeInBits", KOVRA_ASN1_TYPE_INTEGER),
     optional("iv", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
-} // namespace rc5
 
 } // namespace
 
-constexpr Structure rc2_cbc_parameter = structure(source, rc2::components);
-constexpr Structure rc5_cbc_parameters = structure(source, rc5::components);
+constexpr Structure rc2_cbc_parameter = structure(source, rc2_components);
+constexpr Structure rc5_cbc_parameters = structure(source, rc5_components);
 
 } // namespace kovra::asn1
 
@@ -48,43 +42,43 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_pkcs5rc2cbcparam_new(const kovra_asn1_value *parameter_version,
                                              const kovra_asn1_value *iv) noexcept {
-    return construct(rc2_cbc_parameter, parameter_version, iv);
+    return construct<rc2_cbc_parameter>(parameter_version, iv);
 }
 
 int32_t kovra_pkcs5rc2cbcparam_hasrc2parameterversion(const kovra_asn1_value *obj) noexcept {
-    return component(rc2_cbc_parameter, obj, rc2::parameter_version) != nullptr ? 1 : 0;
+    return has_part<rc2_cbc_parameter, "rc2ParameterVersion">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5rc2cbcparam_getrc2parameterversion(const kovra_asn1_value *obj) noexcept {
-    return component(rc2_cbc_parameter, obj, rc2::parameter_version);
+    return part<rc2_cbc_parameter, "rc2ParameterVersion">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5rc2cbcparam_getiv(const kovra_asn1_value *obj) noexcept {
-    return component(rc2_cbc_parameter, obj, rc2::iv);
+    return part<rc2_cbc_parameter, "iv">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5rc5cbcparam_new(const kovra_asn1_value *version, const kovra_asn1_value *rounds,
                                              const kovra_asn1_value *block_size_in_bits,
                                              const kovra_asn1_value *iv) noexcept {
-    return construct(rc5_cbc_parameters, version, rounds, block_size_in_bits, iv);
+    return construct<rc5_cbc_parameters>(version, rounds, block_size_in_bits, iv);
 }
 
 kovra_asn1_value *kovra_pkcs5rc5cbcparam_getversion(const kovra_asn1_value *obj) noexcept {
-    return component(rc5_cbc_parameters, obj, rc5::version);
+    return part<rc5_cbc_parameters, "version">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5rc5cbcparam_getrounds(const kovra_asn1_value *obj) noexcept {
-    return component(rc5_cbc_parameters, obj, rc5::rounds);
+    return part<rc5_cbc_parameters, "rounds">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5rc5cbcparam_getblocksizeinbits(const kovra_asn1_value *obj) noexcept {
-    return component(rc5_cbc_parameters, obj, rc5::block_size_in_bits);
+    return part<rc5_cbc_parameters, "blockSizeInBits">(obj);
 }
 
 int32_t kovra_pkcs5rc5cbcparam_hasiv(const kovra_asn1_value *obj) noexcept {
-    return component(rc5_cbc_parameters, obj, rc5::iv) != nullptr ? 1 : 0;
+    return has_part<rc5_cbc_parameters, "iv">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs5rc5cbcparam_getiv(const kovra_asn1_value *obj) noexcept {
-    return component(rc5_cbc_parameters, obj, rc5::iv);
+    return part<rc5_cbc_parameters, "iv">(obj);
 }

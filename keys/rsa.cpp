@@ -2,7 +2,7 @@
 
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_integer.h"
 #include "kovra/asn1_pkcs1.h"
 #include "kovra/asn1_types.h"
@@ -16,26 +16,20 @@ constexpr char source[] = "ASN1_PKCS1";
 // RSAPublicKey ::= SEQUENCE {
 //     modulus         INTEGER,
 //     publicExponent  INTEGER }
-namespace public_key {
-enum Slot : uint8_t { modulus, public_exponent };
-constexpr Component components[] = {
+constexpr Component public_key_components[] = {
     required("modulus", KOVRA_ASN1_TYPE_INTEGER),
     required("publicExponent", KOVRA_ASN1_TYPE_INTEGER),
 };
-} // namespace public_key
 
 // OtherPrimeInfo ::= SEQUENCE {
 //     prime        INTEGER,
 //     exponent     INTEGER,
 //     coefficient  INTEGER }
-namespace prime_info {
-enum Slot : uint8_t { prime, exponent, coefficient };
-constexpr Component components[] = {
+constexpr Component prime_info_components[] = {
     required("prime", KOVRA_ASN1_TYPE_INTEGER),
     required("exponent", KOVRA_ASN1_TYPE_INTEGER),
     required("coefficient", KOVRA_ASN1_TYPE_INTEGER),
 };
-} // namespace prime_info
 
 // RSAPrivateKey ::= SEQUENCE {
 //     version          INTEGER { two-prime(0), multi(1) },
@@ -49,21 +43,8 @@ constexpr Component components[] = {
 //     coefficient      INTEGER,
 //     otherPrimeInfos  OtherPrimeInfos OPTIONAL }
 // The version says whether there are other primes, and has to be right.
-namespace private_key {
-enum Slot : uint8_t {
-    version,
-    modulus,
-    public_exponent,
-    private_exponent,
-    prime1,
-    prime2,
-    exponent1,
-    exponent2,
-    coefficient,
-    other_primes
-};
 // clang-format off
-constexpr Component components[] = {
+constexpr Component private_key_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("modulus", KOVRA_ASN1_TYPE_INTEGER),
     required("publicExponent", KOVRA_ASN1_TYPE_INTEGER),
@@ -79,18 +60,17 @@ constexpr Component components[] = {
 
 bool has_right_version(const Record &record) {
     int32_t number = 0;
-    return kovra_asn1_integer_getlong(in_slot(record, version), &number) == 1 &&
-           number == (in_slot(record, other_primes) != nullptr ? 1 : 0);
+    return kovra_asn1_integer_getlong(record.slot(slot_of(private_key_components, "version")), &number) == 1 &&
+           number == (record.slot(slot_of(private_key_components, "otherPrimeInfos")) != nullptr ? 1 : 0);
 }
 constexpr int32_t bad_version = 0x10303;
-} // namespace private_key
 
 } // namespace
 
-constexpr Structure rsa_public_key = structure(source, public_key::components);
-constexpr Structure other_prime_info = structure(source, prime_info::components);
+constexpr Structure rsa_public_key = structure(source, public_key_components);
+constexpr Structure other_prime_info = structure(source, prime_info_components);
 constexpr Structure rsa_private_key =
-    checked(structure(source, private_key::components), private_key::has_right_version, private_key::bad_version);
+    checked(structure(source, private_key_components), has_right_version, bad_version);
 // OtherPrimeInfos ::= SEQUENCE SIZE (1..MAX) OF OtherPrimeInfo
 constexpr ListShape other_prime_infos = {KOVRA_ASN1_TYPE_OTHER_PRIME_INFO, ListReading::tagged, source};
 
@@ -100,32 +80,32 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_pkcs1rsapublickey_new(const kovra_asn1_value *modulus,
                                               const kovra_asn1_value *public_exponent) noexcept {
-    return construct(rsa_public_key, modulus, public_exponent);
+    return construct<rsa_public_key>(modulus, public_exponent);
 }
 
 kovra_asn1_value *kovra_pkcs1rsapublickey_getmodulus(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_public_key, obj, public_key::modulus);
+    return part<rsa_public_key, "modulus">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1rsapublickey_getpublicexponent(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_public_key, obj, public_key::public_exponent);
+    return part<rsa_public_key, "publicExponent">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1otherprimeinfo_new(const kovra_asn1_value *prime, const kovra_asn1_value *exponent,
                                                 const kovra_asn1_value *coefficient) noexcept {
-    return construct(other_prime_info, prime, exponent, coefficient);
+    return construct<other_prime_info>(prime, exponent, coefficient);
 }
 
 kovra_asn1_value *kovra_pkcs1otherprimeinfo_getprime(const kovra_asn1_value *obj) noexcept {
-    return component(other_prime_info, obj, prime_info::prime);
+    return part<other_prime_info, "prime">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1otherprimeinfo_getexponent(const kovra_asn1_value *obj) noexcept {
-    return component(other_prime_info, obj, prime_info::exponent);
+    return part<other_prime_info, "exponent">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1otherprimeinfo_getcoefficient(const kovra_asn1_value *obj) noexcept {
-    return component(other_prime_info, obj, prime_info::coefficient);
+    return part<other_prime_info, "coefficient">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1rsaprivatekey_new(const kovra_asn1_value *version, const kovra_asn1_value *modulus,
@@ -134,50 +114,50 @@ kovra_asn1_value *kovra_pkcs1rsaprivatekey_new(const kovra_asn1_value *version, 
                                                const kovra_asn1_value *prime2, const kovra_asn1_value *exponent1,
                                                const kovra_asn1_value *exponent2, const kovra_asn1_value *coefficient,
                                                const kovra_asn1_value *other_primes) noexcept {
-    return construct(rsa_private_key, version, modulus, public_exponent, private_exponent, prime1, prime2, exponent1,
-                     exponent2, coefficient, other_primes);
+    return construct<rsa_private_key>(version, modulus, public_exponent, private_exponent, prime1, prime2, exponent1,
+                                      exponent2, coefficient, other_primes);
 }
 
 kovra_asn1_value *kovra_pkcs1rsaprivatekey_getversion(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_private_key, obj, private_key::version);
+    return part<rsa_private_key, "version">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1rsaprivatekey_getmodulus(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_private_key, obj, private_key::modulus);
+    return part<rsa_private_key, "modulus">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1rsaprivatekey_getpublicexponent(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_private_key, obj, private_key::public_exponent);
+    return part<rsa_private_key, "publicExponent">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1rsaprivatekey_getprivateexponent(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_private_key, obj, private_key::private_exponent);
+    return part<rsa_private_key, "privateExponent">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1rsaprivatekey_getprime1(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_private_key, obj, private_key::prime1);
+    return part<rsa_private_key, "prime1">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1rsaprivatekey_getprime2(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_private_key, obj, private_key::prime2);
+    return part<rsa_private_key, "prime2">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1rsaprivatekey_getexponent1(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_private_key, obj, private_key::exponent1);
+    return part<rsa_private_key, "exponent1">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1rsaprivatekey_getexponent2(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_private_key, obj, private_key::exponent2);
+    return part<rsa_private_key, "exponent2">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1rsaprivatekey_getcoefficient(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_private_key, obj, private_key::coefficient);
+    return part<rsa_private_key, "coefficient">(obj);
 }
 
 int32_t kovra_pkcs1rsaprivatekey_hasotherprimeinfos(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_private_key, obj, private_key::other_primes) != nullptr ? 1 : 0;
+    return has_part<rsa_private_key, "otherPrimeInfos">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1rsaprivatekey_getotherprimeinfos(const kovra_asn1_value *obj) noexcept {
-    return component(rsa_private_key, obj, private_key::other_primes);
+    return part<rsa_private_key, "otherPrimeInfos">(obj);
 }

@@ -2,7 +2,7 @@
 // the default is.
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_pkcs1.h"
 #include "kovra/asn1_types.h"
 
@@ -34,36 +34,28 @@ constexpr const Default &default_trailer = default_encoding<KOVRA_ASN1_TYPE_INTE
 //     hashAlgorithm     [0] EXPLICIT AlgorithmIdentifier DEFAULT sha1,
 //     maskGenAlgorithm  [1] EXPLICIT AlgorithmIdentifier DEFAULT mgf1SHA1,
 //     pSourceAlgorithm  [2] EXPLICIT AlgorithmIdentifier DEFAULT pSpecifiedEmpty }
-namespace oaep {
-enum Slot : uint8_t { hash_algorithm, mask_gen_algorithm, p_source_algorithm };
-constexpr Component components[] = {
+constexpr Component oaep_components[] = {
     defaulted("hashAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, default_hash, explicit_tag(0)),
     defaulted("maskGenAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, default_mask, explicit_tag(1)),
     defaulted("pSourceAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, default_label, explicit_tag(2)),
 };
-static_assert(is_sound(components));
-} // namespace oaep
 
 // RSASSA-PSS-params ::= SEQUENCE {
 //     hashAlgorithm     [0] EXPLICIT AlgorithmIdentifier DEFAULT sha1,
 //     maskGenAlgorithm  [1] EXPLICIT AlgorithmIdentifier DEFAULT mgf1SHA1,
 //     saltLength        [2] EXPLICIT INTEGER DEFAULT 20,
 //     trailerField      [3] EXPLICIT INTEGER DEFAULT trailerFieldBC(1) }
-namespace pss {
-enum Slot : uint8_t { hash_algorithm, mask_gen_algorithm, salt_length, trailer_field };
-constexpr Component components[] = {
+constexpr Component pss_components[] = {
     defaulted("hashAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, default_hash, explicit_tag(0)),
     defaulted("maskGenAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, default_mask, explicit_tag(1)),
     defaulted("saltLength", KOVRA_ASN1_TYPE_INTEGER, default_salt_length, explicit_tag(2)),
     defaulted("trailerField", KOVRA_ASN1_TYPE_INTEGER, default_trailer, explicit_tag(3)),
 };
-static_assert(is_sound(components));
-} // namespace pss
 
 } // namespace
 
-constexpr Structure rsaes_oaep_params = structure(source, oaep::components);
-constexpr Structure rsassa_pss_params = structure(source, pss::components);
+constexpr Structure rsaes_oaep_params = structure(source, oaep_components);
+constexpr Structure rsassa_pss_params = structure(source, pss_components);
 
 } // namespace kovra::asn1
 
@@ -72,40 +64,40 @@ using namespace kovra::asn1;
 kovra_asn1_value *kovra_pkcs1oaepparams_new(const kovra_asn1_value *hash_algorithm,
                                             const kovra_asn1_value *mask_gen_algorithm,
                                             const kovra_asn1_value *p_source_algorithm) noexcept {
-    return construct(rsaes_oaep_params, hash_algorithm, mask_gen_algorithm, p_source_algorithm);
+    return construct<rsaes_oaep_params>(hash_algorithm, mask_gen_algorithm, p_source_algorithm);
 }
 
 kovra_asn1_value *kovra_pkcs1oaepparams_gethashalgorithm(const kovra_asn1_value *obj) noexcept {
-    return component(rsaes_oaep_params, obj, oaep::hash_algorithm);
+    return part<rsaes_oaep_params, "hashAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1oaepparams_getmaskgenalgorithm(const kovra_asn1_value *obj) noexcept {
-    return component(rsaes_oaep_params, obj, oaep::mask_gen_algorithm);
+    return part<rsaes_oaep_params, "maskGenAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1oaepparams_getpsourcealgorithm(const kovra_asn1_value *obj) noexcept {
-    return component(rsaes_oaep_params, obj, oaep::p_source_algorithm);
+    return part<rsaes_oaep_params, "pSourceAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1pssparams_new(const kovra_asn1_value *hash_algorithm,
                                            const kovra_asn1_value *mask_gen_algorithm,
                                            const kovra_asn1_value *salt_length,
                                            const kovra_asn1_value *trailer_field) noexcept {
-    return construct(rsassa_pss_params, hash_algorithm, mask_gen_algorithm, salt_length, trailer_field);
+    return construct<rsassa_pss_params>(hash_algorithm, mask_gen_algorithm, salt_length, trailer_field);
 }
 
 kovra_asn1_value *kovra_pkcs1pssparams_gethashalgorithm(const kovra_asn1_value *obj) noexcept {
-    return component(rsassa_pss_params, obj, pss::hash_algorithm);
+    return part<rsassa_pss_params, "hashAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1pssparams_getmaskgenalgorithm(const kovra_asn1_value *obj) noexcept {
-    return component(rsassa_pss_params, obj, pss::mask_gen_algorithm);
+    return part<rsassa_pss_params, "maskGenAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1pssparams_getsaltlength(const kovra_asn1_value *obj) noexcept {
-    return component(rsassa_pss_params, obj, pss::salt_length);
+    return part<rsassa_pss_params, "saltLength">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs1pssparams_gettrailerfield(const kovra_asn1_value *obj) noexcept {
-    return component(rsassa_pss_params, obj, pss::trailer_field);
+    return part<rsassa_pss_params, "trailerField">(obj);
 }

@@ -1,7 +1,7 @@
 // A ciphertext of SM2 and a key pair that is enveloped for an SM2 key (GM/T 0009).
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_ecc.h"
 #include "kovra/asn1_types.h"
 
@@ -16,35 +16,29 @@ constexpr char source[] = "ASN1_ECC";
 //     y           INTEGER,
 //     hash        OCTET STRING,
 //     ciphertext  OCTET STRING }
-namespace cipher {
-enum Slot : uint8_t { x, y, hash, ciphertext };
-constexpr Component components[] = {
+constexpr Component cipher_components[] = {
     required("x", KOVRA_ASN1_TYPE_INTEGER),
     required("y", KOVRA_ASN1_TYPE_INTEGER),
     required("hash", KOVRA_ASN1_TYPE_OCTET_STRING),
     required("ciphertext", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
-} // namespace cipher
 
 // SM2EnvelopedKey ::= SEQUENCE {
 //     symAlgID                AlgorithmIdentifier,
 //     symEncryptedKey         SM2Cipher,
 //     sm2PublicKey            BIT STRING,
 //     sm2EncryptedPrivateKey  BIT STRING }
-namespace enveloped {
-enum Slot : uint8_t { sym_alg_id, sym_encrypted_key, public_key, encrypted_private_key };
-constexpr Component components[] = {
+constexpr Component enveloped_components[] = {
     required("symAlgID", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("symEncryptedKey", KOVRA_ASN1_TYPE_SM2_CIPHER),
     required("sm2PublicKey", KOVRA_ASN1_TYPE_BIT_STRING),
     required("sm2EncryptedPrivateKey", KOVRA_ASN1_TYPE_BIT_STRING),
 };
-} // namespace enveloped
 
 } // namespace
 
-constexpr Structure sm2_cipher = structure(source, cipher::components);
-constexpr Structure sm2_enveloped_key = structure(source, enveloped::components);
+constexpr Structure sm2_cipher = structure(source, cipher_components);
+constexpr Structure sm2_enveloped_key = structure(source, enveloped_components);
 
 } // namespace kovra::asn1
 
@@ -52,44 +46,44 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_sm2cipher_new(const kovra_asn1_value *x, const kovra_asn1_value *y,
                                       const kovra_asn1_value *hash, const kovra_asn1_value *ciphertext) noexcept {
-    return construct(sm2_cipher, x, y, hash, ciphertext);
+    return construct<sm2_cipher>(x, y, hash, ciphertext);
 }
 
 kovra_asn1_value *kovra_sm2cipher_getx(const kovra_asn1_value *obj) noexcept {
-    return component(sm2_cipher, obj, cipher::x);
+    return part<sm2_cipher, "x">(obj);
 }
 
 kovra_asn1_value *kovra_sm2cipher_gety(const kovra_asn1_value *obj) noexcept {
-    return component(sm2_cipher, obj, cipher::y);
+    return part<sm2_cipher, "y">(obj);
 }
 
 kovra_asn1_value *kovra_sm2cipher_gethash(const kovra_asn1_value *obj) noexcept {
-    return component(sm2_cipher, obj, cipher::hash);
+    return part<sm2_cipher, "hash">(obj);
 }
 
 kovra_asn1_value *kovra_sm2cipher_getciphertext(const kovra_asn1_value *obj) noexcept {
-    return component(sm2_cipher, obj, cipher::ciphertext);
+    return part<sm2_cipher, "ciphertext">(obj);
 }
 
 kovra_asn1_value *kovra_sm2envelopedkey_new(const kovra_asn1_value *sym_alg_id,
                                             const kovra_asn1_value *sym_encrypted_key,
                                             const kovra_asn1_value *public_key,
                                             const kovra_asn1_value *encrypted_private_key) noexcept {
-    return construct(sm2_enveloped_key, sym_alg_id, sym_encrypted_key, public_key, encrypted_private_key);
+    return construct<sm2_enveloped_key>(sym_alg_id, sym_encrypted_key, public_key, encrypted_private_key);
 }
 
 kovra_asn1_value *kovra_sm2envelopedkey_getsymalgid(const kovra_asn1_value *obj) noexcept {
-    return component(sm2_enveloped_key, obj, enveloped::sym_alg_id);
+    return part<sm2_enveloped_key, "symAlgID">(obj);
 }
 
 kovra_asn1_value *kovra_sm2envelopedkey_getsymencryptedkey(const kovra_asn1_value *obj) noexcept {
-    return component(sm2_enveloped_key, obj, enveloped::sym_encrypted_key);
+    return part<sm2_enveloped_key, "symEncryptedKey">(obj);
 }
 
 kovra_asn1_value *kovra_sm2envelopedkey_getsm2publickey(const kovra_asn1_value *obj) noexcept {
-    return component(sm2_enveloped_key, obj, enveloped::public_key);
+    return part<sm2_enveloped_key, "sm2PublicKey">(obj);
 }
 
 kovra_asn1_value *kovra_sm2envelopedkey_getsm2encryptedprivatekey(const kovra_asn1_value *obj) noexcept {
-    return component(sm2_enveloped_key, obj, enveloped::encrypted_private_key);
+    return part<sm2_enveloped_key, "sm2EncryptedPrivateKey">(obj);
 }

@@ -2,11 +2,10 @@
 
 #include "kovra/asn1_attribute.h"
 
-#include "core/choice.hpp"
 #include "core/content.hpp"
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_codec.h"
 #include "kovra/asn1_octetstring.h"
 #include "kovra/asn1_types.h"
@@ -20,21 +19,16 @@ namespace {
 constexpr char source[] = "ASN1_Attribute";
 
 // SEQUENCE { value ANY, contextList SET OF Context }
-namespace context_item {
-enum Slot : uint8_t { value, context_list };
-constexpr Component components[] = {
+constexpr Component context_item_components[] = {
     required("value", KOVRA_ASN1_TYPE_ANY),
     required("contextList", KOVRA_ASN1_TYPE_CONTEXT_LIST),
 };
-} // namespace context_item
 
 // Attribute ::= SEQUENCE {
 //     type               OBJECT IDENTIFIER,
 //     values             SET OF ANY,
 //     valuesWithContext  SET OF SEQUENCE { ... } OPTIONAL }
-namespace attribute_slots {
-enum Slot : uint8_t { type, values, values_with_context };
-constexpr Component components[] = {
+constexpr Component attribute_components[] = {
     required("type", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("values", KOVRA_ASN1_TYPE_SET_OF_ANY),
     optional("valuesWithContext", KOVRA_ASN1_TYPE_ATTRIBUTE_VALUES_WITH_CONTEXT),
@@ -42,67 +36,52 @@ constexpr Component components[] = {
 
 // The attributes of PKCS #10 and CMS have plain values only.
 bool is_plain(const Record &record) {
-    return record.slot(values_with_context) == nullptr;
+    return record.slot(slot_of(attribute_components, "valuesWithContext")) == nullptr;
 }
-} // namespace attribute_slots
 
 // UUIDPair ::= SEQUENCE {
 //     issuerUUID   OCTET STRING (SIZE (16)),
 //     subjectUUID  OCTET STRING (SIZE (16)) }
-namespace uuids {
-enum Slot : uint8_t { issuer, subject };
-constexpr int32_t octets = 16;
-constexpr Component components[] = {
+constexpr int32_t uuid_octets = 16;
+constexpr Component uuids_components[] = {
     required("issuerUUID", KOVRA_ASN1_TYPE_OCTET_STRING),
     required("subjectUUID", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
 bool have_size(const Record &record) {
-    return has_octets(record.slot(issuer), octets) && has_octets(record.slot(subject), octets);
+    return has_octets(record.slot(slot_of(uuids_components, "issuerUUID")), uuid_octets) &&
+           has_octets(record.slot(slot_of(uuids_components, "subjectUUID")), uuid_octets);
 }
-constexpr Structure sized() {
-    Structure made = structure(source, components);
-    made.allows = have_size;
-    made.refusal = code::incorrect_length;
-    return made;
-}
-} // namespace uuids
 
 // TelexNumber ::= SEQUENCE {
 //     telexNumber  PrintableString,
 //     countryCode  PrintableString,
 //     answerback   PrintableString }
-namespace telex {
-enum Slot : uint8_t { telex_number, country_code, answerback };
-constexpr Component components[] = {
+constexpr Component telex_components[] = {
     required("telexNumber", KOVRA_ASN1_TYPE_PRINTABLE_STRING),
     required("countryCode", KOVRA_ASN1_TYPE_PRINTABLE_STRING),
     required("answerback", KOVRA_ASN1_TYPE_PRINTABLE_STRING),
 };
-} // namespace telex
 
 // NameAndOptionalUID ::= SEQUENCE { dn Name, uid BIT STRING OPTIONAL }
-namespace name_and_uid {
-enum Slot : uint8_t { dn, uid };
-constexpr Component components[] = {
+constexpr Component name_and_uid_components[] = {
     required("dn", KOVRA_ASN1_TYPE_NAME),
     optional("uid", KOVRA_ASN1_TYPE_BIT_STRING),
 };
-} // namespace name_and_uid
 
 } // namespace
 
-constexpr Structure attribute_values_with_context_item = structure(source, context_item::components);
+constexpr Structure attribute_values_with_context_item = structure(source, context_item_components);
 constexpr ListShape attribute_values_with_context = {KOVRA_ASN1_TYPE_ATTRIBUTE_VALUES_WITH_CONTEXT_ITEM};
-constexpr Structure attribute = structure(source, attribute_slots::components);
-constexpr Structure pkcs10_attribute = restricted(attribute, attribute_slots::is_plain, 0x1027d, false);
+constexpr Structure attribute = structure(source, attribute_components);
+constexpr Structure pkcs10_attribute = restricted(attribute, is_plain, 0x1027d, false);
 // DirectoryString ::= CHOICE { teletexString, printableString, universalString, utf8String, bmpString }
 constexpr StringChoice directory_string = {source, 0x50181000};
 // PKCS9String ::= CHOICE { ia5String, directoryString }
 constexpr StringChoice pkcs9_string = {source, 0x50581000};
-constexpr Structure uuid_pair = uuids::sized();
+constexpr Structure uuid_pair = checked(structure(source, uuids_components), have_size, code::incorrect_length);
 constexpr ListShape postal_address = {KOVRA_ASN1_TYPE_DIRECTORY_STRING, ListReading::whole};
-constexpr Structure telex_number = structure(source, telex::components);
-constexpr Structure name_and_optional_uid = structure(source, name_and_uid::components);
+constexpr Structure telex_number = structure(source, telex_components);
+constexpr Structure name_and_optional_uid = structure(source, name_and_uid_components);
 constexpr ListShape smime_capabilities = {KOVRA_ASN1_TYPE_SMIME_CAPABILITY};
 
 namespace {
@@ -120,9 +99,9 @@ kovra_asn1_value *get_string(const kovra_asn1_value *value) {
     return string != nullptr ? string->string : nullptr;
 }
 
-int32_t copy_uuid(const kovra_asn1_value *pair, uint8_t slot, void *out) {
-    const auto *string = as<String>(component(uuid_pair, pair, slot));
-    return string != nullptr && out != nullptr && copy_out(string->content, *string->arena, out, uuids::octets) ? 1 : 0;
+int32_t copy_uuid(const kovra_asn1_value *uuid, void *out) {
+    const auto *string = as<String>(uuid);
+    return string != nullptr && out != nullptr && copy_out(string->content, *string->arena, out, uuid_octets) ? 1 : 0;
 }
 
 } // namespace
@@ -137,8 +116,8 @@ kovra_asn1_value *kovra_x500attribute_new(kovra_asn1_value *type, const kovra_as
     Record *record = new_structure(attribute);
     if (record == nullptr)
         return nullptr;
-    if (store_copy(*record, attribute_slots::type, type)) {
-        if (store_copy(*record, attribute_slots::values, values))
+    if (store_copy(*record, slot<attribute, "type">, type)) {
+        if (store_copy(*record, slot<attribute, "values">, values))
             return record;
         // Callers rely on it: what is released here is their own value.
         kovra_asn1_value_free(KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER, type);
@@ -148,15 +127,15 @@ kovra_asn1_value *kovra_x500attribute_new(kovra_asn1_value *type, const kovra_as
 }
 
 kovra_asn1_value *kovra_x500attribute_gettype(const kovra_asn1_value *obj) noexcept {
-    return component(attribute, obj, attribute_slots::type);
+    return part<attribute, "type">(obj);
 }
 
 kovra_asn1_value *kovra_x500attribute_getvalue(const kovra_asn1_value *obj) noexcept {
-    return component(attribute, obj, attribute_slots::values);
+    return part<attribute, "values">(obj);
 }
 
 kovra_asn1_value *kovra_x500attribute_getcontext(const kovra_asn1_value *obj) noexcept {
-    return component(attribute, obj, attribute_slots::values_with_context);
+    return part<attribute, "valuesWithContext">(obj);
 }
 
 int32_t kovra_x500attribute_hascontext(const kovra_asn1_value *obj) noexcept {
@@ -164,18 +143,18 @@ int32_t kovra_x500attribute_hascontext(const kovra_asn1_value *obj) noexcept {
 }
 
 kovra_asn1_value *kovra_x500attrvalueswithcontextitem_getvalue(const kovra_asn1_value *obj) noexcept {
-    return component(attribute_values_with_context_item, obj, context_item::value);
+    return part<attribute_values_with_context_item, "value">(obj);
 }
 
 kovra_asn1_value *kovra_x500attrvalueswithcontextitem_getcontexts(const kovra_asn1_value *obj) noexcept {
-    return component(attribute_values_with_context_item, obj, context_item::context_list);
+    return part<attribute_values_with_context_item, "contextList">(obj);
 }
 
 int32_t kovra_x500attribute_sort(kovra_asn1_value *obj) noexcept {
     auto *values = static_cast<List *>(kovra_x500attribute_getvalue(obj));
-    const Result result =
-        sort_contexts(kovra_x500attribute_getcontext(obj), attribute_values_with_context_item,
-                      context_item::context_list, row(KOVRA_ASN1_TYPE_ATTRIBUTE_VALUES_WITH_CONTEXT_ITEM));
+    const Result result = sort_contexts(kovra_x500attribute_getcontext(obj), attribute_values_with_context_item,
+                                        slot<attribute_values_with_context_item, "contextList">,
+                                        row(KOVRA_ASN1_TYPE_ATTRIBUTE_VALUES_WITH_CONTEXT_ITEM));
     return result == success ? sort_list(values, row(KOVRA_ASN1_TYPE_ANY)) : result;
 }
 
@@ -206,47 +185,47 @@ kovra_asn1_value *kovra_pkcs9string_getstring(const kovra_asn1_value *value) noe
 kovra_asn1_value *kovra_x500uuidpair_new(const void *issuer_uuid, const void *subject_uuid) noexcept {
     if (issuer_uuid == nullptr || subject_uuid == nullptr)
         return nullptr;
-    auto *issuer = new_with_content<String>(issuer_uuid, uuids::octets);
-    auto *subject = new_with_content<String>(subject_uuid, uuids::octets);
-    Record *pair = issuer != nullptr && subject != nullptr ? construct(uuid_pair, issuer, subject) : nullptr;
+    auto *issuer = new_with_content<String>(issuer_uuid, uuid_octets);
+    auto *subject = new_with_content<String>(subject_uuid, uuid_octets);
+    Record *pair = issuer != nullptr && subject != nullptr ? construct<uuid_pair>(issuer, subject) : nullptr;
     kovra_asn1_value_free(KOVRA_ASN1_TYPE_OCTET_STRING, issuer);
     kovra_asn1_value_free(KOVRA_ASN1_TYPE_OCTET_STRING, subject);
     return pair;
 }
 
 int32_t kovra_x500uuidpair_getissueruuid(const kovra_asn1_value *pair, void *out) noexcept {
-    return copy_uuid(pair, uuids::issuer, out);
+    return copy_uuid(part<uuid_pair, "issuerUUID">(pair), out);
 }
 
 int32_t kovra_x500uuidpair_getsubjectuuid(const kovra_asn1_value *pair, void *out) noexcept {
-    return copy_uuid(pair, uuids::subject, out);
+    return copy_uuid(part<uuid_pair, "subjectUUID">(pair), out);
 }
 
 kovra_asn1_value *kovra_x500telexnum_new(const kovra_asn1_value *number, const kovra_asn1_value *country_code,
                                          const kovra_asn1_value *answerback) noexcept {
-    return construct(telex_number, number, country_code, answerback);
+    return construct<telex_number>(number, country_code, answerback);
 }
 
 kovra_asn1_value *kovra_x500telexnum_gettelexnum(const kovra_asn1_value *obj) noexcept {
-    return component(telex_number, obj, telex::telex_number);
+    return part<telex_number, "telexNumber">(obj);
 }
 
 kovra_asn1_value *kovra_x500telexnum_getcoutrycode(const kovra_asn1_value *obj) noexcept {
-    return component(telex_number, obj, telex::country_code);
+    return part<telex_number, "countryCode">(obj);
 }
 
 kovra_asn1_value *kovra_x500telexnum_getanswerback(const kovra_asn1_value *obj) noexcept {
-    return component(telex_number, obj, telex::answerback);
+    return part<telex_number, "answerback">(obj);
 }
 
 kovra_asn1_value *kovra_x500nameandoptuid_new(const kovra_asn1_value *dn, const kovra_asn1_value *uid) noexcept {
-    return construct(name_and_optional_uid, dn, uid);
+    return construct<name_and_optional_uid>(dn, uid);
 }
 
 kovra_asn1_value *kovra_x500nameandoptuid_getname(const kovra_asn1_value *obj) noexcept {
-    return component(name_and_optional_uid, obj, name_and_uid::dn);
+    return part<name_and_optional_uid, "dn">(obj);
 }
 
 kovra_asn1_value *kovra_x500nameandoptuid_getuid(const kovra_asn1_value *obj) noexcept {
-    return component(name_and_optional_uid, obj, name_and_uid::uid);
+    return part<name_and_optional_uid, "uid">(obj);
 }

@@ -1,7 +1,7 @@
 // Certificate and CertificatePair (RFC 5280, 4.1; X.509, 11.2).
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_types.h"
 #include "kovra/asn1_x509.h"
 #include "pkix/signed.hpp"
@@ -27,20 +27,7 @@ Site here(int32_t line = __builtin_LINE()) {
 //     subjectUniqueID       [2] IMPLICIT BIT STRING OPTIONAL,
 //     extensions            [3] EXPLICIT Extensions OPTIONAL }
 // No version is tied to the components that follow it.
-namespace tbs {
-enum Slot : uint8_t {
-    version,
-    serial_number,
-    signature,
-    issuer,
-    validity,
-    subject,
-    subject_public_key_info,
-    issuer_unique_id,
-    subject_unique_id,
-    extensions,
-};
-constexpr Component components[] = {
+constexpr Component tbs_components[] = {
     defaulted("version", KOVRA_ASN1_TYPE_INTEGER, default_zero, explicit_tag(0)),
     required("serialNumber", KOVRA_ASN1_TYPE_INTEGER),
     required("signature", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
@@ -52,8 +39,6 @@ constexpr Component components[] = {
     optional("subjectUniqueID", KOVRA_ASN1_TYPE_BIT_STRING, implicit_tag(2)),
     optional("extensions", KOVRA_ASN1_TYPE_EXTENSIONS, explicit_tag(3)),
 };
-static_assert(is_sound(components));
-} // namespace tbs
 
 // Certificate ::= SEQUENCE {
 //     tbsCertificate      TBSCertificate,
@@ -69,27 +54,24 @@ constexpr Component certificate_components[] = {
 //     issuedToThisCA  [0] EXPLICIT Certificate OPTIONAL,
 //     issuedByThisCA  [1] EXPLICIT Certificate OPTIONAL }
 // A certificate that cannot be decoded is reported with the code of the to-be-signed part.
-namespace pair {
-enum Slot : uint8_t { issued_to_this_ca, issued_by_this_ca };
-constexpr Component components[] = {
+constexpr Component pair_components[] = {
     optional("issuedToThisCA", KOVRA_ASN1_TYPE_CERTIFICATE, explicit_tag(0)).codes(0x10258, 0x10257),
     optional("issuedByThisCA", KOVRA_ASN1_TYPE_CERTIFICATE, explicit_tag(1)).codes(0x10258, 0x10257),
 };
-static_assert(is_sound(components));
-} // namespace pair
 
 constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATE, "CERTIFICATE", nullptr};
 
 } // namespace
 
-constexpr Structure tbs_certificate = structure_with_tested_end(source, tbs::components);
+constexpr Structure tbs_certificate = structure_with_tested_end(source, tbs_components);
 constexpr Structure certificate = signed_structure(source, certificate_components);
-constexpr Structure certificate_pair = structure(source, pair::components);
+constexpr Structure certificate_pair = structure(source, pair_components);
 
 namespace {
 
-Value *tbs_component(const kovra_asn1_value *obj, uint8_t slot) {
-    return component(tbs_certificate, component(certificate, obj, signed_object::to_be_signed), slot);
+// A component of the signed part.
+template <Name name> Value *signed_part(const kovra_asn1_value *obj) {
+    return part<tbs_certificate, name>(part<certificate, "tbsCertificate">(obj));
 }
 
 } // namespace
@@ -105,14 +87,15 @@ kovra_asn1_value *kovra_x509TBSCertificate_new(const kovra_asn1_value *version, 
                                                const kovra_asn1_value *issuer_unique_id,
                                                const kovra_asn1_value *subject_unique_id,
                                                const kovra_asn1_value *extension_list) noexcept {
-    return construct(tbs_certificate, version, serial_number, signature, issuer, validity_period, subject,
-                     subject_public_key, issuer_unique_id, subject_unique_id, extension_list);
+    return construct<tbs_certificate>(version, serial_number, signature, issuer, validity_period, subject,
+                                      subject_public_key, issuer_unique_id, subject_unique_id, extension_list);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_create(const kovra_asn1_value *tbs_value,
                                               const kovra_asn1_value *signature_value) noexcept {
-    return assemble(certificate, KOVRA_ASN1_TYPE_CERTIFICATE, tbs_value,
-                    component(tbs_certificate, tbs_value, tbs::signature), signature_value);
+    return with_encoding(
+        construct<certificate>(tbs_value, part<tbs_certificate, "signature">(tbs_value), signature_value),
+        KOVRA_ASN1_TYPE_CERTIFICATE);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_new(const void *data, int32_t length, kovra_err_ctx *ctx) noexcept {
@@ -123,7 +106,7 @@ kovra_asn1_value *kovra_x509certpair_new(const kovra_asn1_value *issued_to_this_
                                          const kovra_asn1_value *issued_by_this_ca) noexcept {
     if (issued_to_this_ca == nullptr && issued_by_this_ca == nullptr)
         return nullptr;
-    return construct(certificate_pair, issued_to_this_ca, issued_by_this_ca);
+    return construct<certificate_pair>(issued_to_this_ca, issued_by_this_ca);
 }
 
 int32_t kovra_x509pubkeycert_gettbsocts(kovra_asn1_value *obj, void *buffer, int32_t *length_in_out) noexcept {
@@ -131,69 +114,69 @@ int32_t kovra_x509pubkeycert_gettbsocts(kovra_asn1_value *obj, void *buffer, int
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getversion(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::version);
+    return signed_part<"version">(obj);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getserialno(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::serial_number);
+    return signed_part<"serialNumber">(obj);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getinnersignalgo(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::signature);
+    return signed_part<"signature">(obj);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getissuer(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::issuer);
+    return signed_part<"issuer">(obj);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getvalidity(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::validity);
+    return signed_part<"validity">(obj);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getsubject(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::subject);
+    return signed_part<"subject">(obj);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getpubkey(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::subject_public_key_info);
+    return signed_part<"subjectPublicKeyInfo">(obj);
 }
 
 int32_t kovra_x509pubkeycert_hasissueruid(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::issuer_unique_id) != nullptr ? 1 : 0;
+    return signed_part<"issuerUniqueID">(obj) != nullptr ? 1 : 0;
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getissueruid(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::issuer_unique_id);
+    return signed_part<"issuerUniqueID">(obj);
 }
 
 int32_t kovra_x509pubkeycert_hassubjectuid(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::subject_unique_id) != nullptr ? 1 : 0;
+    return signed_part<"subjectUniqueID">(obj) != nullptr ? 1 : 0;
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getsubjectuid(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::subject_unique_id);
+    return signed_part<"subjectUniqueID">(obj);
 }
 
 int32_t kovra_x509pubkeycert_hasexts(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::extensions) != nullptr ? 1 : 0;
+    return signed_part<"extensions">(obj) != nullptr ? 1 : 0;
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getexts(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::extensions);
+    return signed_part<"extensions">(obj);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getsignalgo(const kovra_asn1_value *obj) noexcept {
-    return component(certificate, obj, signed_object::signature_algorithm);
+    return part<certificate, "signatureAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getsignvalue(const kovra_asn1_value *obj) noexcept {
-    return component(certificate, obj, signed_object::signature_value);
+    return part<certificate, "signatureValue">(obj);
 }
 
 kovra_asn1_value *kovra_x509certpair_getissuedtothisca(const kovra_asn1_value *obj) noexcept {
-    return component(certificate_pair, obj, pair::issued_to_this_ca);
+    return part<certificate_pair, "issuedToThisCA">(obj);
 }
 
 kovra_asn1_value *kovra_x509certpair_getissuedbythisca(const kovra_asn1_value *obj) noexcept {
-    return component(certificate_pair, obj, pair::issued_by_this_ca);
+    return part<certificate_pair, "issuedByThisCA">(obj);
 }

@@ -3,7 +3,7 @@
 
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_boolean.h"
 #include "kovra/asn1_extension.h"
 #include "kovra/asn1_types.h"
@@ -18,97 +18,73 @@ constexpr char source[] = "ASN1_Extension";
 //     keyIdentifier              [0] IMPLICIT OCTET STRING OPTIONAL,
 //     authorityCertIssuer        [1] IMPLICIT GeneralNames OPTIONAL,
 //     authorityCertSerialNumber  [2] IMPLICIT INTEGER OPTIONAL }
-namespace akid {
-enum Slot : uint8_t { key_identifier, authority_cert_issuer, authority_cert_serial_number };
-constexpr Component components[] = {
+constexpr Component akid_components[] = {
     optional("keyIdentifier", KOVRA_ASN1_TYPE_OCTET_STRING, implicit_tag(0)),
     optional("authorityCertIssuer", KOVRA_ASN1_TYPE_GENERAL_NAMES, implicit_tag(1)),
     optional("authorityCertSerialNumber", KOVRA_ASN1_TYPE_INTEGER, implicit_tag(2)),
 };
-static_assert(is_sound(components));
-} // namespace akid
 
 // PrivateKeyUsagePeriod ::= SEQUENCE {
 //     notBefore  [0] IMPLICIT GeneralizedTime OPTIONAL,
 //     notAfter   [1] IMPLICIT GeneralizedTime OPTIONAL }
-namespace usage_period {
-enum Slot : uint8_t { not_before, not_after };
-constexpr Component components[] = {
+constexpr Component usage_period_components[] = {
     optional("notBefore", KOVRA_ASN1_TYPE_GENERALIZED_TIME, implicit_tag(0)),
     optional("notAfter", KOVRA_ASN1_TYPE_GENERALIZED_TIME, implicit_tag(1)),
 };
-static_assert(is_sound(components));
-} // namespace usage_period
 
 // BasicConstraints ::= SEQUENCE {
 //     cA                 BOOLEAN DEFAULT FALSE,
 //     pathLenConstraint  INTEGER OPTIONAL }
-namespace basic {
-enum Slot : uint8_t { ca, path_len_constraint };
-constexpr Component components[] = {
+constexpr Component basic_components[] = {
     defaulted("cA", KOVRA_ASN1_TYPE_BOOLEAN, default_false),
     optional("pathLenConstraint", KOVRA_ASN1_TYPE_INTEGER),
 };
-static_assert(is_sound(components));
-} // namespace basic
 
 // GeneralSubtree ::= SEQUENCE {
 //     base     GeneralName,
 //     minimum  [0] IMPLICIT INTEGER DEFAULT 0,
 //     maximum  [1] IMPLICIT INTEGER OPTIONAL }
-namespace subtree {
-enum Slot : uint8_t { base, minimum, maximum };
-constexpr Component components[] = {
+constexpr Component subtree_components[] = {
     required("base", KOVRA_ASN1_TYPE_GENERAL_NAME),
     defaulted("minimum", KOVRA_ASN1_TYPE_INTEGER, default_zero, implicit_tag(0)),
     optional("maximum", KOVRA_ASN1_TYPE_INTEGER, implicit_tag(1)),
 };
-static_assert(is_sound(components));
-} // namespace subtree
 
 // NameForms ::= SEQUENCE {
 //     basicNameForms  [0] IMPLICIT BIT STRING OPTIONAL,
 //     otherNameForms  [1] IMPLICIT SEQUENCE OF OBJECT IDENTIFIER OPTIONAL }
-namespace forms {
-enum Slot : uint8_t { basic_name_forms, other_name_forms };
-constexpr Component components[] = {
+constexpr Component forms_components[] = {
     optional("basicNameForms", KOVRA_ASN1_TYPE_BIT_STRING, implicit_tag(0)),
     optional("otherNameForms", KOVRA_ASN1_TYPE_EXT_KEY_USAGE, implicit_tag(1)).codes(0x102ec, 0x102ed),
 };
-static_assert(is_sound(components));
-} // namespace forms
 
 // NameConstraints ::= SEQUENCE {
 //     permittedSubtrees  [0] IMPLICIT GeneralSubtrees OPTIONAL,
 //     excludedSubtrees   [1] IMPLICIT GeneralSubtrees OPTIONAL,
 //     requiredNameForms  [2] IMPLICIT NameForms OPTIONAL }
-namespace names {
-enum Slot : uint8_t { permitted_subtrees, excluded_subtrees, required_name_forms };
-constexpr Component components[] = {
+constexpr Component names_components[] = {
     optional("permittedSubtrees", KOVRA_ASN1_TYPE_GENERAL_SUBTREES, implicit_tag(0)),
     optional("excludedSubtrees", KOVRA_ASN1_TYPE_GENERAL_SUBTREES, implicit_tag(1)),
     optional("requiredNameForms", KOVRA_ASN1_TYPE_NAME_FORMS, implicit_tag(2)),
 };
-static_assert(is_sound(components));
 
 // The form of RFC 5280 has no requiredNameForms.
 bool is_pkix(const Record &record) {
-    return record.slot(required_name_forms) == nullptr;
+    return record.slot(slot_of(names_components, "requiredNameForms")) == nullptr;
 }
-} // namespace names
 
 } // namespace
 
-constexpr Structure authority_key_identifier = structure(source, akid::components);
+constexpr Structure authority_key_identifier = structure(source, akid_components);
 constexpr ListShape ext_key_usage = {KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER};
-constexpr Structure private_key_usage_period = structure(source, usage_period::components);
+constexpr Structure private_key_usage_period = structure(source, usage_period_components);
 constexpr ListShape subject_directory_attributes = {KOVRA_ASN1_TYPE_ATTRIBUTE};
-constexpr Structure basic_constraints = structure(source, basic::components);
-constexpr Structure general_subtree = structure(source, subtree::components);
+constexpr Structure basic_constraints = structure(source, basic_components);
+constexpr Structure general_subtree = structure(source, subtree_components);
 constexpr ListShape general_subtrees = {KOVRA_ASN1_TYPE_GENERAL_SUBTREE};
-constexpr Structure name_forms = structure(source, forms::components);
-constexpr Structure name_constraints = structure(source, names::components);
-constexpr Structure pkix_name_constraints = restricted(name_constraints, names::is_pkix, 0x102cc, true);
+constexpr Structure name_forms = structure(source, forms_components);
+constexpr Structure name_constraints = structure(source, names_components);
+constexpr Structure pkix_name_constraints = restricted(name_constraints, is_pkix, 0x102cc, true);
 
 } // namespace kovra::asn1
 
@@ -117,34 +93,34 @@ using namespace kovra::asn1;
 kovra_asn1_value *kovra_x509akid_new(const kovra_asn1_value *key_identifier,
                                      const kovra_asn1_value *authority_cert_issuer,
                                      const kovra_asn1_value *authority_cert_serial_number) noexcept {
-    return construct(authority_key_identifier, key_identifier, authority_cert_issuer, authority_cert_serial_number);
+    return construct<authority_key_identifier>(key_identifier, authority_cert_issuer, authority_cert_serial_number);
 }
 
 kovra_asn1_value *kovra_x509akid_getkeyid(const kovra_asn1_value *obj) noexcept {
-    return component(authority_key_identifier, obj, akid::key_identifier);
+    return part<authority_key_identifier, "keyIdentifier">(obj);
 }
 
 kovra_asn1_value *kovra_x509akid_getissuerissuer(const kovra_asn1_value *obj) noexcept {
-    return component(authority_key_identifier, obj, akid::authority_cert_issuer);
+    return part<authority_key_identifier, "authorityCertIssuer">(obj);
 }
 
 kovra_asn1_value *kovra_x509akid_getissuercertsn(const kovra_asn1_value *obj) noexcept {
-    return component(authority_key_identifier, obj, akid::authority_cert_serial_number);
+    return part<authority_key_identifier, "authorityCertSerialNumber">(obj);
 }
 
 kovra_asn1_value *kovra_x509privkeyperiod_new(const kovra_asn1_value *not_before,
                                               const kovra_asn1_value *not_after) noexcept {
     if (not_before == nullptr && not_after == nullptr)
         return nullptr;
-    return construct(private_key_usage_period, not_before, not_after);
+    return construct<private_key_usage_period>(not_before, not_after);
 }
 
 kovra_asn1_value *kovra_x509privkeyperiod_getnotbefore(const kovra_asn1_value *obj) noexcept {
-    return component(private_key_usage_period, obj, usage_period::not_before);
+    return part<private_key_usage_period, "notBefore">(obj);
 }
 
 kovra_asn1_value *kovra_x509privkeyperiod_getnotafter(const kovra_asn1_value *obj) noexcept {
-    return component(private_key_usage_period, obj, usage_period::not_after);
+    return part<private_key_usage_period, "notAfter">(obj);
 }
 
 kovra_asn1_value *kovra_x509basicconstraints_new(const kovra_asn1_value *ca,
@@ -153,61 +129,61 @@ kovra_asn1_value *kovra_x509basicconstraints_new(const kovra_asn1_value *ca,
     // cA, and the BOOLEAN is never released.
     if (path_len_constraint != nullptr && kovra_asn1_boolean_true() == nullptr)
         return nullptr;
-    return construct(basic_constraints, ca, path_len_constraint);
+    return construct<basic_constraints>(ca, path_len_constraint);
 }
 
 kovra_asn1_value *kovra_x509basicconstraints_getisca(const kovra_asn1_value *obj) noexcept {
-    return component(basic_constraints, obj, basic::ca);
+    return part<basic_constraints, "cA">(obj);
 }
 
 kovra_asn1_value *kovra_x509basicconstraints_getlen(const kovra_asn1_value *obj) noexcept {
-    return component(basic_constraints, obj, basic::path_len_constraint);
+    return part<basic_constraints, "pathLenConstraint">(obj);
 }
 
 kovra_asn1_value *kovra_x509gensubtree_new(const kovra_asn1_value *base, const kovra_asn1_value *minimum,
                                            const kovra_asn1_value *maximum) noexcept {
-    return construct(general_subtree, base, minimum, maximum);
+    return construct<general_subtree>(base, minimum, maximum);
 }
 
 kovra_asn1_value *kovra_x509gensubtree_getbase(const kovra_asn1_value *obj) noexcept {
-    return component(general_subtree, obj, subtree::base);
+    return part<general_subtree, "base">(obj);
 }
 
 kovra_asn1_value *kovra_x509gensubtree_getmin(const kovra_asn1_value *obj) noexcept {
-    return component(general_subtree, obj, subtree::minimum);
+    return part<general_subtree, "minimum">(obj);
 }
 
 kovra_asn1_value *kovra_x509gensubtree_getmax(const kovra_asn1_value *obj) noexcept {
-    return component(general_subtree, obj, subtree::maximum);
+    return part<general_subtree, "maximum">(obj);
 }
 
 kovra_asn1_value *kovra_x509nameforms_new(const kovra_asn1_value *basic_name_forms,
                                           const kovra_asn1_value *other_name_forms) noexcept {
-    return construct(name_forms, basic_name_forms, other_name_forms);
+    return construct<name_forms>(basic_name_forms, other_name_forms);
 }
 
 kovra_asn1_value *kovra_x509nameforms_getbasic(const kovra_asn1_value *obj) noexcept {
-    return component(name_forms, obj, forms::basic_name_forms);
+    return part<name_forms, "basicNameForms">(obj);
 }
 
 kovra_asn1_value *kovra_x509nameforms_getother(const kovra_asn1_value *obj) noexcept {
-    return component(name_forms, obj, forms::other_name_forms);
+    return part<name_forms, "otherNameForms">(obj);
 }
 
 kovra_asn1_value *kovra_x509namecons_new(const kovra_asn1_value *permitted_subtrees,
                                          const kovra_asn1_value *excluded_subtrees,
                                          const kovra_asn1_value *required_name_forms) noexcept {
-    return construct(name_constraints, permitted_subtrees, excluded_subtrees, required_name_forms);
+    return construct<name_constraints>(permitted_subtrees, excluded_subtrees, required_name_forms);
 }
 
 kovra_asn1_value *kovra_x509namecons_getpermit(const kovra_asn1_value *obj) noexcept {
-    return component(name_constraints, obj, names::permitted_subtrees);
+    return part<name_constraints, "permittedSubtrees">(obj);
 }
 
 kovra_asn1_value *kovra_x509namecons_getexclude(const kovra_asn1_value *obj) noexcept {
-    return component(name_constraints, obj, names::excluded_subtrees);
+    return part<name_constraints, "excludedSubtrees">(obj);
 }
 
 kovra_asn1_value *kovra_x509namecons_getreqforms(const kovra_asn1_value *obj) noexcept {
-    return component(name_constraints, obj, names::required_name_forms);
+    return part<name_constraints, "requiredNameForms">(obj);
 }

@@ -2,7 +2,7 @@
 
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_types.h"
 #include "kovra/asn1_x509.h"
 #include "pkix/signed.hpp"
@@ -25,17 +25,7 @@ Site here(int32_t line = __builtin_LINE()) {
 //     revokedCertificates  SEQUENCE OF RevokedCertificate OPTIONAL,
 //     crlExtensions        [0] EXPLICIT Extensions OPTIONAL }
 // The version is written whatever its value and whatever follows it.
-namespace tbs {
-enum Slot : uint8_t {
-    version,
-    signature,
-    issuer,
-    this_update,
-    next_update,
-    revoked_certificates,
-    crl_extensions,
-};
-constexpr Component components[] = {
+constexpr Component tbs_components[] = {
     optional("version", KOVRA_ASN1_TYPE_INTEGER),
     required("signature", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("issuer", KOVRA_ASN1_TYPE_NAME),
@@ -44,21 +34,16 @@ constexpr Component components[] = {
     optional("revokedCertificates", KOVRA_ASN1_TYPE_REVOKED_CERTIFICATES),
     optional("crlExtensions", KOVRA_ASN1_TYPE_EXTENSIONS, explicit_tag(0)),
 };
-static_assert(is_sound(components));
-} // namespace tbs
 
 // RevokedCertificate ::= SEQUENCE {
 //     userCertificate     INTEGER,
 //     revocationDate      Time,
 //     crlEntryExtensions  Extensions OPTIONAL }
-namespace revoked {
-enum Slot : uint8_t { user_certificate, revocation_date, crl_entry_extensions };
-constexpr Component components[] = {
+constexpr Component revoked_components[] = {
     required("userCertificate", KOVRA_ASN1_TYPE_INTEGER),
     required("revocationDate", KOVRA_ASN1_TYPE_TIME),
     optional("crlEntryExtensions", KOVRA_ASN1_TYPE_EXTENSIONS),
 };
-} // namespace revoked
 
 // CertificateList ::= SEQUENCE {
 //     tbsCertList         TBSCertList,
@@ -74,15 +59,16 @@ constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATE_LIST, "X509 CRL", "CRL"};
 
 } // namespace
 
-constexpr Structure tbs_cert_list = structure_with_tested_end(source, tbs::components);
-constexpr Structure revoked_certificate = structure(source, revoked::components);
+constexpr Structure tbs_cert_list = structure_with_tested_end(source, tbs_components);
+constexpr Structure revoked_certificate = structure(source, revoked_components);
 constexpr ListShape revoked_certificates = {KOVRA_ASN1_TYPE_REVOKED_CERTIFICATE};
 constexpr Structure certificate_list = signed_structure(source, certificate_list_components);
 
 namespace {
 
-Value *tbs_component(const kovra_asn1_value *obj, uint8_t slot) {
-    return component(tbs_cert_list, component(certificate_list, obj, signed_object::to_be_signed), slot);
+// A component of the signed part.
+template <Name name> Value *signed_part(const kovra_asn1_value *obj) {
+    return part<tbs_cert_list, name>(part<certificate_list, "tbsCertList">(obj));
 }
 
 } // namespace
@@ -98,10 +84,11 @@ kovra_asn1_value *kovra_x509TBSCertList_new(const kovra_asn1_value *version, con
     const bool is_taken_over = revoked_list != nullptr && copy_revoked == 0;
     const kovra_asn1_value *copied = is_taken_over ? nullptr : revoked_list;
     Record *record =
-        construct(tbs_cert_list, version, signature, issuer, this_update, next_update, copied, crl_extensions);
+        construct<tbs_cert_list>(version, signature, issuer, this_update, next_update, copied, crl_extensions);
     if (record == nullptr || !is_taken_over)
         return record;
-    if (auto *list = as<List>(revoked_list); list != nullptr && store(*record, tbs::revoked_certificates, list))
+    if (auto *list = as<List>(revoked_list);
+        list != nullptr && store(*record, slot<tbs_cert_list, "revokedCertificates">, list))
         return record;
     Arena::destroy(record->arena);
     return nullptr;
@@ -110,13 +97,14 @@ kovra_asn1_value *kovra_x509TBSCertList_new(const kovra_asn1_value *version, con
 kovra_asn1_value *kovra_x509revcertinfo_new(const kovra_asn1_value *user_certificate,
                                             const kovra_asn1_value *revocation_date,
                                             const kovra_asn1_value *crl_entry_extensions) noexcept {
-    return construct(revoked_certificate, user_certificate, revocation_date, crl_entry_extensions);
+    return construct<revoked_certificate>(user_certificate, revocation_date, crl_entry_extensions);
 }
 
 kovra_asn1_value *kovra_x509crl_create(const kovra_asn1_value *tbs_value,
                                        const kovra_asn1_value *signature_value) noexcept {
-    return assemble(certificate_list, KOVRA_ASN1_TYPE_CERTIFICATE_LIST, tbs_value,
-                    component(tbs_cert_list, tbs_value, tbs::signature), signature_value);
+    return with_encoding(
+        construct<certificate_list>(tbs_value, part<tbs_cert_list, "signature">(tbs_value), signature_value),
+        KOVRA_ASN1_TYPE_CERTIFICATE_LIST);
 }
 
 kovra_asn1_value *kovra_x509crl_new(const void *data, int32_t length, kovra_err_ctx *ctx) noexcept {
@@ -128,69 +116,69 @@ int32_t kovra_x509crl_gettbsocts(kovra_asn1_value *obj, void *buffer, int32_t *l
 }
 
 int32_t kovra_x509crl_hasversion(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::version) != nullptr ? 1 : 0;
+    return signed_part<"version">(obj) != nullptr ? 1 : 0;
 }
 
 kovra_asn1_value *kovra_x509crl_getversion(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::version);
+    return signed_part<"version">(obj);
 }
 
 kovra_asn1_value *kovra_x509crl_getinnersignalgo(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::signature);
+    return signed_part<"signature">(obj);
 }
 
 kovra_asn1_value *kovra_x509crl_getissuer(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::issuer);
+    return signed_part<"issuer">(obj);
 }
 
 kovra_asn1_value *kovra_x509crl_getthisupdate(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::this_update);
+    return signed_part<"thisUpdate">(obj);
 }
 
 int32_t kovra_x509crl_hasnextupdate(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::next_update) != nullptr ? 1 : 0;
+    return signed_part<"nextUpdate">(obj) != nullptr ? 1 : 0;
 }
 
 kovra_asn1_value *kovra_x509crl_getnextupdate(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::next_update);
+    return signed_part<"nextUpdate">(obj);
 }
 
 int32_t kovra_x509crl_hasrevcerts(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::revoked_certificates) != nullptr ? 1 : 0;
+    return signed_part<"revokedCertificates">(obj) != nullptr ? 1 : 0;
 }
 
 kovra_asn1_value *kovra_x509crl_getrevcerts(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::revoked_certificates);
+    return signed_part<"revokedCertificates">(obj);
 }
 
 int32_t kovra_x509crl_hasexts(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::crl_extensions) != nullptr ? 1 : 0;
+    return signed_part<"crlExtensions">(obj) != nullptr ? 1 : 0;
 }
 
 kovra_asn1_value *kovra_x509crl_getexts(const kovra_asn1_value *obj) noexcept {
-    return tbs_component(obj, tbs::crl_extensions);
+    return signed_part<"crlExtensions">(obj);
 }
 
 kovra_asn1_value *kovra_x509crl_getsignalgo(const kovra_asn1_value *obj) noexcept {
-    return component(certificate_list, obj, signed_object::signature_algorithm);
+    return part<certificate_list, "signatureAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_x509crl_getsignvalue(const kovra_asn1_value *obj) noexcept {
-    return component(certificate_list, obj, signed_object::signature_value);
+    return part<certificate_list, "signatureValue">(obj);
 }
 
 kovra_asn1_value *kovra_x509revcertinfo_getserilano(const kovra_asn1_value *obj) noexcept {
-    return component(revoked_certificate, obj, revoked::user_certificate);
+    return part<revoked_certificate, "userCertificate">(obj);
 }
 
 kovra_asn1_value *kovra_x509revcertinfo_getrevdate(const kovra_asn1_value *obj) noexcept {
-    return component(revoked_certificate, obj, revoked::revocation_date);
+    return part<revoked_certificate, "revocationDate">(obj);
 }
 
 int32_t kovra_x509revcertinfo_hasexts(const kovra_asn1_value *obj) noexcept {
-    return component(revoked_certificate, obj, revoked::crl_entry_extensions) != nullptr ? 1 : 0;
+    return has_part<revoked_certificate, "crlEntryExtensions">(obj);
 }
 
 kovra_asn1_value *kovra_x509revcertinfo_getexts(const kovra_asn1_value *obj) noexcept {
-    return component(revoked_certificate, obj, revoked::crl_entry_extensions);
+    return part<revoked_certificate, "crlEntryExtensions">(obj);
 }

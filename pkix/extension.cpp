@@ -4,7 +4,7 @@
 
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_codec.h"
 #include "kovra/asn1_octetstring.h"
 #include "kovra/asn1_types.h"
@@ -17,19 +17,15 @@ namespace {
 //     extnID     OBJECT IDENTIFIER,
 //     critical   BOOLEAN DEFAULT FALSE,
 //     extnValue  OCTET STRING }
-namespace extension_slots {
-enum Slot : uint8_t { extn_id, critical, extn_value };
-constexpr Component components[] = {
+constexpr Component extension_components[] = {
     required("extnID", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     defaulted("critical", KOVRA_ASN1_TYPE_BOOLEAN, default_false),
     required("extnValue", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
-static_assert(is_sound(components));
-} // namespace extension_slots
 
 } // namespace
 
-constexpr Structure extension = structure("ASN1_Extension", extension_slots::components);
+constexpr Structure extension = structure("ASN1_Extension", extension_components);
 // Extensions ::= SEQUENCE OF Extension
 constexpr ListShape extensions = {KOVRA_ASN1_TYPE_EXTENSION};
 
@@ -39,7 +35,7 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_x509extension_new(const kovra_asn1_value *extn_id, const kovra_asn1_value *critical,
                                           const kovra_asn1_value *extn_value) noexcept {
-    return construct(extension, extn_id, critical, extn_value);
+    return construct<extension>(extn_id, critical, extn_value);
 }
 
 kovra_asn1_value *kovra_x509extension_create(const kovra_asn1_value *extn_id, const kovra_asn1_value *critical,
@@ -58,13 +54,13 @@ kovra_asn1_value *kovra_x509extension_create(const kovra_asn1_value *extn_id, co
 }
 
 kovra_asn1_value *kovra_x509extension_getid(const kovra_asn1_value *obj) noexcept {
-    return component(extension, obj, extension_slots::extn_id);
+    return part<extension, "extnID">(obj);
 }
 
 kovra_asn1_value *kovra_x509extension_getcritical(const kovra_asn1_value *obj) noexcept {
-    return component(extension, obj, extension_slots::critical);
+    return part<extension, "critical">(obj);
 }
 
 kovra_asn1_value *kovra_x509extension_getvalue(const kovra_asn1_value *obj) noexcept {
-    return component(extension, obj, extension_slots::extn_value);
+    return part<extension, "extnValue">(obj);
 }

@@ -1,9 +1,8 @@
 // GeneralName (RFC 5280, 4.2.1.6) and its two alternatives that are structures.
 
-#include "core/choice.hpp"
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_any.h"
 #include "kovra/asn1_extension.h"
 #include "kovra/asn1_types.h"
@@ -17,25 +16,18 @@ constexpr char source[] = "ASN1_Extension";
 // OtherName ::= [UNIVERSAL 8] IMPLICIT SEQUENCE {
 //     type-id  OBJECT IDENTIFIER,
 //     value    [0] EXPLICIT ANY }
-namespace other_name {
-enum Slot : uint8_t { type_id, value };
-constexpr Component components[] = {
+constexpr Component other_name_components[] = {
     required("type-id", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("value", KOVRA_ASN1_TYPE_ANY, explicit_tag(0)),
 };
-} // namespace other_name
 
 // EDIPartyName ::= SEQUENCE {
 //     nameAssigner  [0] EXPLICIT DirectoryString OPTIONAL,
 //     partyName     [1] EXPLICIT DirectoryString }
-namespace edi {
-enum Slot : uint8_t { name_assigner, party_name };
-constexpr Component components[] = {
+constexpr Component edi_components[] = {
     optional("nameAssigner", KOVRA_ASN1_TYPE_DIRECTORY_STRING, explicit_tag(0)),
     required("partyName", KOVRA_ASN1_TYPE_DIRECTORY_STRING, explicit_tag(1)),
 };
-static_assert(is_sound(components));
-} // namespace edi
 
 // GeneralName ::= CHOICE {
 //     otherName                  [0] IMPLICIT OtherName,
@@ -48,9 +40,7 @@ static_assert(is_sound(components));
 //     iPAddress                  [7] IMPLICIT OCTET STRING,
 //     registeredID               [8] IMPLICIT OBJECT IDENTIFIER }
 // ORAddress has no structure of its own here: its parts stay open.
-namespace name {
-enum Alternative : uint8_t { other, rfc822, dns, x400, directory, edi_party, uri, ip, registered_id };
-constexpr Component alternatives[] = {
+constexpr Component name_alternatives[] = {
     required("otherName", KOVRA_ASN1_TYPE_INSTANCE_OF, implicit_tag(0)),
     required("rfc822Name", KOVRA_ASN1_TYPE_IA5_STRING, implicit_tag(1)),
     required("dNSName", KOVRA_ASN1_TYPE_IA5_STRING, implicit_tag(2)),
@@ -61,14 +51,12 @@ constexpr Component alternatives[] = {
     required("iPAddress", KOVRA_ASN1_TYPE_OCTET_STRING, implicit_tag(7)),
     required("registeredID", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER, implicit_tag(8)),
 };
-static_assert(is_sound(alternatives));
-} // namespace name
 
 } // namespace
 
-constexpr Structure instance_of = structure(source, other_name::components);
-constexpr Structure edi_party_name = structure(source, edi::components);
-constexpr ChoiceShape general_name = choice(source, name::alternatives, true);
+constexpr Structure instance_of = structure(source, other_name_components);
+constexpr Structure edi_party_name = structure(source, edi_components);
+constexpr ChoiceShape general_name = choice(source, name_alternatives, true);
 // GeneralNames ::= SEQUENCE OF GeneralName
 constexpr ListShape general_names = {KOVRA_ASN1_TYPE_GENERAL_NAME, ListReading::whole};
 
@@ -78,35 +66,35 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_x509generalname_new_othername(const kovra_asn1_value *value) noexcept {
     // Copied as an EDIPartyName, although every other function takes this alternative for an other-name.
-    return construct_choice(general_name, name::other, value, KOVRA_ASN1_TYPE_EDI_PARTY_NAME);
+    return construct_choice<general_name, "otherName">(value, KOVRA_ASN1_TYPE_EDI_PARTY_NAME);
 }
 
 kovra_asn1_value *kovra_x509generalname_new_rfc822name(const kovra_asn1_value *value) noexcept {
-    return construct_choice(general_name, name::rfc822, value);
+    return construct_choice<general_name, "rfc822Name">(value);
 }
 
 kovra_asn1_value *kovra_x509generalname_new_dnsname(const kovra_asn1_value *value) noexcept {
-    return construct_choice(general_name, name::dns, value);
+    return construct_choice<general_name, "dNSName">(value);
 }
 
 kovra_asn1_value *kovra_x509generalname_new_dirname(const kovra_asn1_value *value) noexcept {
-    return construct_choice(general_name, name::directory, value);
+    return construct_choice<general_name, "directoryName">(value);
 }
 
 kovra_asn1_value *kovra_x509generalname_new_ediname(const kovra_asn1_value *value) noexcept {
-    return construct_choice(general_name, name::edi_party, value);
+    return construct_choice<general_name, "ediPartyName">(value);
 }
 
 kovra_asn1_value *kovra_x509generalname_new_uri(const kovra_asn1_value *value) noexcept {
-    return construct_choice(general_name, name::uri, value);
+    return construct_choice<general_name, "uniformResourceIdentifier">(value);
 }
 
 kovra_asn1_value *kovra_x509generalname_new_ip(const kovra_asn1_value *value) noexcept {
-    return construct_choice(general_name, name::ip, value);
+    return construct_choice<general_name, "iPAddress">(value);
 }
 
 kovra_asn1_value *kovra_x509generalname_new_regid(const kovra_asn1_value *value) noexcept {
-    return construct_choice(general_name, name::registered_id, value);
+    return construct_choice<general_name, "registeredID">(value);
 }
 
 int32_t kovra_x509generalname_gettype(const kovra_asn1_value *general_name_value, int32_t *out_choice) noexcept {
@@ -118,49 +106,49 @@ int32_t kovra_x509generalname_gettype(const kovra_asn1_value *general_name_value
 }
 
 kovra_asn1_value *kovra_x509generalname_getothername(const kovra_asn1_value *obj) noexcept {
-    return alternative(general_name, obj, name::other);
+    return chosen<general_name, "otherName">(obj);
 }
 
 kovra_asn1_value *kovra_x509generalname_getrfc(const kovra_asn1_value *obj) noexcept {
-    return alternative(general_name, obj, name::rfc822);
+    return chosen<general_name, "rfc822Name">(obj);
 }
 
 kovra_asn1_value *kovra_x509generalname_getdnsname(const kovra_asn1_value *obj) noexcept {
-    return alternative(general_name, obj, name::dns);
+    return chosen<general_name, "dNSName">(obj);
 }
 
 kovra_asn1_value *kovra_x509generalname_getdirname(const kovra_asn1_value *obj) noexcept {
-    return alternative(general_name, obj, name::directory);
+    return chosen<general_name, "directoryName">(obj);
 }
 
 kovra_asn1_value *kovra_x509generalname_getediname(const kovra_asn1_value *obj) noexcept {
-    return alternative(general_name, obj, name::edi_party);
+    return chosen<general_name, "ediPartyName">(obj);
 }
 
 kovra_asn1_value *kovra_x509generalname_geturi(const kovra_asn1_value *obj) noexcept {
-    return alternative(general_name, obj, name::uri);
+    return chosen<general_name, "uniformResourceIdentifier">(obj);
 }
 
 kovra_asn1_value *kovra_x509generalname_getip(const kovra_asn1_value *obj) noexcept {
-    return alternative(general_name, obj, name::ip);
+    return chosen<general_name, "iPAddress">(obj);
 }
 
 kovra_asn1_value *kovra_x509generalname_getregid(const kovra_asn1_value *obj) noexcept {
-    return alternative(general_name, obj, name::registered_id);
+    return chosen<general_name, "registeredID">(obj);
 }
 
 kovra_asn1_value *kovra_instanceoftypeid_new(const kovra_asn1_value *type_id, const kovra_asn1_value *value) noexcept {
     if (kovra_asn1_any_iseoc(value) == 1)
         return nullptr;
-    return construct(instance_of, type_id, value);
+    return construct<instance_of>(type_id, value);
 }
 
 kovra_asn1_value *kovra_instanceoftypeid_getid(const kovra_asn1_value *obj) noexcept {
-    return component(instance_of, obj, other_name::type_id);
+    return part<instance_of, "type-id">(obj);
 }
 
 kovra_asn1_value *kovra_instanceoftypeid_gettype(const kovra_asn1_value *obj) noexcept {
-    return component(instance_of, obj, other_name::value);
+    return part<instance_of, "value">(obj);
 }
 
 kovra_asn1_value *kovra_x509edipartyname_new(const kovra_asn1_value *name_assigner,
@@ -171,15 +159,15 @@ kovra_asn1_value *kovra_x509edipartyname_new(const kovra_asn1_value *name_assign
     if (record == nullptr)
         return nullptr;
     // A part that cannot be copied is left out.
-    static_cast<void>(store_copy(*record, edi::name_assigner, name_assigner));
-    static_cast<void>(store_copy(*record, edi::party_name, party_name));
+    static_cast<void>(store_copy(*record, slot<edi_party_name, "nameAssigner">, name_assigner));
+    static_cast<void>(store_copy(*record, slot<edi_party_name, "partyName">, party_name));
     return record;
 }
 
 kovra_asn1_value *kovra_x509edipartyname_getnameassigner(const kovra_asn1_value *obj) noexcept {
-    return component(edi_party_name, obj, edi::name_assigner);
+    return part<edi_party_name, "nameAssigner">(obj);
 }
 
 kovra_asn1_value *kovra_x509edipartyname_getpartyname(const kovra_asn1_value *obj) noexcept {
-    return component(edi_party_name, obj, edi::party_name);
+    return part<edi_party_name, "partyName">(obj);
 }

@@ -4,7 +4,7 @@
 
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_types.h"
 #include "kovra/asn1_x500name.h"
 #include "pkix/signed.hpp"
@@ -24,15 +24,12 @@ Site here(int32_t line = __builtin_LINE()) {
 //     subjectPKInfo  SubjectPublicKeyInfo,
 //     attributes     [0] IMPLICIT SET OF Attribute }
 // The attributes are required, even when there are none.
-namespace info {
-enum Slot : uint8_t { version, subject, subject_pk_info, attributes };
-constexpr Component components[] = {
+constexpr Component info_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("subject", KOVRA_ASN1_TYPE_NAME),
     required("subjectPKInfo", KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO),
     required("attributes", KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTES, implicit_tag(0)).only_within_content(),
 };
-} // namespace info
 
 // CertificationRequest ::= SEQUENCE {
 //     certificationRequestInfo  CertificationRequestInfo,
@@ -49,14 +46,14 @@ constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST, "CERTIFICATE R
 } // namespace
 
 constexpr ListShape pkcs10_attributes = {KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTE};
-constexpr Structure certification_request_info = structure(source, info::components);
+constexpr Structure certification_request_info = structure(source, info_components);
 constexpr Structure certification_request = signed_structure(source, request_components);
 
 namespace {
 
-Value *info_component(const kovra_asn1_value *obj, uint8_t slot) {
-    return component(certification_request_info, component(certification_request, obj, signed_object::to_be_signed),
-                     slot);
+// A component of the signed part.
+template <Name name> Value *signed_part(const kovra_asn1_value *obj) {
+    return part<certification_request_info, name>(part<certification_request, "certificationRequestInfo">(obj));
 }
 
 } // namespace
@@ -68,14 +65,14 @@ using namespace kovra::asn1;
 kovra_asn1_value *kovra_pkcs10certreqinfo_new(const kovra_asn1_value *version, const kovra_asn1_value *subject,
                                               const kovra_asn1_value *subject_pk_info,
                                               const kovra_asn1_value *attributes) noexcept {
-    return construct(certification_request_info, version, subject, subject_pk_info, attributes);
+    return construct<certification_request_info>(version, subject, subject_pk_info, attributes);
 }
 
 kovra_asn1_value *kovra_pkcs10certreq_create(const kovra_asn1_value *request_info,
                                              const kovra_asn1_value *signature_algorithm,
                                              const kovra_asn1_value *signature) noexcept {
-    return assemble(certification_request, KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST, request_info, signature_algorithm,
-                    signature);
+    return with_encoding(construct<certification_request>(request_info, signature_algorithm, signature),
+                         KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST);
 }
 
 kovra_asn1_value *kovra_pkcs10certreq_new(const void *data, int32_t length, kovra_err_ctx *ctx) noexcept {
@@ -87,31 +84,31 @@ int32_t kovra_pkcs10certreq_gettbsocts(kovra_asn1_value *obj, void *buffer, int3
 }
 
 kovra_asn1_value *kovra_pkcs10certreq_getversion(const kovra_asn1_value *obj) noexcept {
-    return info_component(obj, info::version);
+    return signed_part<"version">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs10certreq_getsubject(const kovra_asn1_value *obj) noexcept {
-    return info_component(obj, info::subject);
+    return signed_part<"subject">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs10certreq_getpubkey(const kovra_asn1_value *obj) noexcept {
-    return info_component(obj, info::subject_pk_info);
+    return signed_part<"subjectPKInfo">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs10certreq_getattrs(const kovra_asn1_value *obj) noexcept {
-    return info_component(obj, info::attributes);
+    return signed_part<"attributes">(obj);
 }
 
 int32_t kovra_pkcs10certreq_hasattrs(const kovra_asn1_value *obj) noexcept {
-    return info_component(obj, info::attributes) != nullptr ? 1 : 0;
+    return signed_part<"attributes">(obj) != nullptr ? 1 : 0;
 }
 
 kovra_asn1_value *kovra_pkcs10certreq_getsignalgo(const kovra_asn1_value *obj) noexcept {
-    return component(certification_request, obj, signed_object::signature_algorithm);
+    return part<certification_request, "signatureAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_pkcs10certreq_getsignvalue(const kovra_asn1_value *obj) noexcept {
-    return component(certification_request, obj, signed_object::signature_value);
+    return part<certification_request, "signature">(obj);
 }
 
 int32_t kovra_asn1_pkcs10attributes_sort(kovra_asn1_value *attributes) noexcept {

@@ -1,9 +1,8 @@
 // Certificate policies and their qualifiers, policy mappings and constraints (RFC 5280, 4.2.1.4, 4.2.1.5, 4.2.1.11).
 
-#include "core/choice.hpp"
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_extension.h"
 #include "kovra/asn1_types.h"
 #include "kovra/asn1_x509.h"
@@ -17,73 +16,66 @@ constexpr char source[] = "ASN1_Extension";
 // PolicyInformation ::= SEQUENCE {
 //     policyIdentifier  OBJECT IDENTIFIER,
 //     policyQualifiers  SEQUENCE OF PolicyQualifierInfo OPTIONAL }
-// A PolicyQualifierInfo is made like an AlgorithmIdentifier.
-namespace information {
-enum Slot : uint8_t { identifier, qualifiers };
-constexpr Component components[] = {
+constexpr Component information_components[] = {
     required("policyIdentifier", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     optional("policyQualifiers", KOVRA_ASN1_TYPE_POLICY_QUALIFIERS),
 };
-} // namespace information
+
+// PolicyQualifierInfo ::= SEQUENCE {
+//     policyQualifierId  OBJECT IDENTIFIER,
+//     qualifier          ANY DEFINED BY policyQualifierId OPTIONAL }
+// Its records are AlgorithmIdentifiers, and so is the module that failures name.
+constexpr Component qualifier_components[] = {
+    required("policyQualifierId", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
+    optional("qualifier", KOVRA_ASN1_TYPE_ANY),
+};
 
 // NoticeReference ::= SEQUENCE {
 //     organization   DisplayText,
 //     noticeNumbers  SEQUENCE OF INTEGER }
-namespace reference {
-enum Slot : uint8_t { organization, notice_numbers };
-constexpr Component components[] = {
+constexpr Component reference_components[] = {
     required("organization", KOVRA_ASN1_TYPE_DISPLAY_TEXT),
     required("noticeNumbers", KOVRA_ASN1_TYPE_NOTICE_NUMBERS),
 };
-} // namespace reference
 
 // UserNotice ::= SEQUENCE {
 //     noticeRef     NoticeReference OPTIONAL,
 //     explicitText  DisplayText OPTIONAL }
-namespace notice {
-enum Slot : uint8_t { notice_ref, explicit_text };
-constexpr Component components[] = {
+constexpr Component notice_components[] = {
     optional("noticeRef", KOVRA_ASN1_TYPE_NOTICE_REFERENCE),
     optional("explicitText", KOVRA_ASN1_TYPE_DISPLAY_TEXT),
 };
-} // namespace notice
 
 // PolicyMapping ::= SEQUENCE {
 //     issuerDomainPolicy   OBJECT IDENTIFIER,
 //     subjectDomainPolicy  OBJECT IDENTIFIER }
-namespace mapping {
-enum Slot : uint8_t { issuer_domain_policy, subject_domain_policy };
-constexpr Component components[] = {
+constexpr Component mapping_components[] = {
     required("issuerDomainPolicy", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("subjectDomainPolicy", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
 };
-} // namespace mapping
 
 // PolicyConstraints ::= SEQUENCE {
 //     requireExplicitPolicy  [0] IMPLICIT INTEGER OPTIONAL,
 //     inhibitPolicyMapping   [1] IMPLICIT INTEGER OPTIONAL }
-namespace constraints {
-enum Slot : uint8_t { require_explicit_policy, inhibit_policy_mapping };
-constexpr Component components[] = {
+constexpr Component constraints_components[] = {
     optional("requireExplicitPolicy", KOVRA_ASN1_TYPE_INTEGER, implicit_tag(0)),
     optional("inhibitPolicyMapping", KOVRA_ASN1_TYPE_INTEGER, implicit_tag(1)),
 };
-static_assert(is_sound(components));
-} // namespace constraints
 
 } // namespace
 
 constexpr ListShape policy_qualifiers = {KOVRA_ASN1_TYPE_POLICY_QUALIFIER_INFO};
-constexpr Structure policy_information = structure(source, information::components);
+constexpr Structure policy_qualifier_info = alike("ASN1_X509", qualifier_components, algorithm_identifier);
+constexpr Structure policy_information = structure(source, information_components);
 constexpr ListShape certificate_policies = {KOVRA_ASN1_TYPE_POLICY_INFORMATION};
 // DisplayText ::= CHOICE { ia5String, visibleString, bmpString, utf8String }
 constexpr StringChoice display_text = {source, 1U << 12 | 1U << 22 | 1U << 26 | 1U << 30};
 constexpr ListShape notice_numbers = {KOVRA_ASN1_TYPE_INTEGER};
-constexpr Structure notice_reference = structure(source, reference::components);
-constexpr Structure user_notice = structure(source, notice::components);
-constexpr Structure policy_mapping = structure(source, mapping::components);
+constexpr Structure notice_reference = structure(source, reference_components);
+constexpr Structure user_notice = structure(source, notice_components);
+constexpr Structure policy_mapping = structure(source, mapping_components);
 constexpr ListShape policy_mappings = {KOVRA_ASN1_TYPE_POLICY_MAPPING};
-constexpr Structure policy_constraints = structure(source, constraints::components);
+constexpr Structure policy_constraints = structure(source, constraints_components);
 
 } // namespace kovra::asn1
 
@@ -91,28 +83,28 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_x509polqualifierinfo_new(const kovra_asn1_value *policy_qualifier_id,
                                                  const kovra_asn1_value *qualifier) noexcept {
-    return construct(algorithm_identifier, policy_qualifier_id, qualifier);
+    return construct<policy_qualifier_info>(policy_qualifier_id, qualifier);
 }
 
 kovra_asn1_value *kovra_x509polqualifierinfo_getid(const kovra_asn1_value *obj) noexcept {
-    return kovra_x509algoid_getalgo(obj);
+    return part<policy_qualifier_info, "policyQualifierId">(obj);
 }
 
 kovra_asn1_value *kovra_x509polqualifierinfo_getqualifier(const kovra_asn1_value *obj) noexcept {
-    return kovra_x509algoid_getparam(obj);
+    return part<policy_qualifier_info, "qualifier">(obj);
 }
 
 kovra_asn1_value *kovra_x509policyinfo_new(const kovra_asn1_value *policy_identifier,
                                            const kovra_asn1_value *qualifiers) noexcept {
-    return construct(policy_information, policy_identifier, qualifiers);
+    return construct<policy_information>(policy_identifier, qualifiers);
 }
 
 kovra_asn1_value *kovra_x509policyinfo_getid(const kovra_asn1_value *obj) noexcept {
-    return component(policy_information, obj, information::identifier);
+    return part<policy_information, "policyIdentifier">(obj);
 }
 
 kovra_asn1_value *kovra_x509policyinfo_getqualifiers(const kovra_asn1_value *obj) noexcept {
-    return component(policy_information, obj, information::qualifiers);
+    return part<policy_information, "policyQualifiers">(obj);
 }
 
 kovra_asn1_value *kovra_pkixdisplaytext_new(int32_t tag, const kovra_asn1_value *string) noexcept {
@@ -134,52 +126,52 @@ kovra_asn1_value *kovra_pkixdisplaytext_getstring(const kovra_asn1_value *value)
 
 kovra_asn1_value *kovra_pkixnoticeref_new(const kovra_asn1_value *organization,
                                           const kovra_asn1_value *numbers) noexcept {
-    return construct(notice_reference, organization, numbers);
+    return construct<notice_reference>(organization, numbers);
 }
 
 kovra_asn1_value *kovra_pkixnoticeref_getorg(const kovra_asn1_value *obj) noexcept {
-    return component(notice_reference, obj, reference::organization);
+    return part<notice_reference, "organization">(obj);
 }
 
 kovra_asn1_value *kovra_pkixnoticeref_getnums(const kovra_asn1_value *obj) noexcept {
-    return component(notice_reference, obj, reference::notice_numbers);
+    return part<notice_reference, "noticeNumbers">(obj);
 }
 
 kovra_asn1_value *kovra_pkixusernotice_new(const kovra_asn1_value *notice_ref,
                                            const kovra_asn1_value *explicit_text) noexcept {
-    return construct(user_notice, notice_ref, explicit_text);
+    return construct<user_notice>(notice_ref, explicit_text);
 }
 
 kovra_asn1_value *kovra_pkixusernotice_getref(const kovra_asn1_value *obj) noexcept {
-    return component(user_notice, obj, notice::notice_ref);
+    return part<user_notice, "noticeRef">(obj);
 }
 
 kovra_asn1_value *kovra_pkixusernotice_gettext(const kovra_asn1_value *obj) noexcept {
-    return component(user_notice, obj, notice::explicit_text);
+    return part<user_notice, "explicitText">(obj);
 }
 
 kovra_asn1_value *kovra_x509policymapping_new(const kovra_asn1_value *issuer_domain_policy,
                                               const kovra_asn1_value *subject_domain_policy) noexcept {
-    return construct(policy_mapping, issuer_domain_policy, subject_domain_policy);
+    return construct<policy_mapping>(issuer_domain_policy, subject_domain_policy);
 }
 
 kovra_asn1_value *kovra_x509policymapping_getissuerpolicy(const kovra_asn1_value *obj) noexcept {
-    return component(policy_mapping, obj, mapping::issuer_domain_policy);
+    return part<policy_mapping, "issuerDomainPolicy">(obj);
 }
 
 kovra_asn1_value *kovra_x509policymapping_getsubjectpolicy(const kovra_asn1_value *obj) noexcept {
-    return component(policy_mapping, obj, mapping::subject_domain_policy);
+    return part<policy_mapping, "subjectDomainPolicy">(obj);
 }
 
 kovra_asn1_value *kovra_x509polcons_new(const kovra_asn1_value *require_explicit_policy,
                                         const kovra_asn1_value *inhibit_policy_mapping) noexcept {
-    return construct(policy_constraints, require_explicit_policy, inhibit_policy_mapping);
+    return construct<policy_constraints>(require_explicit_policy, inhibit_policy_mapping);
 }
 
 kovra_asn1_value *kovra_x509polcons_getreqexppol(const kovra_asn1_value *obj) noexcept {
-    return component(policy_constraints, obj, constraints::require_explicit_policy);
+    return part<policy_constraints, "requireExplicitPolicy">(obj);
 }
 
 kovra_asn1_value *kovra_x509polcons_getinhibitpolmap(const kovra_asn1_value *obj) noexcept {
-    return component(policy_constraints, obj, constraints::inhibit_policy_mapping);
+    return part<policy_constraints, "inhibitPolicyMapping">(obj);
 }

@@ -15,7 +15,7 @@ constexpr int32_t pem_failed = KOVRA_ERR_STREAM_PEM;
 Value *load_octets(Site site, const Type &type, const void *data, int32_t length, kovra_err_ctx *ctx) {
     Decoder decoder(data, static_cast<uint32_t>(length), ctx);
     Value *value = nullptr;
-    if (decoder.decode_root(type, value) != success)
+    if (decode_root(decoder, type, value) != success)
         return nullptr;
     if (decoder.position() == static_cast<uint32_t>(length))
         return value;
@@ -59,15 +59,13 @@ kovra_asn1_value *load(Site site, const Armour &armour, const void *data, int32_
     return value;
 }
 
-kovra_asn1_value *assemble(const Structure &shape, uint8_t type, const kovra_asn1_value *to_be_signed,
-                           const kovra_asn1_value *algorithm, const kovra_asn1_value *signature) {
-    Record *record = construct(shape, to_be_signed, algorithm, signature);
-    if (record == nullptr)
+kovra_asn1_value *with_encoding(Record *object, uint8_t type) {
+    if (object == nullptr)
         return nullptr;
     Encoder encoder(static_cast<kovra_err_ctx *>(nullptr));
-    if (encode(encoder, row(type), record) == success)
-        return record;
-    Arena::destroy(record->arena);
+    if (encode(encoder, row(type), object) == success)
+        return object;
+    Arena::destroy(object->arena);
     return nullptr;
 }
 

@@ -4,7 +4,7 @@
 
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_any.h"
 #include "kovra/asn1_boolean.h"
 #include "kovra/asn1_types.h"
@@ -20,48 +20,37 @@ constexpr char source[] = "ASN1_X500Name";
 //     contextType    OBJECT IDENTIFIER,
 //     contextValues  SET OF ANY,
 //     fallback       BOOLEAN DEFAULT FALSE }
-namespace context {
-enum Slot : uint8_t { type, values, fallback };
-constexpr Component components[] = {
+constexpr Component context_components[] = {
     required("contextType", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("contextValues", KOVRA_ASN1_TYPE_SET_OF_ANY_1),
     defaulted("fallback", KOVRA_ASN1_TYPE_BOOLEAN, default_false),
 };
-static_assert(is_sound(components));
-} // namespace context
 
 // SEQUENCE {
 //     distingAttrValue  [0] EXPLICIT ANY OPTIONAL,
 //     contextList       SET OF Context }
-namespace context_item {
-enum Slot : uint8_t { distinguished_value, context_list };
-constexpr Component components[] = {
+constexpr Component context_item_components[] = {
     optional("distingAttrValue", KOVRA_ASN1_TYPE_ANY, explicit_tag(0)),
     required("contextList", KOVRA_ASN1_TYPE_CONTEXT_LIST),
 };
-} // namespace context_item
 
 // AttributeTypeAndDistinguishedValue ::= SEQUENCE {
 //     type                  OBJECT IDENTIFIER,
 //     value                 ANY,
 //     primaryDistinguished  BOOLEAN DEFAULT TRUE,
 //     valuesWithContext     SET OF SEQUENCE { ... } OPTIONAL }
-namespace type_and_value {
-enum Slot : uint8_t { type, value, primary_distinguished, values_with_context };
-constexpr Component components[] = {
+constexpr Component type_and_value_components[] = {
     required("type", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("value", KOVRA_ASN1_TYPE_ANY),
     defaulted("primaryDistinguished", KOVRA_ASN1_TYPE_BOOLEAN, default_true),
     optional("valuesWithContext", KOVRA_ASN1_TYPE_DN_VALUES_WITH_CONTEXT),
 };
-static_assert(is_sound(components));
 
 // AttributeTypeAndValue ::= SEQUENCE { type, value }, the same record without what X.501 adds.
 bool is_plain(const Record &record) {
-    return record.slot(values_with_context) == nullptr &&
-           kovra_asn1_boolean_istrue(record.slot(primary_distinguished)) == 1;
+    return record.slot(slot_of(type_and_value_components, "valuesWithContext")) == nullptr &&
+           kovra_asn1_boolean_istrue(record.slot(slot_of(type_and_value_components, "primaryDistinguished"))) == 1;
 }
-} // namespace type_and_value
 
 // Name ::= SEQUENCE OF RelativeDistinguishedName
 constexpr ListShape rdn_sequence_shape = {KOVRA_ASN1_TYPE_RELATIVE_DISTINGUISHED_NAME};
@@ -71,13 +60,13 @@ constexpr Component name_components[] = {required("rdnSequence", KOVRA_ASN1_TYPE
 
 } // namespace
 
-constexpr Structure x500_context = structure(source, context::components);
+constexpr Structure x500_context = structure(source, context_components);
 constexpr ListShape context_list = {KOVRA_ASN1_TYPE_CONTEXT};
-constexpr Structure dn_values_with_context_item = structure(source, context_item::components);
+constexpr Structure dn_values_with_context_item = structure(source, context_item_components);
 constexpr ListShape dn_values_with_context = {KOVRA_ASN1_TYPE_DN_VALUES_WITH_CONTEXT_ITEM};
-constexpr Structure attribute_type_and_distinguished_value = structure(source, type_and_value::components);
+constexpr Structure attribute_type_and_distinguished_value = structure(source, type_and_value_components);
 constexpr Structure attribute_type_and_value =
-    restricted(attribute_type_and_distinguished_value, type_and_value::is_plain, 0x10274, true);
+    restricted(attribute_type_and_distinguished_value, is_plain, 0x10274, true);
 // RelativeDistinguishedName ::= SET OF AttributeTypeAndDistinguishedValue
 constexpr ListShape relative_distinguished_name = {KOVRA_ASN1_TYPE_ATTRIBUTE_TYPE_AND_DISTINGUISHED_VALUE};
 constexpr Structure x500_name = list_structure(source, name_components, rdn_sequence);
@@ -133,7 +122,7 @@ kovra_asn1_value *kovra_x500attrtypedistval_new(const kovra_asn1_value *type, co
                                                 const kovra_asn1_value *values_with_context) noexcept {
     if (kovra_asn1_any_iseoc(value) == 1)
         return nullptr;
-    return construct(attribute_type_and_distinguished_value, type, value, primary_distinguished, values_with_context);
+    return construct<attribute_type_and_distinguished_value>(type, value, primary_distinguished, values_with_context);
 }
 
 kovra_asn1_value *kovra_pkixattrtypeval_new(const kovra_asn1_value *type, const kovra_asn1_value *value) noexcept {
@@ -141,19 +130,19 @@ kovra_asn1_value *kovra_pkixattrtypeval_new(const kovra_asn1_value *type, const 
 }
 
 kovra_asn1_value *kovra_x500attrtypedistval_gettype(const kovra_asn1_value *obj) noexcept {
-    return component(attribute_type_and_distinguished_value, obj, type_and_value::type);
+    return part<attribute_type_and_distinguished_value, "type">(obj);
 }
 
 kovra_asn1_value *kovra_x500attrtypedistval_getvalue(const kovra_asn1_value *obj) noexcept {
-    return component(attribute_type_and_distinguished_value, obj, type_and_value::value);
+    return part<attribute_type_and_distinguished_value, "value">(obj);
 }
 
 kovra_asn1_value *kovra_x500attrtypedistval_getprimedist(const kovra_asn1_value *obj) noexcept {
-    return component(attribute_type_and_distinguished_value, obj, type_and_value::primary_distinguished);
+    return part<attribute_type_and_distinguished_value, "primaryDistinguished">(obj);
 }
 
 kovra_asn1_value *kovra_x500attrtypedistval_getcontext(const kovra_asn1_value *obj) noexcept {
-    return component(attribute_type_and_distinguished_value, obj, type_and_value::values_with_context);
+    return part<attribute_type_and_distinguished_value, "valuesWithContext">(obj);
 }
 
 int32_t kovra_x500attrtypedistval_hascontext(const kovra_asn1_value *obj) noexcept {
@@ -164,11 +153,11 @@ kovra_asn1_value *kovra_x500dnvalueswithcontextitem_new(const kovra_asn1_value *
                                                         const kovra_asn1_value *contexts) noexcept {
     if (kovra_asn1_any_iseoc(disting_attr_value) == 1)
         return nullptr;
-    return construct(dn_values_with_context_item, disting_attr_value, contexts);
+    return construct<dn_values_with_context_item>(disting_attr_value, contexts);
 }
 
 kovra_asn1_value *kovra_x500dnvalueswithcontextitem_getdistvalue(const kovra_asn1_value *obj) noexcept {
-    return component(dn_values_with_context_item, obj, context_item::distinguished_value);
+    return part<dn_values_with_context_item, "distingAttrValue">(obj);
 }
 
 int32_t kovra_x500dnvalueswithcontextitem_hasdistvalue(const kovra_asn1_value *obj) noexcept {
@@ -176,24 +165,24 @@ int32_t kovra_x500dnvalueswithcontextitem_hasdistvalue(const kovra_asn1_value *o
 }
 
 kovra_asn1_value *kovra_x500dnvalueswithcontextitem_getcontexts(const kovra_asn1_value *obj) noexcept {
-    return component(dn_values_with_context_item, obj, context_item::context_list);
+    return part<dn_values_with_context_item, "contextList">(obj);
 }
 
 kovra_asn1_value *kovra_x500context_new(const kovra_asn1_value *context_type, const kovra_asn1_value *context_values,
                                         const kovra_asn1_value *fallback) noexcept {
-    return construct(x500_context, context_type, context_values, fallback);
+    return construct<x500_context>(context_type, context_values, fallback);
 }
 
 kovra_asn1_value *kovra_x500context_gettype(const kovra_asn1_value *obj) noexcept {
-    return component(x500_context, obj, context::type);
+    return part<x500_context, "contextType">(obj);
 }
 
 kovra_asn1_value *kovra_x500context_getvalues(const kovra_asn1_value *obj) noexcept {
-    return component(x500_context, obj, context::values);
+    return part<x500_context, "contextValues">(obj);
 }
 
 kovra_asn1_value *kovra_x500context_getfallback(const kovra_asn1_value *obj) noexcept {
-    return component(x500_context, obj, context::fallback);
+    return part<x500_context, "fallback">(obj);
 }
 
 int32_t kovra_x500RDN_sort(kovra_asn1_value *rdn) noexcept {
@@ -204,9 +193,9 @@ int32_t kovra_x500RDN_sort(kovra_asn1_value *rdn) noexcept {
         const Value *member = list_element(*list, i);
         if (as_record(attribute_type_and_distinguished_value, member) == nullptr)
             return 0;
-        const Result result =
-            sort_contexts(kovra_x500attrtypedistval_getcontext(member), dn_values_with_context_item,
-                          context_item::context_list, row(KOVRA_ASN1_TYPE_DN_VALUES_WITH_CONTEXT_ITEM));
+        const Result result = sort_contexts(kovra_x500attrtypedistval_getcontext(member), dn_values_with_context_item,
+                                            slot<dn_values_with_context_item, "contextList">,
+                                            row(KOVRA_ASN1_TYPE_DN_VALUES_WITH_CONTEXT_ITEM));
         if (result != success)
             return result;
     }

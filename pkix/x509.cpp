@@ -3,7 +3,7 @@
 #include "kovra/asn1_x509.h"
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {
@@ -15,40 +15,30 @@ constexpr char source[] = "ASN1_X509";
 // AlgorithmIdentifier ::= SEQUENCE {
 //     algorithm   OBJECT IDENTIFIER,
 //     parameters  ANY DEFINED BY algorithm OPTIONAL }
-namespace algid {
-enum Slot : uint8_t { algorithm, parameters };
-constexpr Component components[] = {
+constexpr Component algid_components[] = {
     required("algorithm", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     optional("parameters", KOVRA_ASN1_TYPE_ANY),
 };
-static_assert(is_sound(components));
-} // namespace algid
 
 // Validity ::= SEQUENCE { notBefore Time, notAfter Time }
-namespace period {
-enum Slot : uint8_t { not_before, not_after };
-constexpr Component components[] = {
+constexpr Component period_components[] = {
     required("notBefore", KOVRA_ASN1_TYPE_TIME),
     required("notAfter", KOVRA_ASN1_TYPE_TIME),
 };
-} // namespace period
 
 // SubjectPublicKeyInfo ::= SEQUENCE {
 //     algorithm         AlgorithmIdentifier,
 //     subjectPublicKey  BIT STRING }
-namespace spki {
-enum Slot : uint8_t { algorithm, subject_public_key };
-constexpr Component components[] = {
+constexpr Component spki_components[] = {
     required("algorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("subjectPublicKey", KOVRA_ASN1_TYPE_BIT_STRING),
 };
-} // namespace spki
 
 } // namespace
 
-constexpr Structure algorithm_identifier = structure(source, algid::components);
-constexpr Structure validity = structure(source, period::components);
-constexpr Structure subject_public_key_info = structure(source, spki::components);
+constexpr Structure algorithm_identifier = structure(source, algid_components);
+constexpr Structure validity = structure(source, period_components);
+constexpr Structure subject_public_key_info = structure(source, spki_components);
 
 } // namespace kovra::asn1
 
@@ -61,8 +51,8 @@ kovra_asn1_value *kovra_x509algoid_new(const kovra_asn1_value *algorithm, uint32
     Value *parameters = convert(row(param_type), static_cast<const Value *>(param_value), row(KOVRA_ASN1_TYPE_ANY));
     if (parameters == nullptr)
         return nullptr;
-    Record *record = construct(algorithm_identifier, algorithm, static_cast<const kovra_asn1_value *>(nullptr));
-    if (record != nullptr && store(*record, algid::parameters, parameters))
+    Record *record = construct<algorithm_identifier>(algorithm, static_cast<const kovra_asn1_value *>(nullptr));
+    if (record != nullptr && store(*record, slot<algorithm_identifier, "parameters">, parameters))
         return record;
     Arena::destroy(parameters->arena);
     if (record != nullptr)
@@ -71,7 +61,7 @@ kovra_asn1_value *kovra_x509algoid_new(const kovra_asn1_value *algorithm, uint32
 }
 
 kovra_asn1_value *kovra_x509algoid_new_without_param(const kovra_asn1_value *algorithm) noexcept {
-    return construct(algorithm_identifier, algorithm, static_cast<const kovra_asn1_value *>(nullptr));
+    return construct<algorithm_identifier>(algorithm, static_cast<const kovra_asn1_value *>(nullptr));
 }
 
 int32_t kovra_x509algoid_isnullparam(const kovra_asn1_value *algid) noexcept {
@@ -83,39 +73,39 @@ int32_t kovra_x509algoid_isnullparam(const kovra_asn1_value *algid) noexcept {
 }
 
 kovra_asn1_value *kovra_x509algoid_getalgo(const kovra_asn1_value *algid) noexcept {
-    return component(algorithm_identifier, algid, algid::algorithm);
+    return part<algorithm_identifier, "algorithm">(algid);
 }
 
 kovra_asn1_value *kovra_x509algoid_getparam(const kovra_asn1_value *algid) noexcept {
-    return component(algorithm_identifier, algid, algid::parameters);
+    return part<algorithm_identifier, "parameters">(algid);
 }
 
 int32_t kovra_x509algoid_hasparam(const kovra_asn1_value *algid) noexcept {
-    return component(algorithm_identifier, algid, algid::parameters) != nullptr ? 1 : 0;
+    return has_part<algorithm_identifier, "parameters">(algid);
 }
 
 kovra_asn1_value *kovra_x509validity_new(const kovra_asn1_value *not_before,
                                          const kovra_asn1_value *not_after) noexcept {
-    return construct(validity, not_before, not_after);
+    return construct<validity>(not_before, not_after);
 }
 
 kovra_asn1_value *kovra_x509validity_getnotbefore(const kovra_asn1_value *obj) noexcept {
-    return component(validity, obj, period::not_before);
+    return part<validity, "notBefore">(obj);
 }
 
 kovra_asn1_value *kovra_x509validity_getnotafter(const kovra_asn1_value *obj) noexcept {
-    return component(validity, obj, period::not_after);
+    return part<validity, "notAfter">(obj);
 }
 
 kovra_asn1_value *kovra_x509subjpubkeyinfo_new(const kovra_asn1_value *algorithm,
                                                const kovra_asn1_value *subject_public_key) noexcept {
-    return construct(subject_public_key_info, algorithm, subject_public_key);
+    return construct<subject_public_key_info>(algorithm, subject_public_key);
 }
 
 kovra_asn1_value *kovra_x509subjpubkeyinfo_getalgo(const kovra_asn1_value *obj) noexcept {
-    return component(subject_public_key_info, obj, spki::algorithm);
+    return part<subject_public_key_info, "algorithm">(obj);
 }
 
 kovra_asn1_value *kovra_x509subjpubkeyinfo_getpubkey(const kovra_asn1_value *obj) noexcept {
-    return component(subject_public_key_info, obj, spki::subject_public_key);
+    return part<subject_public_key_info, "subjectPublicKey">(obj);
 }

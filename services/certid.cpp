@@ -1,7 +1,7 @@
 // CertID (RFC 6960, 4.1.1): which certificate a request asks about.
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_ocsp.h"
 #include "kovra/asn1_types.h"
 
@@ -34,7 +34,7 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_ocsp_certid_new(const kovra_asn1_value *algorithm, const kovra_asn1_value *name_hash,
                                         const kovra_asn1_value *key_hash, const kovra_asn1_value *serial) noexcept {
-    return construct(ocsp_cert_id, algorithm, name_hash, key_hash, serial);
+    return construct<ocsp_cert_id>(algorithm, name_hash, key_hash, serial);
 }
 
 kovra_asn1_value *kovra_ocsp_certid_gethashalgo(const kovra_asn1_value *obj) noexcept {

@@ -5,7 +5,7 @@
 
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_tsp.h"
 #include "kovra/asn1_types.h"
 
@@ -18,24 +18,18 @@ constexpr char source[] = "ASN1_TSP";
 // IssuerSerial ::= SEQUENCE {
 //     issuer        GeneralNames,
 //     serialNumber  INTEGER }
-namespace serial {
-enum Slot : uint8_t { issuer, number };
-constexpr Component components[] = {
+constexpr Component serial_components[] = {
     required("issuer", KOVRA_ASN1_TYPE_GENERAL_NAMES),
     required("serialNumber", KOVRA_ASN1_TYPE_INTEGER),
 };
-} // namespace serial
 
 // ESSCertID ::= SEQUENCE {
 //     certHash      OCTET STRING,
 //     issuerSerial  IssuerSerial OPTIONAL }
-namespace cert_id {
-enum Slot : uint8_t { hash, issuer_serial };
-constexpr Component components[] = {
+constexpr Component cert_id_components[] = {
     required("certHash", KOVRA_ASN1_TYPE_OCTET_STRING),
     optional("issuerSerial", KOVRA_ASN1_TYPE_ISSUER_SERIAL),
 };
-} // namespace cert_id
 
 // The content octets of id-sha256, 2.16.840.1.101.3.4.2.1.
 constexpr uint8_t sha256[] = {0x60, 0x86, 0x48, 0x01, 0x65, 0x03, 0x04, 0x02, 0x01};
@@ -61,26 +55,23 @@ bool is_sha256(const Value &value) {
            std::all_of(octets + sizeof sha256, octets + length, [](uint8_t octet) { return octet >= 0x80; });
 }
 
-constexpr Default default_sha256 = {make_sha256, is_sha256};
+constexpr Default default_sha256 = {KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, make_sha256, is_sha256};
 
 // ESSCertIDv2 ::= SEQUENCE {
 //     hashAlgorithm  AlgorithmIdentifier DEFAULT {algorithm id-sha256},
 //     certHash       OCTET STRING,
 //     issuerSerial   IssuerSerial OPTIONAL }
-namespace cert_id_v2 {
-enum Slot : uint8_t { hash_algorithm, hash, issuer_serial };
-constexpr Component components[] = {
+constexpr Component cert_id_v2_components[] = {
     defaulted("hashAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, default_sha256),
     required("certHash", KOVRA_ASN1_TYPE_OCTET_STRING),
     optional("issuerSerial", KOVRA_ASN1_TYPE_ISSUER_SERIAL),
 };
-} // namespace cert_id_v2
 
 } // namespace
 
-constexpr Structure issuer_serial = structure(source, serial::components);
-constexpr Structure ess_cert_id = structure(source, cert_id::components);
-constexpr Structure ess_cert_id_v2 = structure(source, cert_id_v2::components);
+constexpr Structure issuer_serial = structure(source, serial_components);
+constexpr Structure ess_cert_id = structure(source, cert_id_components);
+constexpr Structure ess_cert_id_v2 = structure(source, cert_id_v2_components);
 // SEQUENCE OF ESSCertID, SEQUENCE OF ESSCertIDv2
 constexpr ListShape ess_cert_ids = {KOVRA_ASN1_TYPE_ESS_CERT_ID};
 constexpr ListShape ess_cert_ids_v2 = {KOVRA_ASN1_TYPE_ESS_CERT_ID_V2};
@@ -90,42 +81,42 @@ constexpr ListShape ess_cert_ids_v2 = {KOVRA_ASN1_TYPE_ESS_CERT_ID_V2};
 using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_ess_issuerserial_new(const kovra_asn1_value *issuer, const kovra_asn1_value *number) noexcept {
-    return construct(issuer_serial, issuer, number);
+    return construct<issuer_serial>(issuer, number);
 }
 
 kovra_asn1_value *kovra_ess_issuerserial_getissuer(const kovra_asn1_value *obj) noexcept {
-    return component(issuer_serial, obj, serial::issuer);
+    return part<issuer_serial, "issuer">(obj);
 }
 
 kovra_asn1_value *kovra_ess_issuerserial_getsn(const kovra_asn1_value *obj) noexcept {
-    return component(issuer_serial, obj, serial::number);
+    return part<issuer_serial, "serialNumber">(obj);
 }
 
 kovra_asn1_value *kovra_ess_certid_new(const kovra_asn1_value *hash, const kovra_asn1_value *issuer) noexcept {
-    return construct(ess_cert_id, hash, issuer);
+    return construct<ess_cert_id>(hash, issuer);
 }
 
 kovra_asn1_value *kovra_ess_certid_getcerthash(const kovra_asn1_value *obj) noexcept {
-    return component(ess_cert_id, obj, cert_id::hash);
+    return part<ess_cert_id, "certHash">(obj);
 }
 
 kovra_asn1_value *kovra_ess_certid_getissuersn(const kovra_asn1_value *obj) noexcept {
-    return component(ess_cert_id, obj, cert_id::issuer_serial);
+    return part<ess_cert_id, "issuerSerial">(obj);
 }
 
 kovra_asn1_value *kovra_ess_certidv2_new(const kovra_asn1_value *algorithm, const kovra_asn1_value *hash,
                                          const kovra_asn1_value *issuer) noexcept {
-    return construct(ess_cert_id_v2, algorithm, hash, issuer);
+    return construct<ess_cert_id_v2>(algorithm, hash, issuer);
 }
 
 kovra_asn1_value *kovra_ess_certidv2_getcerthashalgo(const kovra_asn1_value *obj) noexcept {
-    return component(ess_cert_id_v2, obj, cert_id_v2::hash_algorithm);
+    return part<ess_cert_id_v2, "hashAlgorithm">(obj);
 }
 
 kovra_asn1_value *kovra_ess_certidv2_getcerthash(const kovra_asn1_value *obj) noexcept {
-    return component(ess_cert_id_v2, obj, cert_id_v2::hash);
+    return part<ess_cert_id_v2, "certHash">(obj);
 }
 
 kovra_asn1_value *kovra_ess_certidv2_getissuersn(const kovra_asn1_value *obj) noexcept {
-    return component(ess_cert_id_v2, obj, cert_id_v2::issuer_serial);
+    return part<ess_cert_id_v2, "issuerSerial">(obj);
 }

@@ -1,7 +1,7 @@
 // The certificates that come with a signed request or response.
 #pragma once
 
-#include "core/registry.hpp"
+#include "core/type.hpp"
 
 namespace kovra::asn1 {
 

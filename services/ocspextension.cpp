@@ -1,7 +1,7 @@
 // Values of the extensions of OCSP (RFC 6960, 4.4).
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_ocsp.h"
 #include "kovra/asn1_types.h"
 
@@ -16,15 +16,11 @@ constexpr char source[] = "ASN1_OCSP";
 //     crlNum   [1] EXPLICIT INTEGER OPTIONAL,
 //     crlTime  [2] EXPLICIT GeneralizedTime OPTIONAL }
 // The time is written under [1], too.
-namespace crl {
-enum Slot : uint8_t { url, number, time };
-constexpr Component components[] = {
+constexpr Component crl_components[] = {
     optional("crlUrl", KOVRA_ASN1_TYPE_IA5_STRING, explicit_tag(0)),
     optional("crlNum", KOVRA_ASN1_TYPE_INTEGER, explicit_tag(1)),
     optional("crlTime", KOVRA_ASN1_TYPE_GENERALIZED_TIME, explicit_tag(2)).encode_under(explicit_tag(1)),
 };
-static_assert(is_sound(components));
-} // namespace crl
 
 // ServiceLocator ::= SEQUENCE {
 //     issuer   Name,
@@ -43,7 +39,7 @@ constexpr Component preferred_components[] = {
 
 } // namespace
 
-constexpr Structure ocsp_crl_id = structure(source, crl::components);
+constexpr Structure ocsp_crl_id = structure(source, crl_components);
 constexpr Structure ocsp_service_locator = structure(source, locator_components);
 constexpr Structure ocsp_preferred_signature_algorithms = structure(source, preferred_components);
 
@@ -53,17 +49,17 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_ocsp_crlid_new(const kovra_asn1_value *url, const kovra_asn1_value *number,
                                        const kovra_asn1_value *time) noexcept {
-    return construct(ocsp_crl_id, url, number, time);
+    return construct<ocsp_crl_id>(url, number, time);
 }
 
 kovra_asn1_value *kovra_ocsp_crlid_geturl(const kovra_asn1_value *obj) noexcept {
-    return component(ocsp_crl_id, obj, crl::url);
+    return part<ocsp_crl_id, "crlUrl">(obj);
 }
 
 kovra_asn1_value *kovra_ocsp_crlid_getnum(const kovra_asn1_value *obj) noexcept {
-    return component(ocsp_crl_id, obj, crl::number);
+    return part<ocsp_crl_id, "crlNum">(obj);
 }
 
 kovra_asn1_value *kovra_ocsp_crlid_gettime(const kovra_asn1_value *obj) noexcept {
-    return component(ocsp_crl_id, obj, crl::time);
+    return part<ocsp_crl_id, "crlTime">(obj);
 }

@@ -1,7 +1,7 @@
 // ResponderID (RFC 6960, 4.2.1): who signed a response.
 
-#include "core/choice.hpp"
 #include "core/descriptors.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_ocsp.h"
 #include "kovra/asn1_types.h"
 
@@ -16,13 +16,11 @@ constexpr char source[] = "ASN1_OCSP";
 //     byKey   [2] EXPLICIT OCTET STRING }
 // A key hash is written without the identifier and length octets of the OCTET STRING, which are counted all the same
 // and wanted when it is read.
-enum Alternative : uint8_t { by_name, by_key };
 constexpr uint32_t first_number = 1;
 constexpr Component alternatives[] = {
     required("byName", KOVRA_ASN1_TYPE_NAME, explicit_tag(1)),
     required("byKey", KOVRA_ASN1_TYPE_OCTET_STRING, explicit_tag(2)).encode_under(bare_tag(2)),
 };
-static_assert(is_sound(alternatives));
 
 } // namespace
 
@@ -33,11 +31,11 @@ constexpr ChoiceShape ocsp_responder_id = choice(source, alternatives);
 using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_ocsp_responderid_newname(const kovra_asn1_value *name) noexcept {
-    return construct_choice(ocsp_responder_id, by_name, name);
+    return construct_choice<ocsp_responder_id, "byName">(name);
 }
 
 kovra_asn1_value *kovra_ocsp_responderid_newkeyhash(const kovra_asn1_value *key_hash) noexcept {
-    return construct_choice(ocsp_responder_id, by_key, key_hash);
+    return construct_choice<ocsp_responder_id, "byKey">(key_hash);
 }
 
 int32_t kovra_ocsp_responderid_gettype(const kovra_asn1_value *obj) noexcept {
@@ -46,9 +44,9 @@ int32_t kovra_ocsp_responderid_gettype(const kovra_asn1_value *obj) noexcept {
 }
 
 kovra_asn1_value *kovra_ocsp_responderid_getname(const kovra_asn1_value *obj) noexcept {
-    return alternative(ocsp_responder_id, obj, by_name);
+    return chosen<ocsp_responder_id, "byName">(obj);
 }
 
 kovra_asn1_value *kovra_ocsp_responderid_getkeyhash(const kovra_asn1_value *obj) noexcept {
-    return alternative(ocsp_responder_id, obj, by_key);
+    return chosen<ocsp_responder_id, "byKey">(obj);
 }

@@ -1,7 +1,7 @@
 // SigningCertificate and SigningCertificateV2 (RFC 2634, 5.4; RFC 5035, 3), the values of the signed attributes.
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_tsp.h"
 #include "kovra/asn1_types.h"
 
@@ -50,12 +50,12 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_ess_signingcertificate_new(const kovra_asn1_value *cert_ids,
                                                    const kovra_asn1_value *policy_list) noexcept {
-    return construct(signing_certificate, cert_ids, policy_list);
+    return construct<signing_certificate>(cert_ids, policy_list);
 }
 
 kovra_asn1_value *kovra_ess_signingcertificatev2_new(const kovra_asn1_value *cert_ids,
                                                      const kovra_asn1_value *policy_list) noexcept {
-    return construct(signing_certificate_v2, cert_ids, policy_list);
+    return construct<signing_certificate_v2>(cert_ids, policy_list);
 }
 
 kovra_asn1_value *kovra_ess_signingcertificate_getcerts(const kovra_asn1_value *obj) noexcept {

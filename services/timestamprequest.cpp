@@ -1,7 +1,7 @@
 // TimeStampReq (RFC 3161, 2.4.1).
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_tsp.h"
 #include "kovra/asn1_types.h"
 
@@ -18,9 +18,7 @@ constexpr char source[] = "ASN1_TSP";
 //     nonce           INTEGER OPTIONAL,
 //     certReq         BOOLEAN DEFAULT FALSE,
 //     extensions      [0] IMPLICIT Extensions OPTIONAL }
-namespace request {
-enum Slot : uint8_t { version, message_imprint, req_policy, nonce, cert_req, extensions };
-constexpr Component components[] = {
+constexpr Component request_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("messageImprint", KOVRA_ASN1_TYPE_MESSAGE_IMPRINT),
     optional("reqPolicy", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
@@ -28,12 +26,10 @@ constexpr Component components[] = {
     defaulted("certReq", KOVRA_ASN1_TYPE_BOOLEAN, default_false),
     optional("extensions", KOVRA_ASN1_TYPE_EXTENSIONS, implicit_tag(0)),
 };
-static_assert(is_sound(components));
-} // namespace request
 
 } // namespace
 
-constexpr Structure time_stamp_req = structure(source, request::components);
+constexpr Structure time_stamp_req = structure(source, request_components);
 
 } // namespace kovra::asn1
 
@@ -43,29 +39,29 @@ kovra_asn1_value *kovra_tsp_timestampreq_new(const kovra_asn1_value *version, co
                                              const kovra_asn1_value *policy, const kovra_asn1_value *nonce,
                                              const kovra_asn1_value *wants_certificate,
                                              const kovra_asn1_value *exts) noexcept {
-    return construct(time_stamp_req, version, imprint, policy, nonce, wants_certificate, exts);
+    return construct<time_stamp_req>(version, imprint, policy, nonce, wants_certificate, exts);
 }
 
 kovra_asn1_value *kovra_tsp_timestampreq_getversion(const kovra_asn1_value *obj) noexcept {
-    return component(time_stamp_req, obj, request::version);
+    return part<time_stamp_req, "version">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_timestampreq_getmessageimprint(const kovra_asn1_value *obj) noexcept {
-    return component(time_stamp_req, obj, request::message_imprint);
+    return part<time_stamp_req, "messageImprint">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_timestampreq_getpolicy(const kovra_asn1_value *obj) noexcept {
-    return component(time_stamp_req, obj, request::req_policy);
+    return part<time_stamp_req, "reqPolicy">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_timestampreq_getnonce(const kovra_asn1_value *obj) noexcept {
-    return component(time_stamp_req, obj, request::nonce);
+    return part<time_stamp_req, "nonce">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_timestampreq_getcertreq(const kovra_asn1_value *obj) noexcept {
-    return component(time_stamp_req, obj, request::cert_req);
+    return part<time_stamp_req, "certReq">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_timestampreq_getexts(const kovra_asn1_value *obj) noexcept {
-    return component(time_stamp_req, obj, request::extensions);
+    return part<time_stamp_req, "extensions">(obj);
 }

@@ -2,7 +2,7 @@
 
 #include "core/descriptors.hpp"
 #include "core/list.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_tsp.h"
 #include "kovra/asn1_types.h"
 
@@ -16,32 +16,26 @@ constexpr char source[] = "ASN1_TSP";
 //     status        INTEGER,
 //     statusString  PKIFreeText OPTIONAL,
 //     failInfo      BIT STRING OPTIONAL }
-namespace info {
-enum Slot : uint8_t { status, status_string, fail_info };
-constexpr Component components[] = {
+constexpr Component info_components[] = {
     required("status", KOVRA_ASN1_TYPE_INTEGER),
     optional("statusString", KOVRA_ASN1_TYPE_PKI_FREE_TEXT),
     optional("failInfo", KOVRA_ASN1_TYPE_BIT_STRING),
 };
-} // namespace info
 
 // TimeStampResp ::= SEQUENCE {
 //     status          PKIStatusInfo,
 //     timeStampToken  ContentInfo OPTIONAL }
-namespace response {
-enum Slot : uint8_t { status, token };
-constexpr Component components[] = {
+constexpr Component response_components[] = {
     required("status", KOVRA_ASN1_TYPE_PKI_STATUS_INFO),
     optional("timeStampToken", KOVRA_ASN1_TYPE_CONTENT_INFO),
 };
-} // namespace response
 
 } // namespace
 
 // PKIFreeText ::= SEQUENCE SIZE (1..MAX) OF UTF8String
 constexpr ListShape pki_free_text = {KOVRA_ASN1_TYPE_UTF8_STRING, ListReading::tagged, source};
-constexpr Structure pki_status_info = structure(source, info::components);
-constexpr Structure time_stamp_resp = structure(source, response::components);
+constexpr Structure pki_status_info = structure(source, info_components);
+constexpr Structure time_stamp_resp = structure(source, response_components);
 
 } // namespace kovra::asn1
 
@@ -49,29 +43,29 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_tsp_pkistatusinfo_new(const kovra_asn1_value *status, const kovra_asn1_value *status_string,
                                               const kovra_asn1_value *fail_info) noexcept {
-    return construct(pki_status_info, status, status_string, fail_info);
+    return construct<pki_status_info>(status, status_string, fail_info);
 }
 
 kovra_asn1_value *kovra_tsp_pkistatusinfo_getstatus(const kovra_asn1_value *obj) noexcept {
-    return component(pki_status_info, obj, info::status);
+    return part<pki_status_info, "status">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_pkistatusinfo_getstatusstring(const kovra_asn1_value *obj) noexcept {
-    return component(pki_status_info, obj, info::status_string);
+    return part<pki_status_info, "statusString">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_pkistatusinfo_getfailinfo(const kovra_asn1_value *obj) noexcept {
-    return component(pki_status_info, obj, info::fail_info);
+    return part<pki_status_info, "failInfo">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_timestampresp_new(const kovra_asn1_value *status, const kovra_asn1_value *token) noexcept {
-    return construct(time_stamp_resp, status, token);
+    return construct<time_stamp_resp>(status, token);
 }
 
 kovra_asn1_value *kovra_tsp_timestampresp_getstatus(const kovra_asn1_value *obj) noexcept {
-    return component(time_stamp_resp, obj, response::status);
+    return part<time_stamp_resp, "status">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_timestampresp_gettoken(const kovra_asn1_value *obj) noexcept {
-    return component(time_stamp_resp, obj, response::token);
+    return part<time_stamp_resp, "timeStampToken">(obj);
 }

@@ -1,7 +1,7 @@
 // TSTInfo and Accuracy (RFC 3161, 2.4.2): what a time-stamp token says.
 
 #include "core/descriptors.hpp"
-#include "core/structure.hpp"
+#include "core/part.hpp"
 #include "kovra/asn1_tsp.h"
 #include "kovra/asn1_types.h"
 
@@ -16,15 +16,11 @@ constexpr char source[] = "ASN1_TSP";
 //     millis   [0] IMPLICIT INTEGER OPTIONAL,
 //     micros   [1] IMPLICIT INTEGER OPTIONAL }
 // Any number will do.
-namespace precision {
-enum Slot : uint8_t { seconds, millis, micros };
-constexpr Component components[] = {
+constexpr Component precision_components[] = {
     optional("seconds", KOVRA_ASN1_TYPE_INTEGER),
     optional("millis", KOVRA_ASN1_TYPE_INTEGER, implicit_tag(0)),
     optional("micros", KOVRA_ASN1_TYPE_INTEGER, implicit_tag(1)),
 };
-static_assert(is_sound(components));
-} // namespace precision
 
 // TSTInfo ::= SEQUENCE {
 //     version         INTEGER,
@@ -38,20 +34,7 @@ static_assert(is_sound(components));
 //     tsa             [0] EXPLICIT GeneralName OPTIONAL,
 //     extensions      [1] IMPLICIT Extensions OPTIONAL }
 // The constructor copies tsa as an INTEGER.
-namespace token {
-enum Slot : uint8_t {
-    version,
-    policy,
-    message_imprint,
-    serial_number,
-    gen_time,
-    accuracy,
-    ordering,
-    nonce,
-    tsa,
-    extensions,
-};
-constexpr Component components[] = {
+constexpr Component token_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("policy", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("messageImprint", KOVRA_ASN1_TYPE_MESSAGE_IMPRINT),
@@ -63,13 +46,11 @@ constexpr Component components[] = {
     optional("tsa", KOVRA_ASN1_TYPE_GENERAL_NAME, explicit_tag(0)).copy_as(KOVRA_ASN1_TYPE_INTEGER),
     optional("extensions", KOVRA_ASN1_TYPE_EXTENSIONS, implicit_tag(1)),
 };
-static_assert(is_sound(components));
-} // namespace token
 
 } // namespace
 
-constexpr Structure time_stamp_accuracy = structure(source, precision::components);
-constexpr Structure tst_info = structure(source, token::components);
+constexpr Structure time_stamp_accuracy = structure(source, precision_components);
+constexpr Structure tst_info = structure(source, token_components);
 
 } // namespace kovra::asn1
 
@@ -77,19 +58,19 @@ using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_tsp_accuracy_new(const kovra_asn1_value *seconds, const kovra_asn1_value *millis,
                                          const kovra_asn1_value *micros) noexcept {
-    return construct(time_stamp_accuracy, seconds, millis, micros);
+    return construct<time_stamp_accuracy>(seconds, millis, micros);
 }
 
 kovra_asn1_value *kovra_tsp_accuracy_getseconds(const kovra_asn1_value *obj) noexcept {
-    return component(time_stamp_accuracy, obj, precision::seconds);
+    return part<time_stamp_accuracy, "seconds">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_accuracy_getmillis(const kovra_asn1_value *obj) noexcept {
-    return component(time_stamp_accuracy, obj, precision::millis);
+    return part<time_stamp_accuracy, "millis">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_accuracy_getmicros(const kovra_asn1_value *obj) noexcept {
-    return component(time_stamp_accuracy, obj, precision::micros);
+    return part<time_stamp_accuracy, "micros">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_new(const kovra_asn1_value *version, const kovra_asn1_value *policy,
@@ -97,45 +78,45 @@ kovra_asn1_value *kovra_tsp_tstinfo_new(const kovra_asn1_value *version, const k
                                         const kovra_asn1_value *gen_time, const kovra_asn1_value *accuracy,
                                         const kovra_asn1_value *ordering, const kovra_asn1_value *nonce,
                                         const kovra_asn1_value *tsa, const kovra_asn1_value *exts) noexcept {
-    return construct(tst_info, version, policy, imprint, serial_number, gen_time, accuracy, ordering, nonce, tsa, exts);
+    return construct<tst_info>(version, policy, imprint, serial_number, gen_time, accuracy, ordering, nonce, tsa, exts);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_getversion(const kovra_asn1_value *obj) noexcept {
-    return component(tst_info, obj, token::version);
+    return part<tst_info, "version">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_getpolicy(const kovra_asn1_value *obj) noexcept {
-    return component(tst_info, obj, token::policy);
+    return part<tst_info, "policy">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_getmessageimprint(const kovra_asn1_value *obj) noexcept {
-    return component(tst_info, obj, token::message_imprint);
+    return part<tst_info, "messageImprint">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_getsn(const kovra_asn1_value *obj) noexcept {
-    return component(tst_info, obj, token::serial_number);
+    return part<tst_info, "serialNumber">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_getgentime(const kovra_asn1_value *obj) noexcept {
-    return component(tst_info, obj, token::gen_time);
+    return part<tst_info, "genTime">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_getaccuracy(const kovra_asn1_value *obj) noexcept {
-    return component(tst_info, obj, token::accuracy);
+    return part<tst_info, "accuracy">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_getordering(const kovra_asn1_value *obj) noexcept {
-    return component(tst_info, obj, token::ordering);
+    return part<tst_info, "ordering">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_getnonce(const kovra_asn1_value *obj) noexcept {
-    return component(tst_info, obj, token::nonce);
+    return part<tst_info, "nonce">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_gettsaname(const kovra_asn1_value *obj) noexcept {
-    return component(tst_info, obj, token::tsa);
+    return part<tst_info, "tsa">(obj);
 }
 
 kovra_asn1_value *kovra_tsp_tstinfo_getexts(const kovra_asn1_value *obj) noexcept {
-    return component(tst_info, obj, token::extensions);
+    return part<tst_info, "extensions">(obj);
 }

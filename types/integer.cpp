@@ -5,8 +5,9 @@
 #include <algorithm>
 #include <cstring>
 
+#include "core/codec.hpp"
+#include "core/component.hpp"
 #include "core/descriptors.hpp"
-#include "core/registry.hpp"
 
 namespace kovra::asn1 {
 
@@ -95,6 +96,19 @@ constexpr Operations integer_operations = {
     .decode_entered = decode_integer_content,
     .records_reserve = leaf_reserve<2 * sizeof(Integer)>,
 };
+
+Value *make_zero(Arena &arena) {
+    static constexpr uint8_t zero = 0;
+    auto *integer = new_record<Integer>(arena);
+    if (integer != nullptr)
+        integer->octets = {&zero, 0, 1};
+    return integer;
+}
+
+bool is_zero(const Value &value) {
+    int32_t number = 0;
+    return kovra_asn1_integer_getlong(&value, &number) == 1 && number == 0;
+}
 
 } // namespace kovra::asn1
 

@@ -3,9 +3,9 @@
 #include "kovra/asn1_octetstring.h"
 
 #include "base/thresholds.hpp"
+#include "core/codec.hpp"
 #include "core/content.hpp"
 #include "core/descriptors.hpp"
-#include "core/registry.hpp"
 #include "kovra/asn1_types.h"
 #include "types/segments.hpp"
 

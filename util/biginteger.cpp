@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
+#include "base/handle.hpp"
 #include "base/sizes.hpp"
-#include "util/handle.hpp"
 #include "util/radix.hpp"
 
+using namespace kovra;
 using namespace kovra::util;
 
 // The content octets follow the record in the same block; there is at least one.

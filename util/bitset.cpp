@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "base/handle.hpp"
 #include "base/thresholds.hpp"
-#include "util/handle.hpp"
 
-using namespace kovra::util;
+using namespace kovra;
 
 struct kovra_bitset {
     static constexpr uint32_t magic_of_type = magic_word("BITS");
@@ -56,6 +56,8 @@ bool cover(kovra_bitset *set, int32_t bit) {
 
 } // namespace
 } // namespace kovra::util
+
+using namespace kovra::util;
 
 kovra_bitset *kovra_bitset_empty() noexcept {
     return make_record<kovra_bitset>(module);

@@ -79,6 +79,7 @@ Outcome copy_from_start(kovra_stream &destination, kovra_stream &source, int64_t
 } // namespace
 } // namespace kovra::util
 
+using namespace kovra;
 using namespace kovra::util;
 
 void kovra_stream_free(kovra_stream *stream) noexcept {

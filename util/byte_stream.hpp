@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "base/handle.hpp"
 #include "kovra/util_stream.h"
-#include "util/handle.hpp"
 
 namespace kovra::util {
 
@@ -44,7 +44,7 @@ struct StreamOperations {
 
 // The records of the kinds begin with this one.
 struct kovra_stream {
-    static constexpr uint32_t magic_of_type = kovra::util::magic_word("STRM");
+    static constexpr uint32_t magic_of_type = kovra::magic_word("STRM");
     uint32_t magic;
     int32_t kind;
     const kovra::util::StreamOperations *operations;

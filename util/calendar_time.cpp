@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "util/handle.hpp"
+#include "base/handle.hpp"
 
-using namespace kovra::util;
+using namespace kovra;
 
 struct kovra_time {
     static constexpr uint32_t magic_of_type = magic_word("TIME");
@@ -118,6 +118,8 @@ int32_t field(const kovra_time *time, int32_t kovra_time::*member) {
 
 } // namespace
 } // namespace kovra::util
+
+using namespace kovra::util;
 
 kovra_time *kovra_time_newutctime(int32_t year, int32_t month, int32_t day, int32_t hour, int32_t minute,
                                   int32_t second, int32_t ns) noexcept {

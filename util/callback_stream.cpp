@@ -134,6 +134,7 @@ constexpr StreamOperations callback_operations = {read_from_callback, write_to_c
 } // namespace
 } // namespace kovra::util
 
+using namespace kovra;
 using namespace kovra::util;
 
 kovra_stream *kovra_stream_new_callbacks(const kovra_stream_callbacks *callbacks, void *user,

@@ -1,7 +1,7 @@
+#include "base/handle.hpp"
 #include "kovra/util_memory.h"
-#include "util/handle.hpp"
 
-using namespace kovra::util;
+using namespace kovra;
 
 // The octets follow the record in the same block.
 struct kovra_data_blob {

@@ -1,9 +1,9 @@
 #include <algorithm>
 
+#include "base/handle.hpp"
 #include "base/sizes.hpp"
 #include "base/thresholds.hpp"
 #include "kovra/util_error.h"
-#include "util/handle.hpp"
 
 namespace kovra::util {
 namespace {
@@ -46,6 +46,7 @@ size_t truncated_length(const char *text, size_t room) {
 } // namespace
 } // namespace kovra::util
 
+using namespace kovra;
 using namespace kovra::util;
 
 struct kovra_err_ctx {

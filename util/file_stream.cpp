@@ -141,6 +141,7 @@ constexpr StreamOperations file_operations = {read_from_file, write_to_file,    
 } // namespace
 } // namespace kovra::util
 
+using namespace kovra;
 using namespace kovra::util;
 
 kovra_stream *kovra_stream_new_file(const char *path, int32_t mode, kovra_err_ctx *ctx) noexcept {

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "base/handle.hpp"
 #include "kovra/util_json.h"
-#include "util/handle.hpp"
 
 // What every value begins with. A string's octets and a terminating zero follow at once; numbers and containers are
 // the larger nodes below.

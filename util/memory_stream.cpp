@@ -107,6 +107,7 @@ MemoryStream *make_memory_stream(kovra_err_ctx *ctx) {
 } // namespace
 } // namespace kovra::util
 
+using namespace kovra;
 using namespace kovra::util;
 
 kovra_stream *kovra_stream_new_mem(int64_t initial_size, kovra_err_ctx *ctx) noexcept {

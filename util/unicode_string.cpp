@@ -2,9 +2,10 @@
 
 #include <cstring>
 
-#include "util/handle.hpp"
+#include "base/handle.hpp"
 #include "util/utf8.hpp"
 
+using namespace kovra;
 using namespace kovra::util;
 
 // Held as UTF-8, whose octets stand behind the record: what is converted most needs no work at all.

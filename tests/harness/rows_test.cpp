@@ -647,7 +647,7 @@ TEST(Rows, StrangePartsAreRefused) {
             const core::Component &component =
                 is_table_choice ? choice->alternatives[place] : structure->components[place];
             const bool is_content = !is_table_choice && structure->content != nullptr;
-            const core::Type &written_as = is_content ? *structure->content : core::encode_row(component);
+            const core::Type &written_as = is_content ? *structure->content : core::row_of(component);
             for (Value &part : of_every_kind()) {
                 auto *value = static_cast<core::Value *>(part.get());
                 const core::Type *content = component.content_written_as;

@@ -140,10 +140,10 @@ std::string under_tag(const std::string &whole, core::Tag tag) {
 std::string make(const Type &type, Extent extent, const Flavour &flavour, int depth);
 
 std::string make_component(const Component &component, Extent extent, const Flavour &flavour, int depth) {
-    if (component.presence == Presence::defaulted && component.read_as->operations == &core::boolean_operations)
+    if (component.presence == Presence::defaulted && component.taken_as->operations == &core::boolean_operations)
         return under_tag(octets(component.fallback == &core::default_true ? "01 01 00" : "01 01 FF"), component.tag);
     const Flavour &chosen = component.presence == Presence::defaulted ? no_default : flavour;
-    return under_tag(make(*component.read_as, extent, chosen, depth + 1), component.tag);
+    return under_tag(make(*component.taken_as, extent, chosen, depth + 1), component.tag);
 }
 
 std::string make_structure(const Structure &shape, uint32_t present, Extent extent, const Flavour &flavour, int depth) {
@@ -238,7 +238,7 @@ std::vector<Sample> alternatives(const Type &type, const Flavour &flavour) {
             for (const Extent extent : {Extent::minimal, Extent::full})
                 found.push_back(
                     {std::string("alternative ") + component.name, make_component(component, extent, flavour, 1)});
-            for (const Sample &within : alternatives(*component.read_as, flavour))
+            for (const Sample &within : alternatives(*component.taken_as, flavour))
                 found.push_back({std::string("alternative ") + component.name + ", " + within.what,
                                  under_tag(within.octets, component.tag)});
         }
@@ -274,7 +274,7 @@ std::vector<Sample> make_samples(const Type &type) {
     } else if (is_structure(type)) {
         const Structure &shape = shape_of<Structure>(type);
         for (uint32_t i = 0; i < shape.count && shape.allows == nullptr; ++i) {
-            for (const Sample &one : alternatives(*shape.components[i].read_as, plain)) {
+            for (const Sample &one : alternatives(*shape.components[i].taken_as, plain)) {
                 std::string content;
                 for (uint32_t j = 0; j < shape.count; ++j) {
                     if (j == i)
@@ -432,7 +432,7 @@ std::pair<const Component *, uint8_t> components_of(const Type &type) {
 }
 
 const Type &behind(const Type &type, uint8_t step) {
-    return is_list_structure(type) ? *shape_of<Structure>(type).content : *components_of(type).first[step].read_as;
+    return is_list_structure(type) ? *shape_of<Structure>(type).content : *components_of(type).first[step].taken_as;
 }
 
 bool is_restricted(const Type &type, const std::vector<uint8_t> &way) {
@@ -570,7 +570,7 @@ public:
 private:
     bool holds(const Component *components, uint32_t count) {
         return std::all_of(components, components + count, [&](const Component &component) {
-            return !is_odd_(component) && holds(*component.read_as);
+            return !is_odd_(component) && holds(*component.taken_as);
         });
     }
 
@@ -583,7 +583,7 @@ private:
 bool is_written_as_read(const Type &type) {
     static Regularity regularity([](const Component &component) {
         return component.tag.tagging != component.encode_tag.tagging ||
-               component.tag.number != component.encode_tag.number || component.written_as != component.read_as ||
+               component.tag.number != component.encode_tag.number || component.taken_as != component.taken_as ||
                component.content_written_as != nullptr;
     });
     return regularity.holds(type);

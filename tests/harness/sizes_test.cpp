@@ -2,6 +2,7 @@
 // come as near; the contents are pages that nobody reads or writes.
 #include <functional>
 
+#include "base/handle.hpp"
 #include "base/sizes.hpp"
 #include "core/content.hpp"
 #include "core/encoder.hpp"
@@ -14,7 +15,6 @@
 #include "kovra/util.h"
 #include "tests/failing_memory.hpp"
 #include "tests/util_handles.hpp"
-#include "util/handle.hpp"
 #include "util/json_text.hpp"
 
 #ifndef _WIN32
@@ -65,7 +65,7 @@ static_assert(roundings_are_right());
 constexpr size_t little = size_t{1} << 20;
 
 struct Handle {
-    static constexpr uint32_t magic_of_type = util::magic_word("TEST");
+    static constexpr uint32_t magic_of_type = magic_word("TEST");
     uint32_t magic;
 };
 
@@ -87,7 +87,7 @@ TEST(Sizes, TheLargestAreRefused) {
         {"new_block", [](size_t size) { return core::Arena::new_block(size) != nullptr; }},
         {"resize_block", [&](size_t size) { return core::Arena::resize_block(block, size) != nullptr; }},
         {"new_root", [](size_t size) { return core::new_root<core::String>(size) != nullptr; }},
-        {"make_record", [](size_t size) { return util::make_record<Handle>("", size) != nullptr; }},
+        {"make_record", [](size_t size) { return make_record<Handle>("", size) != nullptr; }},
         {"reserve",
          [&](size_t size) {
              return encoder.reserve({"", 0}, size) == core::success;

@@ -1,16 +1,16 @@
 // The open-element context: any element, kept as it arrives.
 
+#include "base/handle.hpp"
 #include "base/thresholds.hpp"
 #include "core/codes.hpp"
 #include "core/content.hpp"
-#include "core/push_walk.hpp"
 #include "kovra/asn1_decode.h"
-#include "util/handle.hpp"
+#include "push/push_walk.hpp"
 
 using namespace kovra::asn1;
 
 struct kovra_asn1_decode_any_ctx {
-    static constexpr uint32_t magic_of_type = kovra::util::magic_word("PUSA");
+    static constexpr uint32_t magic_of_type = kovra::magic_word("PUSA");
     uint32_t magic;
     PushWalk walk{Elements::all};
     kovra_stream *octets; // all that were taken
@@ -23,7 +23,7 @@ constexpr int64_t initial_size = kovra::threshold(512, 1);
 constexpr int32_t more_input_needed = -100;
 
 bool may_feed(const kovra_asn1_decode_any_ctx *ctx, const void *data, int32_t length) {
-    return kovra::util::is_valid(ctx) && length >= 0 && (data != nullptr || length == 0) &&
+    return kovra::is_valid(ctx) && length >= 0 && (data != nullptr || length == 0) &&
            ctx->walk.state() != PushState::failed;
 }
 
@@ -42,13 +42,13 @@ Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE())
 } // namespace
 
 kovra_asn1_decode_any_ctx *kovra_asn1_decode_any_ctx_new(void) noexcept {
-    auto *ctx = kovra::util::make_record<kovra_asn1_decode_any_ctx>(module);
+    auto *ctx = kovra::make_record<kovra_asn1_decode_any_ctx>(module);
     if (ctx == nullptr)
         return nullptr;
     ctx->octets = kovra_stream_new_mem(initial_size, nullptr);
     if (ctx->octets != nullptr)
         return ctx;
-    kovra::util::release_record(ctx);
+    kovra::release_record(ctx);
     return nullptr;
 }
 
@@ -65,7 +65,7 @@ int32_t kovra_asn1_decode_any_update(kovra_asn1_decode_any_ctx *ctx, const void 
 }
 
 int32_t kovra_asn1_decode_any_isfinish(const kovra_asn1_decode_any_ctx *ctx) noexcept {
-    return kovra::util::is_valid(ctx) && ctx->walk.state() == PushState::complete ? 1 : 0;
+    return kovra::is_valid(ctx) && ctx->walk.state() == PushState::complete ? 1 : 0;
 }
 
 int32_t kovra_asn1_decode_any_ctx_iseoc(const kovra_asn1_decode_any_ctx *ctx) noexcept {
@@ -112,9 +112,9 @@ int32_t kovra_asn1_decode_any_ctx_toobject(const kovra_asn1_decode_any_ctx *ctx,
 }
 
 void kovra_asn1_decode_any_ctx_free(kovra_asn1_decode_any_ctx *ctx) noexcept {
-    if (!kovra::util::is_valid(ctx))
+    if (!kovra::is_valid(ctx))
         return;
     ctx->walk.release();
     kovra_stream_free(ctx->octets);
-    kovra::util::release_record(ctx);
+    kovra::release_record(ctx);
 }

@@ -2,8 +2,9 @@
 
 #include "kovra/asn1_boolean.h"
 
+#include "core/codec.hpp"
+#include "core/component.hpp"
 #include "core/descriptors.hpp"
-#include "core/registry.hpp"
 
 namespace kovra::asn1 {
 
@@ -153,6 +154,23 @@ constexpr Operations end_of_contents_operations = {
     .decode = decode_end_of_contents,
     .records_reserve = leaf_reserve<0>,
 };
+
+Value *make_false(Arena &arena) {
+    return new_record<Boolean>(arena);
+}
+Value *make_true(Arena &arena) {
+    auto *boolean = new_record<Boolean>(arena);
+    if (boolean != nullptr)
+        boolean->word = true_word;
+    return boolean;
+}
+
+bool is_false(const Value &value) {
+    return kovra_asn1_boolean_istrue(&value) == 0;
+}
+bool is_true(const Value &value) {
+    return kovra_asn1_boolean_istrue(&value) == 1;
+}
 
 } // namespace kovra::asn1
 

@@ -10,7 +10,7 @@
 #include "base/sizes.hpp"
 #include "kovra/util_memory.h"
 
-namespace kovra::util {
+namespace kovra {
 
 // Four letters as one word, so that a record is recognised in a memory dump.
 constexpr uint32_t magic_word(const char (&letters)[5]) {
@@ -47,4 +47,4 @@ template <class Record> void release_record(Record *record) {
     kovra_free(record);
 }
 
-} // namespace kovra::util
+} // namespace kovra

@@ -1,4 +1,4 @@
-#include "core/push_walk.hpp"
+#include "push/push_walk.hpp"
 
 #include <algorithm>
 
