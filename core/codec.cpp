@@ -72,8 +72,7 @@ Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure)
     if (measure == Measure::fresh && value != nullptr) {
         const int32_t whole = whole_length(type, value);
         if (whole > 0)
-            if (const Result result = encoder.expect(here(), static_cast<size_t>(whole), *value->arena);
-                result != success)
+            if (const Result result = encoder.expect(here(), static_cast<size_t>(whole), *value); result != success)
                 return result;
     }
     if (type.operations->encode != nullptr)

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "base/sizes.hpp"
+#include "core/value.hpp"
 #include "kovra/util_memory.h"
 
 namespace kovra::asn1 {
@@ -47,12 +48,12 @@ Result Encoder::reserve(Site site, size_t count) {
     return success;
 }
 
-Result Encoder::expect(Site site, size_t count, const Arena &arena) {
+Result Encoder::expect(Site site, size_t count, const Value &value) {
     if (refusal_ != success)
         return success;
     if (stream_ != nullptr && held_ == 0)
         count = std::min(count, piece);
-    return count <= capacity_ - size_ || arena.has_announced() ? success : reserve(site, count);
+    return count <= capacity_ - size_ || value.arena->has_announced() ? success : reserve(site, count);
 }
 
 Result Encoder::note(Site site, kovra_stream *content) {

@@ -13,6 +13,8 @@
 
 namespace kovra::asn1 {
 
+struct Value;
+
 class Encoder {
 public:
     // To a stream; a null stream fails when identifier or content octets are to be written.
@@ -32,9 +34,10 @@ public:
 
     // Makes room for `count` octets that are to come, so that they take one allocation.
     Result reserve(Site site, size_t count);
-    // The same for a value of this arena, which is believed only if all of it is in memory, and where the octets need
-    // not all be gathered before they go to the stream.
-    Result expect(Site site, size_t count, const Arena &arena);
+    // The same for a value, which is believed only if all of it is in memory, and where the octets need not all be
+    // gathered before they go to the stream. Where there is room already the value is not looked at: for a NULL it may
+    // be a handle of any kind.
+    Result expect(Site site, size_t count, const Value &value);
 
     Result put(Site site, const void *octets, size_t count) {
         if (count > capacity_ - size_)

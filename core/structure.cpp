@@ -102,8 +102,7 @@ Result encode_signed(Encoder &encoder, Site site, const Component &component, Re
     Value *value = record.slots[slot];
     const int32_t length = value != nullptr ? component_length(component, value, measure) : unknown;
     // Short memory is reported as where any value's encoding begins.
-    Result result =
-        length > 0 ? encoder.expect({"ASN1", __LINE__}, static_cast<size_t>(length), *record.arena) : success;
+    Result result = length > 0 ? encoder.expect({"ASN1", __LINE__}, static_cast<size_t>(length), record) : success;
     result = result == success ? encode_component(encoder, site, component, value, Measure::known)
                                : fail_encode(encoder, site, component, result);
     if (result == success)
