@@ -190,7 +190,7 @@ constexpr void expect_sound(const Component *components, size_t count, bool is_c
         const Component &component = components[i];
         if (component.tag.tagging == Tagging::implicit && !has_own_tag(*component.taken_as))
             an_implicit_tag_on_a_type_without_a_tag_of_its_own();
-        if (component.fallback != nullptr && component.fallback->type != component.type)
+        if (component.presence == Presence::defaulted && component.fallback->type != component.type)
             a_default_of_another_type();
         bool may_be_next = true;
         for (size_t j = i + 1; j < count; ++j) {
