@@ -37,7 +37,7 @@ class ToolText : public kovra::test::ToolTest {
 protected:
     // Runs the tool, which has to print nothing that is harmful, and, unless it does not repeat the text, the letters.
     Result run_unharmed(const std::string &arguments, std::string_view input = "", bool repeats = true) const {
-        const Result result = run(arguments, input);
+        Result result = run(arguments, input);
         EXPECT_TRUE(is_harmless(result.out)) << result.out;
         EXPECT_TRUE(is_harmless(result.error)) << result.error;
         EXPECT_TRUE(!repeats || (result.out + result.error).find(letters) != std::string::npos)

@@ -27,10 +27,11 @@ void put_error(Harmless text) {
     static_cast<void>(std::fwrite(text.view().data(), 1, text.size(), stderr));
 }
 
-size_t Output::put(Outside text) {
-    for (Harmless piece; text.next(piece);)
+size_t Output::put(const Outside &text) {
+    Pieces pieces(text);
+    for (Harmless piece; pieces.next(piece);)
         put(piece);
-    return text.taken();
+    return pieces.taken();
 }
 
 void Output::put_number(uint64_t number, int base) {

@@ -34,7 +34,7 @@ public:
 
     void put(Harmless text) { put_data(text.view()); }
     // Prints text from outside, escaped; returns the number of its octets that were printed so.
-    size_t put(Outside text);
+    size_t put(const Outside &text);
     // Octets that are data, not text: as they are, terminal or not.
     void put_data(std::string_view octets) {
         if (octets.size() > capacity - used_)

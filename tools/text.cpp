@@ -70,40 +70,40 @@ char *put_c(char *out, uint32_t code, bool is_octet) {
 
 } // namespace
 
-bool Outside::next(Harmless &piece) {
-    if (at_ >= end_)
+bool Pieces::next(Harmless &piece) {
+    if (at_ >= text_.end_)
         return false;
-    const uint8_t form = bit(form_);
-    const char *begin = octets_.data() + at_;
-    const char *end = octets_.data() + end_;
+    const uint8_t form = bit(text_.form_);
+    const char *begin = text_.octets_.data() + at_;
+    const char *end = text_.octets_.data() + text_.end_;
     const char *stop = begin;
     while (stop != end && (plain_in[static_cast<uint8_t>(*stop)] & form) != 0)
         ++stop;
     if (stop == begin) {
         const auto [code, size] =
-            character_at(reinterpret_cast<const uint8_t *>(octets_.data()) + at_, octets_.size() - at_);
+            character_at(reinterpret_cast<const uint8_t *>(text_.octets_.data()) + at_, text_.octets_.size() - at_);
         piece = Harmless(escaped(code, size));
         at_ += std::max<size_t>(size, 1);
     } else {
         const auto size = static_cast<size_t>(stop - begin);
-        piece = Harmless(octets_.substr(at_, size));
+        piece = Harmless(text_.octets_.substr(at_, size));
         at_ += size;
     }
     return true;
 }
 
 // How the character is written that stands next, of `size` octets, 0 for an octet that is none.
-std::string_view Outside::escaped(uint32_t code, size_t size) {
-    const std::string_view itself = octets_.substr(at_, std::max<size_t>(size, 1));
+std::string_view Pieces::escaped(uint32_t code, size_t size) {
+    const std::string_view itself = text_.octets_.substr(at_, std::max<size_t>(size, 1));
     const auto octet = static_cast<uint8_t>(itself[0]);
-    const bool is_edge = at_ == 0 || at_ + 1 == octets_.size();
+    const bool is_edge = at_ == 0 || at_ + 1 == text_.octets_.size();
     if (size > 1 && is_harmless(code))
         return itself;
     char *out = escape_;
-    if (form_ == Form::json) {
+    if (text_.form_ == Form::json) {
         constexpr uint32_t replacement = 0xFFFD;
         out = put_json(out, size == 0 ? replacement : code);
-    } else if (form_ != Form::name) {
+    } else if (text_.form_ != Form::name) {
         out = put_c(out, size == 0 ? octet : code, size == 0);
     } else if (size == 1 && is_harmless(code)) {
         const bool is_inside = octet == ' ' ? !is_edge : octet == '#' && at_ != 0;
@@ -120,16 +120,17 @@ std::string_view Outside::escaped(uint32_t code, size_t size) {
     return {escape_, static_cast<size_t>(out - escape_)};
 }
 
-Message &Message::operator+=(Outside text) {
-    for (Harmless piece; text.next(piece);)
+Message &Message::operator+=(const Outside &text) {
+    Pieces pieces(text);
+    for (Harmless piece; pieces.next(piece);)
         text_ += piece.view();
     return *this;
 }
 
 Message decimal(uint64_t number) {
     char digits[20];
-    return Message(
-        Outside({digits, static_cast<size_t>(std::to_chars(digits, digits + sizeof digits, number).ptr - digits)}));
+    const char *end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+    return Message(Outside({digits, static_cast<size_t>(end - digits)}));
 }
 
 Message blanks(size_t count) {

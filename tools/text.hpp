@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace kovra::tool {
 
@@ -33,7 +34,7 @@ public:
     friend constexpr bool operator==(Harmless left, Harmless right) { return left.text_ == right.text_; }
 
 private:
-    friend class Outside;
+    friend class Pieces;
     friend class Message;
     explicit constexpr Harmless(std::string_view text) : text_(text) {}
 
@@ -49,7 +50,20 @@ public:
     explicit Outside(std::string_view octets, Form form = Form::plain, size_t shown = all)
         : octets_(octets), form_(form), end_(shown < octets.size() ? shown : octets.size()) {}
 
-    // What is written, piece after piece, each valid until the next; false behind the last one.
+private:
+    friend class Pieces;
+
+    std::string_view octets_;
+    Form form_;
+    size_t end_;
+};
+
+// What is written of it, piece after piece.
+class Pieces {
+public:
+    explicit Pieces(const Outside &text) : text_(text) {}
+
+    // The next piece, valid until the one after; false behind the last one.
     bool next(Harmless &piece);
     // The octets that the pieces so far stand for.
     [[nodiscard]] size_t taken() const { return at_; }
@@ -57,10 +71,8 @@ public:
 private:
     std::string_view escaped(uint32_t code, size_t size);
 
-    std::string_view octets_;
-    Form form_;
+    const Outside &text_;
     size_t at_ = 0;
-    size_t end_;
     char escape_[16]; // of one character
 };
 
@@ -70,7 +82,7 @@ public:
     Message() = default;
     // NOLINTNEXTLINE(google-explicit-constructor)
     Message(Harmless text) : text_(text.view()) {}
-    explicit Message(Outside text) { *this += text; }
+    explicit Message(const Outside &text) { *this += text; }
 
     // A view, valid as long as the message stays as it is.
     // NOLINTNEXTLINE(google-explicit-constructor)
@@ -82,9 +94,9 @@ public:
         text_ += text.view();
         return *this;
     }
-    Message &operator+=(Outside text);
+    Message &operator+=(const Outside &text);
     friend Message operator+(Message left, Harmless right) { return std::move(left += right); }
-    friend Message operator+(Message left, Outside right) { return std::move(left += right); }
+    friend Message operator+(Message left, const Outside &right) { return std::move(left += right); }
 
 private:
     std::string text_;
