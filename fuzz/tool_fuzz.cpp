@@ -38,9 +38,9 @@ void run(Draw input) {
     session.options.is_quiet = (choice & 0x40) != 0;
     session.options.indent = (choice & 0x80) != 0 ? 0 : 2;
     session.options.type = type < KOVRA_ASN1_TYPE_COUNT ? type : KOVRA_ASN1_TYPE_COUNT;
-    session.out.set_path("/dev/null");
+    session.out.set_path("/dev/null", false);
     commands[(choice & 0x0F) % std::size(commands)](session);
-    session.out.finish(true);
+    session.out.finish(true, true);
     check(session.status() == tool::Status::good || session.status() == tool::Status::malformed,
           "a file is good or malformed");
 }
