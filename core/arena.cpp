@@ -114,7 +114,8 @@ Arena::Block *Arena::resize_linked(Block *block, size_t size) {
 }
 
 void *Arena::allocate_in_new_block(size_t size) {
-    size_t wanted = std::max(size, next_size_);
+    size = rounded_up(size, alignment);
+    size_t wanted = std::max(size, rounded_up(next_size_, alignment));
     Block *block = nullptr;
     if (spare_ != nullptr && spare_size_ >= size) {
         block = spare_;

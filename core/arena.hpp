@@ -52,21 +52,17 @@ public:
 
     // Memory for a record, aligned for pointers and not cleared; null when memory is short.
     void *allocate(size_t size) {
-        size = rounded_up(size, alignment);
-        if (size > static_cast<size_t>(end_ - next_))
-            return allocate_in_new_block(size);
-        void *memory = next_;
-        next_ += size;
-        return memory;
+        void *memory = allocate_in_place(size);
+        return memory != nullptr ? memory : allocate_in_new_block(size);
     }
 
     // The same from the room that is left; null when there is too little, although more may be had.
     void *allocate_in_place(size_t size) {
-        size = rounded_up(size, alignment);
+        // The room is a multiple of the alignment: what is not larger is not when it is rounded up either.
         if (size > static_cast<size_t>(end_ - next_))
             return nullptr;
         void *memory = next_;
-        next_ += size;
+        next_ += (size + alignment - 1) & ~(alignment - 1);
         return memory;
     }
 
