@@ -364,7 +364,9 @@ TEST(Linear, WhatIsInMemoryIsWrittenAtOnce) {
         EXPECT_EQ(kovra_asn1_list_put(list.get(), kovra_asn1_any_new(0, 1, 4, 1000, data.data(), 1000)), 1);
     const MemoryMeter meter;
     const Blob blob(kovra_asn1_mem_encode(24, list.get()));
-    EXPECT_LE(meter.use().allocated, 2 * int64_t{kovra_data_blob_getlength(blob.get())} + 64);
+    // Large blocks are whole pages to some allocators.
+    constexpr int64_t page = 4096;
+    EXPECT_LE(meter.use().allocated, 2 * (int64_t{kovra_data_blob_getlength(blob.get())} + page));
 }
 
 // Strings whose contents stay in streams, in a value that is copied.
