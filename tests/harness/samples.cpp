@@ -583,8 +583,7 @@ private:
 bool is_written_as_read(const Type &type) {
     static Regularity regularity([](const Component &component) {
         return component.tag.tagging != component.encode_tag.tagging ||
-               component.tag.number != component.encode_tag.number || component.taken_as != component.taken_as ||
-               component.content_written_as != nullptr;
+               component.tag.number != component.encode_tag.number || component.content_written_as != nullptr;
     });
     return regularity.holds(type);
 }
