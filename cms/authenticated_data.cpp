@@ -35,7 +35,7 @@ constexpr Component authenticated_components[] = {
 
 } // namespace
 
-constexpr Structure authenticated_data = structure(source, authenticated_components);
+constexpr StructureShape authenticated_data = structure(source, authenticated_components);
 
 } // namespace kovra::asn1
 

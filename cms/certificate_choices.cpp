@@ -38,7 +38,7 @@ constexpr Component certificate_choice_alternatives[] = {
 
 } // namespace
 
-constexpr Structure other_certificate_format = structure(source, other_format_components);
+constexpr StructureShape other_certificate_format = structure(source, other_format_components);
 constexpr ChoiceShape certificate_choices = choice(source, certificate_choice_alternatives);
 // CertificateSet ::= SET OF CertificateChoices
 constexpr ListShape certificate_set = {KOVRA_ASN1_TYPE_CERTIFICATE_CHOICES, ListReading::inlined, nullptr, source};

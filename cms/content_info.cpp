@@ -21,7 +21,7 @@ constexpr Component info_components[] = {
 
 } // namespace
 
-constexpr Structure content_info = structure(source, info_components);
+constexpr StructureShape content_info = structure(source, info_components);
 
 } // namespace kovra::asn1
 

@@ -26,7 +26,7 @@ constexpr Component digested_components[] = {
 
 } // namespace
 
-constexpr Structure digested_data = structure(source, digested_components);
+constexpr StructureShape digested_data = structure(source, digested_components);
 
 } // namespace kovra::asn1
 

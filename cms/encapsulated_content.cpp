@@ -21,7 +21,7 @@ constexpr Component encapsulated_components[] = {
 
 } // namespace
 
-constexpr Structure encapsulated_content_info = structure(source, encapsulated_components);
+constexpr StructureShape encapsulated_content_info = structure(source, encapsulated_components);
 
 } // namespace kovra::asn1
 

@@ -33,8 +33,8 @@ constexpr Component encrypted_components[] = {
 
 } // namespace
 
-constexpr Structure encrypted_content_info = structure(source, encrypted_content_components);
-constexpr Structure encrypted_data = structure(source, encrypted_components);
+constexpr StructureShape encrypted_content_info = structure(source, encrypted_content_components);
+constexpr StructureShape encrypted_data = structure(source, encrypted_components);
 
 } // namespace kovra::asn1
 

@@ -35,8 +35,8 @@ constexpr Component enveloped_components[] = {
 
 } // namespace
 
-constexpr Structure originator_info = structure(source, originator_components);
-constexpr Structure enveloped_data = structure(source, enveloped_components);
+constexpr StructureShape originator_info = structure(source, originator_components);
+constexpr StructureShape enveloped_data = structure(source, enveloped_components);
 
 } // namespace kovra::asn1
 

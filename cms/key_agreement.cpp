@@ -74,12 +74,12 @@ constexpr Component agreement_components[] = {
 } // namespace
 
 constexpr ChoiceShape originator_identifier_or_key = choice(source, originator_alternatives);
-constexpr Structure other_key_attribute = structure(source, key_attribute_components);
-constexpr Structure recipient_key_identifier = structure(source, key_identifier_components);
+constexpr StructureShape other_key_attribute = structure(source, key_attribute_components);
+constexpr StructureShape recipient_key_identifier = structure(source, key_identifier_components);
 constexpr ChoiceShape key_agree_recipient_identifier = choice(source, recipient_alternatives);
-constexpr Structure recipient_encrypted_key = structure(source, encrypted_key_components);
+constexpr StructureShape recipient_encrypted_key = structure(source, encrypted_key_components);
 constexpr ListShape recipient_encrypted_keys = {KOVRA_ASN1_TYPE_RECIPIENT_ENCRYPTED_KEY};
-constexpr Structure key_agree_recipient_info = structure(source, agreement_components);
+constexpr StructureShape key_agree_recipient_info = structure(source, agreement_components);
 
 } // namespace kovra::asn1
 

@@ -31,8 +31,8 @@ constexpr Component other_components[] = {
 
 } // namespace
 
-constexpr Structure key_specific_info = structure(source, key_info_components);
-constexpr Structure dh_other_info = structure(source, other_components);
+constexpr StructureShape key_specific_info = structure(source, key_info_components);
+constexpr StructureShape dh_other_info = structure(source, other_components);
 
 } // namespace kovra::asn1
 

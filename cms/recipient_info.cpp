@@ -75,10 +75,10 @@ constexpr Component recipient_alternatives[] = {
 
 } // namespace
 
-constexpr Structure key_trans_recipient_info = structure(source, transport_components);
-constexpr Structure kek_recipient_info = structure(source, kek_components);
-constexpr Structure password_recipient_info = structure(source, password_components);
-constexpr Structure other_recipient_info = structure(source, other_recipient_components);
+constexpr StructureShape key_trans_recipient_info = structure(source, transport_components);
+constexpr StructureShape kek_recipient_info = structure(source, kek_components);
+constexpr StructureShape password_recipient_info = structure(source, password_components);
+constexpr StructureShape other_recipient_info = structure(source, other_recipient_components);
 constexpr ChoiceShape recipient_info = choice(source, recipient_alternatives);
 // RecipientInfos ::= SET OF RecipientInfo
 constexpr ListShape recipient_infos = {KOVRA_ASN1_TYPE_RECIPIENT_INFO, ListReading::dispatched};

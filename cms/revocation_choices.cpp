@@ -31,7 +31,7 @@ constexpr Component revocation_choice_alternatives[] = {
 
 } // namespace
 
-constexpr Structure other_revocation_info_format = alike(source, other_components, other_certificate_format);
+constexpr StructureShape other_revocation_info_format = alike(source, other_components, other_certificate_format);
 constexpr ChoiceShape revocation_info_choice = choice(source, revocation_choice_alternatives);
 // RevocationInfoChoices ::= SET OF RevocationInfoChoice
 constexpr ListShape revocation_info_choices = {KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICE, ListReading::inlined, nullptr,

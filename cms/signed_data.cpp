@@ -32,15 +32,15 @@ constexpr Component signed_message_components[] = {
 
 // In CMS the content is an OCTET STRING, in either form, or detached; in PKCS #7 it is anything.
 constexpr int32_t not_an_octet_string = 0x10355;
-bool is_octet_string_or_absent(const Record &record) {
+bool is_octet_string_or_absent(const Structure &record) {
     const auto *content = as<Any>(kovra_pkcs7contentinfo_getcontent(part<pkcs7_signed_data, "contentInfo">(&record)));
     return content == nullptr || (content->tag_class == Class::universal && content->tag == tag::octet_string);
 }
 
 } // namespace
 
-constexpr Structure pkcs7_signed_data = structure(source, signed_message_components);
-constexpr Structure cms_signed_data =
+constexpr StructureShape pkcs7_signed_data = structure(source, signed_message_components);
+constexpr StructureShape cms_signed_data =
     restricted(pkcs7_signed_data, is_octet_string_or_absent, not_an_octet_string, false);
 // DigestAlgorithmIdentifiers ::= SET OF AlgorithmIdentifier
 constexpr ListShape digest_algorithms = {KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER};

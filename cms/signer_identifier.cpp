@@ -29,7 +29,7 @@ constexpr Component identifier_alternatives[] = {
 
 } // namespace
 
-constexpr Structure issuer_and_serial_number = structure(source, issuer_and_serial_components);
+constexpr StructureShape issuer_and_serial_number = structure(source, issuer_and_serial_components);
 constexpr ChoiceShape signer_identifier = choice(source, identifier_alternatives);
 
 } // namespace kovra::asn1

@@ -32,7 +32,7 @@ constexpr Component signer_components[] = {
 
 } // namespace
 
-constexpr Structure signer_info = structure(source, signer_components);
+constexpr StructureShape signer_info = structure(source, signer_components);
 // SignerInfos ::= SET OF SignerInfo
 constexpr ListShape signer_infos = {KOVRA_ASN1_TYPE_SIGNER_INFO};
 

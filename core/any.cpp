@@ -132,7 +132,7 @@ Result encode_any_content(Encoder &encoder, const Type &, Value *value, int32_t 
 }
 
 [[gnu::noinline]] Result decode_any_with_care(Decoder &decoder, Value *&out) {
-    if (const Result result = enter(decoder, here()); result != success)
+    if (const Result result = check_source_and_place(decoder, here()); result != success)
         return result;
     Extent extent;
     if (const Result result = walk_element(decoder, extent); result != success)
@@ -145,7 +145,7 @@ Result decode_any(Decoder &decoder, const Type &, Value *&out) {
     const uint32_t start = decoder.position();
     uint8_t octet = 0;
     uint32_t length = 0;
-    if (decoder.has_both_ends() && decoder.header(octet, length)) {
+    if (decoder.has_source_and_place() && decoder.header(octet, length)) {
         auto *any =
             begins_element[octet] ? static_cast<Any *>(decoder.arena().allocate_in_place(sizeof(Any))) : nullptr;
         if (any != nullptr) {
@@ -197,7 +197,7 @@ Any *new_any_root(const Identifier &identifier, int32_t length, const uint8_t *h
 }
 
 Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE()) {
-    record(ctx, here(line), code);
+    report(ctx, here(line), code);
     return failure;
 }
 

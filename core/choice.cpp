@@ -10,14 +10,14 @@ namespace {
 const ChoiceShape &choice_of(const Type &type) {
     return *static_cast<const ChoiceShape *>(type.shape);
 }
-const StringChoice &strings_of(const Type &type) {
-    return *static_cast<const StringChoice *>(type.shape);
+const StringChoiceShape &strings_of(const Type &type) {
+    return *static_cast<const StringChoiceShape *>(type.shape);
 }
 
 Site in(const ChoiceShape &shape, int32_t line = __builtin_LINE()) {
     return {shape.source, line};
 }
-Site in(const StringChoice &shape, int32_t line = __builtin_LINE()) {
+Site in(const StringChoiceShape &shape, int32_t line = __builtin_LINE()) {
     return {shape.source, line};
 }
 Site at(const ChoiceShape &shape, const Component &component) {
@@ -104,8 +104,8 @@ bool choice_begins(const Type &type, const Identifier &identifier) {
     return find(choice_of(type), identifier) != choice_of(type).count;
 }
 
-Result decode_begun_choice(Decoder &decoder, const Type &type, const Identifier &identifier, const Element &element,
-                           Value *&out) {
+Result decode_choice_behind(Decoder &decoder, const Type &type, const Identifier &identifier, const Element &element,
+                            Value *&out) {
     const ChoiceShape &shape = choice_of(type);
     const uint8_t number = find(shape, identifier);
     const Component &component = shape.alternatives[number];
@@ -119,7 +119,7 @@ Result decode_begun_choice(Decoder &decoder, const Type &type, const Identifier 
     } else {
         const Type &content = row_of(component);
         if (component.tag.tagging == Tagging::none) {
-            result = decode_begun(decoder, content, identifier, element, value);
+            result = decode_behind(decoder, content, identifier, element, value);
         } else {
             const Element untagged{element.form, element.length};
             result = content.operations->decode_content(decoder, content, untagged, value);
@@ -155,9 +155,9 @@ Result decode_choice(Decoder &decoder, const Type &type, Value *&out) {
         return result;
     if (!is_known)
         return decoder.fail(in(shape), code::incorrect_item);
-    if (!decoder.has_both_ends())
+    if (!decoder.has_source_and_place())
         return decoder.fail(in(shape), code::null_argument);
-    return decode_begun_choice(decoder, type, identifier, {identifier.form, length, start}, out);
+    return decode_choice_behind(decoder, type, identifier, {identifier.form, length, start}, out);
 }
 
 size_t choice_reserve(size_t octets) {
@@ -203,8 +203,8 @@ bool string_choice_begins(const Type &type, const Identifier &identifier) {
     return identifier.tag_class == Class::universal && allows(strings_of(type), identifier.tag);
 }
 
-Result decode_begun_string_choice(Decoder &decoder, const Type &type, const Identifier &identifier,
-                                  const Element &element, Value *&out) {
+Result decode_string_choice_behind(Decoder &decoder, const Type &type, const Identifier &identifier,
+                                   const Element &element, Value *&out) {
     const Site site = in(strings_of(type));
     const Type &octets = row(KOVRA_ASN1_TYPE_OCTET_STRING);
     Value *string = nullptr;
@@ -230,7 +230,7 @@ Result decode_string_choice(Decoder &decoder, const Type &type, Value *&out) {
         return fail_decode(decoder, in(strings_of(type)), type);
     if (const Result result = decode_length(decoder, in(strings_of(type)), length); result != success)
         return result;
-    return decode_begun_string_choice(decoder, type, identifier, {identifier.form, length, start}, out);
+    return decode_string_choice_behind(decoder, type, identifier, {identifier.form, length, start}, out);
 }
 
 } // namespace
@@ -244,7 +244,7 @@ constexpr Operations choice_operations = {
     .decode_content = refuse_decode_content,
     .decode = decode_choice,
     .begins = choice_begins,
-    .decode_begun = decode_begun_choice,
+    .decode_behind = decode_choice_behind,
     .records_reserve = choice_reserve,
 };
 
@@ -257,7 +257,7 @@ constexpr Operations string_choice_operations = {
     .decode_content = refuse_decode_content,
     .decode = decode_string_choice,
     .begins = string_choice_begins,
-    .decode_begun = decode_begun_string_choice,
+    .decode_behind = decode_string_choice_behind,
     .records_reserve = leaf_reserve<2 * (sizeof(TaggedString) + sizeof(String))>,
 };
 
@@ -309,7 +309,7 @@ int32_t alternative_number(const ChoiceShape &shape, const kovra_asn1_value *han
     return choice != nullptr ? static_cast<int32_t>(choice->alternative) : 0;
 }
 
-TaggedString *construct_string_choice(const StringChoice &shape, int32_t tag, const kovra_asn1_value *string) {
+TaggedString *construct_string_choice(const StringChoiceShape &shape, int32_t tag, const kovra_asn1_value *string) {
     if (!allows(shape, tag) || as<String>(string) == nullptr)
         return nullptr;
     Value *copy = copy_part(row(KOVRA_ASN1_TYPE_OCTET_STRING), static_cast<const Value *>(string));

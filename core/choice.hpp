@@ -38,16 +38,16 @@ Value *chosen_value(const ChoiceShape &shape, const kovra_asn1_value *handle);
 int32_t alternative_number(const ChoiceShape &shape, const kovra_asn1_value *handle);
 
 // Character string choices: the row of a TaggedString says which universal tags it may have.
-struct StringChoice {
+struct StringChoiceShape {
     const char *source;
     uint32_t tags; // a bit for each universal tag number
 };
 
-constexpr bool allows(const StringChoice &shape, int32_t tag) {
+constexpr bool allows(const StringChoiceShape &shape, int32_t tag) {
     return tag >= 0 && tag < 32 && (shape.tags >> tag & 1) != 0;
 }
 
 // A new string choice with a copy of an OCTET STRING's content; null when the tag is not allowed or it cannot be had.
-TaggedString *construct_string_choice(const StringChoice &shape, int32_t tag, const kovra_asn1_value *string);
+TaggedString *construct_string_choice(const StringChoiceShape &shape, int32_t tag, const kovra_asn1_value *string);
 
 } // namespace kovra::asn1

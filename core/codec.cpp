@@ -147,18 +147,18 @@ Value *convert_with(const Type &from, const Value *value, const Type &to, Stream
     if (streams == Streams::left)
         encoder.leave_streams();
     if (encode(encoder, from, const_cast<Value *>(value)) != success) {
-        record(ctx, here(), from.base);
+        report(ctx, here(), from.base);
         return nullptr;
     }
     if (encoder.size() > static_cast<size_t>(max_length)) {
-        record(ctx, here(), code::length_too_large);
+        report(ctx, here(), code::length_too_large);
         return nullptr;
     }
     Decoder decoder(encoder.data(), static_cast<uint32_t>(encoder.size()), ctx);
     decoder.place_streams(encoder.take_notes());
     Value *copy = nullptr;
     if (decode_root(decoder, to, copy) != success) {
-        record(ctx, here(), to.base + 1);
+        report(ctx, here(), to.base + 1);
         return nullptr;
     }
     if (copy == nullptr) // of a type without a record
@@ -169,7 +169,7 @@ Value *convert_with(const Type &from, const Value *value, const Type &to, Stream
     }
     if (decoder.position() != encoder.size()) {
         Arena::destroy(copy->arena);
-        record(ctx, here(), code::octets_left);
+        report(ctx, here(), code::octets_left);
         return nullptr;
     }
     return copy;
@@ -232,7 +232,7 @@ template <class Run> Result encode_call(kovra_stream *stream, int32_t *out_writt
 bool unsupported(uint32_t type, kovra_err_ctx *ctx) {
     if (type < type_count)
         return false;
-    record(ctx, here(), code::unsupported_type);
+    report(ctx, here(), code::unsupported_type);
     return true;
 }
 
@@ -259,7 +259,7 @@ void kovra_asn1_value_free(uint32_t type, kovra_asn1_value *value) noexcept {
     if (type >= type_count || !has_record || value == nullptr)
         return;
     auto *record = static_cast<Value *>(value);
-    const bool is_value = record->kind >= Kind::boolean && record->kind <= Kind::record;
+    const bool is_value = record->kind >= Kind::boolean && record->kind <= Kind::structure;
     if (is_value && record->arena->is_root(record) && !record->arena->is_owned())
         Arena::destroy(record->arena);
 }
@@ -316,11 +316,11 @@ int32_t kovra_asn1_decode_content(kovra_stream *stream, uint32_t type, kovra_asn
 }
 
 void kovra_asn1_encode_puterr(kovra_err_ctx *ctx, uint32_t type, const char *sourcefile, int32_t line) noexcept {
-    record(ctx, {sourcefile, line}, type < type_count ? row(type).base : code::unsupported_type);
+    report(ctx, {sourcefile, line}, type < type_count ? row(type).base : code::unsupported_type);
 }
 
 void kovra_asn1_decode_puterr(kovra_err_ctx *ctx, uint32_t type, const char *sourcefile, int32_t line) noexcept {
-    record(ctx, {sourcefile, line}, type < type_count ? row(type).base + 1 : code::unsupported_type);
+    report(ctx, {sourcefile, line}, type < type_count ? row(type).base + 1 : code::unsupported_type);
 }
 
 kovra_data_blob *kovra_asn1_mem_encode(uint32_t type, const kovra_asn1_value *value) noexcept {
@@ -345,7 +345,7 @@ int32_t kovra_asn1_mem_decode(const void *data, int32_t length, uint32_t type, k
 
 kovra_asn1_value *kovra_asn1_dupobject(uint32_t type, const kovra_asn1_value *value, kovra_err_ctx *ctx) noexcept {
     if (value == nullptr) {
-        record(ctx, here(), code::null_argument);
+        report(ctx, here(), code::null_argument);
         return nullptr;
     }
     if (unsupported(type, ctx)) {

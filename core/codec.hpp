@@ -29,8 +29,8 @@ inline Result decode(Decoder &decoder, const Type &type, Value *&out) {
     uint32_t length = 0;
     const uint32_t start = decoder.position();
     const Operations &operations = *type.operations;
-    if (operations.decode_entered != nullptr && decoder.enter(type.usual_identifier, length))
-        return operations.decode_entered(decoder, type, type.usual_element(length, start), out);
+    if (operations.decode_plain != nullptr && decoder.enter(type.usual_identifier, length))
+        return operations.decode_plain(decoder, type, type.usual_element(length, start), out);
     return operations.decode != nullptr ? operations.decode(decoder, type, out) : decode_generic(decoder, type, out);
 }
 inline bool begins(const Type &type, const Identifier &identifier) {
@@ -38,10 +38,10 @@ inline bool begins(const Type &type, const Identifier &identifier) {
         return type.operations->begins(type, identifier);
     return identifier.is(Class::universal, type.tag) && (type.form == Form::either || type.form == identifier.form);
 }
-inline Result decode_begun(Decoder &decoder, const Type &type, const Identifier &identifier, const Element &element,
-                           Value *&out) {
-    if (type.operations->decode_begun != nullptr)
-        return type.operations->decode_begun(decoder, type, identifier, element, out);
+inline Result decode_behind(Decoder &decoder, const Type &type, const Identifier &identifier, const Element &element,
+                            Value *&out) {
+    if (type.operations->decode_behind != nullptr)
+        return type.operations->decode_behind(decoder, type, identifier, element, out);
     return type.operations->decode_content(decoder, type, element, out);
 }
 
@@ -66,14 +66,14 @@ inline Result fail_decode(Decoder &decoder, Site site, const Type &type, Result 
 }
 
 // The first checks of every content decoder.
-inline Result enter(Decoder &decoder, Site site) {
-    if (!decoder.has_both_ends())
+inline Result check_source_and_place(Decoder &decoder, Site site) {
+    if (!decoder.has_source_and_place())
         return decoder.fail(site, code::null_argument);
     return success;
 }
 // And of those whose content is primitive and definite.
-inline Result enter_primitive(Decoder &decoder, Site site, const Element &element) {
-    if (const Result result = enter(decoder, site); result != success)
+inline Result check_primitive(Decoder &decoder, Site site, const Element &element) {
+    if (const Result result = check_source_and_place(decoder, site); result != success)
         return result;
     if (element.form == Form::constructed)
         return decoder.fail(site, code::form_error);

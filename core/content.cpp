@@ -99,7 +99,7 @@ Result read_piece(Content &content, const Arena &arena, Site site, int32_t mode,
     if (out_count != nullptr)
         *out_count = 0;
     const auto refuse = [&](int32_t code) {
-        record(ctx, site, code);
+        report(ctx, site, code);
         return failure;
     };
     if (size < 0)
@@ -127,8 +127,8 @@ Result decode_from(Content &content, const Arena &arena, Site site, uint32_t num
     *out_value = nullptr;
     if (number >= type_count) {
         // Once for the decoding, once as the entry that is added to a failed one.
-        record(ctx, {"ASN1", __LINE__}, code::unsupported_type);
-        record(ctx, site, code::unsupported_type);
+        report(ctx, {"ASN1", __LINE__}, code::unsupported_type);
+        report(ctx, site, code::unsupported_type);
         return failure;
     }
     const Type &type = row(number);
@@ -138,13 +138,13 @@ Result decode_from(Content &content, const Arena &arena, Site site, uint32_t num
     };
     const auto finish = [&](Result result, bool all_consumed, Value *value) {
         if (result != success) {
-            record(ctx, site, type.base + 1);
+            report(ctx, site, type.base + 1);
             return result;
         }
         if (!all_consumed) {
             if (value != nullptr)
                 Arena::destroy(value->arena);
-            record(ctx, site, code::octets_left);
+            report(ctx, site, code::octets_left);
             return failure;
         }
         *out_value = value;
@@ -157,7 +157,7 @@ Result decode_from(Content &content, const Arena &arena, Site site, uint32_t num
         return finish(result, decoder.position() == content.octets.length, value);
     }
     if (kovra_stream_ctrl(content.stream, KOVRA_STREAM_REWIND, 0, nullptr) != success) {
-        record(ctx, site, code::stream_control);
+        report(ctx, site, code::stream_control);
         return failure;
     }
     Decoder decoder(content.stream, ctx);

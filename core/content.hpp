@@ -66,7 +66,7 @@ template <class T> T *holder_of(kovra_asn1_value *value, kovra_asn1_value **out_
         *out_value = nullptr;
     if (holder != nullptr && out_value != nullptr)
         return holder;
-    record(ctx, site, fault_of(value, out_value));
+    report(ctx, site, fault_of(value, out_value));
     return nullptr;
 }
 
@@ -106,7 +106,7 @@ public:
     // Copies `count` octets to a stream (null: drops them).
     Result copy(Site site, uint32_t count, kovra_stream *destination);
     Result fail(Site site, int32_t code, Result result = failure) const {
-        record(ctx_, site, code);
+        report(ctx_, site, code);
         return result;
     }
     [[nodiscard]] int64_t position() const { return count_; }

@@ -21,7 +21,7 @@ constexpr size_t most_records = threshold<size_t>(too_large, 16);
 } // namespace
 
 Decoder::Decoder(kovra_stream *stream, kovra_err_ctx *ctx)
-    : ctx_(ctx), no_stream_(stream == nullptr), has_both_ends_(stream != nullptr) {
+    : ctx_(ctx), no_stream_(stream == nullptr), has_source_and_place_(stream != nullptr) {
     int64_t length = 0;
     if (stream == nullptr)
         return;
@@ -61,7 +61,7 @@ bool Decoder::pull(uint32_t count) {
             Arena::Block *block =
                 pulled_ == nullptr ? Arena::new_block(capacity) : Arena::resize_block(pulled_, capacity);
             if (block == nullptr) {
-                record(ctx_, here(), code::no_memory);
+                report(ctx_, here(), code::no_memory);
                 stream_result_ = failure;
                 stream_ = nullptr;
                 return false;

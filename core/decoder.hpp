@@ -148,18 +148,18 @@ public:
     [[nodiscard]] Octets octets_from(uint32_t offset) const { return {nullptr, offset, position_ - offset}; }
 
     Result fail(Site site, int32_t code, Result result = failure) const {
-        record(ctx_, site, code);
+        report(ctx_, site, code);
         return result;
     }
     // Adds an entry that succeeds: the decode goes on.
-    void warn(Site site, int32_t code) const { record(ctx_, site, code); }
+    void warn(Site site, int32_t code) const { report(ctx_, site, code); }
 
     // Primitive content of at least one octet that is all there goes into a new record, made in the room that the
     // arena has left; null, and nothing done, when it is anything else. A content decoder that tries this first does
     // the usual in a few instructions, and everything else, and all that can go wrong, behind it.
     template <class T> T *take(const Element &element, Octets &octets) {
         const auto length = static_cast<uint32_t>(element.length);
-        if (element.form != Form::primitive || length - 1 >= reach() || !has_both_ends_)
+        if (element.form != Form::primitive || length - 1 >= reach() || !has_source_and_place_)
             return nullptr;
         auto *record = static_cast<T *>(arena_->allocate_in_place(sizeof(T)));
         if (record == nullptr)
@@ -173,8 +173,8 @@ public:
     }
 
     // A content decoder's first look: are there a stream and a place for the value?
-    [[nodiscard]] bool has_both_ends() const { return has_both_ends_; }
-    void lack_place() { has_both_ends_ = false; }
+    [[nodiscard]] bool has_source_and_place() const { return has_source_and_place_; }
+    void lack_place() { has_source_and_place_ = false; }
 
     // Values are only being checked: nobody will see them.
     [[nodiscard]] bool checking() const { return checking_; }
@@ -243,7 +243,7 @@ private:
     StreamContent *notes_ = nullptr;
     Result stream_result_ = success; // of the stream's last failed read
     bool no_stream_ = false;
-    bool has_both_ends_ = true;
+    bool has_source_and_place_ = true;
     bool checking_ = false;
 };
 

@@ -28,7 +28,7 @@ public:
     [[nodiscard]] kovra_err_ctx *ctx() const { return ctx_; }
     [[nodiscard]] bool has_stream() const { return !no_stream_; }
     Result fail(Site site, int32_t code, Result result = failure) const {
-        record(ctx_, site, code);
+        report(ctx_, site, code);
         return result;
     }
 

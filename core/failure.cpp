@@ -4,7 +4,7 @@
 
 namespace kovra::asn1 {
 
-void record(kovra_err_ctx *ctx, Site site, int32_t code) {
+void report(kovra_err_ctx *ctx, Site site, int32_t code) {
     if (ctx == nullptr)
         return;
     const char *text = message(code);
@@ -15,7 +15,7 @@ void record(kovra_err_ctx *ctx, Site site, int32_t code) {
     kovra_err_ctx_put(ctx, site.source, site.line, code, text);
 }
 
-void record_general(kovra_err_ctx *ctx, Site site, int32_t code) {
+void report_general(kovra_err_ctx *ctx, Site site, int32_t code) {
     kovra_err_ctx_put(ctx, site.source, site.line, code, kovra_igetGeneralError(code));
 }
 

@@ -20,9 +20,9 @@ struct Site {
 };
 
 // Records a code with the text that belongs to it: the codec's, or the companion's for general and stream codes.
-[[gnu::cold]] void record(kovra_err_ctx *ctx, Site site, int32_t code);
+[[gnu::cold]] void report(kovra_err_ctx *ctx, Site site, int32_t code);
 
 // Records a code with the text that the companion's general lookup gives for it, whatever the code.
-[[gnu::cold]] void record_general(kovra_err_ctx *ctx, Site site, int32_t code);
+[[gnu::cold]] void report_general(kovra_err_ctx *ctx, Site site, int32_t code);
 
 } // namespace kovra::asn1

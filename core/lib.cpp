@@ -21,7 +21,7 @@ Result write_all(kovra_stream *stream, const uint8_t *octets, int32_t count, int
 }
 
 Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE()) {
-    record(ctx, lib(line), code);
+    report(ctx, lib(line), code);
     return failure;
 }
 

@@ -80,7 +80,7 @@ template <class Visit> Result for_each(List &list, kovra_err_ctx *ctx, Visit vis
             Decoder decoder(*list.arena, list.places[i]);
             const Decoder::Scratch scratch(decoder, false);
             if (!scratch.has_begun() || decode(decoder, *list.element, element) != success) {
-                record(ctx, here(), code::no_memory);
+                report(ctx, here(), code::no_memory);
                 return failure;
             }
             if (const Result result = visit(element); result != success)
@@ -321,7 +321,7 @@ Next read_element(Decoder &decoder, const ListShape &shape, bool is_indefinite, 
         return fault(decoder.fail(in(shape), code::incorrect_item));
     if (const Result read = decode_length(decoder, in(shape), length); read != success)
         return fault(read);
-    const Result decoded = decode_begun(decoder, element, identifier, {identifier.form, length, start}, out);
+    const Result decoded = decode_behind(decoder, element, identifier, {identifier.form, length, start}, out);
     if (decoded == success)
         return Next::element;
     if (shape.reading == ListReading::tagged)
@@ -332,7 +332,7 @@ Next read_element(Decoder &decoder, const ListShape &shape, bool is_indefinite, 
 Result decode_list(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     const ListShape &shape = shape_of(type);
     const Type &member = row(shape.element);
-    if (const Result result = enter(decoder, in(shape)); result != success)
+    if (const Result result = check_source_and_place(decoder, in(shape)); result != success)
         return result;
     if (element.form == Form::primitive)
         return decoder.fail(in(shape), code::form_error);
@@ -343,7 +343,7 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
     // Elements that begin with nothing but their own identifier are entered at once, which goes for whole lists mostly.
     const Operations &operations = *member.operations;
     const bool is_plain =
-        shape.reading != ListReading::whole && operations.begins == nullptr && operations.decode_begun == nullptr;
+        shape.reading != ListReading::whole && operations.begins == nullptr && operations.decode_behind == nullptr;
     Collector collector(decoder);
     while (is_plain && decoder.position() != end && !collector.is_full()) {
         const uint32_t start = decoder.position();
@@ -383,7 +383,7 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
 
 // Lists of open-type values have codes of their own for what goes wrong.
 Result decode_any_list(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
-    if (const Result result = enter(decoder, here()); result != success)
+    if (const Result result = check_source_and_place(decoder, here()); result != success)
         return result;
     if (element.form == Form::primitive)
         return decoder.fail(here(), code::form_error);
@@ -435,7 +435,7 @@ constexpr Operations list_operations = {
     .content_length = list_content_length,
     .encode_content = encode_list_content,
     .decode_content = decode_list,
-    .decode_entered = decode_list,
+    .decode_plain = decode_list,
     .records_reserve = list_reserve,
 };
 
@@ -444,7 +444,7 @@ constexpr Operations any_list_operations = {
     .content_length = list_content_length,
     .encode_content = encode_any_list_content,
     .decode_content = decode_any_list,
-    .decode_entered = decode_any_list,
+    .decode_plain = decode_any_list,
     .records_reserve = list_reserve,
 };
 
@@ -560,7 +560,7 @@ void kovra_asn1_list_free(kovra_asn1_value *list, uint32_t type) noexcept {
 int32_t kovra_asn1_list_put(kovra_asn1_value *list, kovra_asn1_value *element) noexcept {
     auto *record = as<List>(list);
     auto *value = static_cast<Value *>(element);
-    if (record == nullptr || value == nullptr || value->kind < Kind::boolean || value->kind > Kind::record)
+    if (record == nullptr || value == nullptr || value->kind < Kind::boolean || value->kind > Kind::structure)
         return 0;
     return list_append(*record, value) ? 1 : 0;
 }

@@ -33,16 +33,16 @@ consteval uint8_t slot_of(const Component (&components)[count], const char (&nam
     return slot_of(components, count, Name<size>(name));
 }
 
-template <const Structure &shape, Name name>
+template <const StructureShape &shape, Name name>
 inline constexpr uint8_t slot = slot_of(shape.components, shape.count, name);
 template <const ChoiceShape &shape, Name name>
 inline constexpr uint8_t alternative_named = slot_of(shape.alternatives, shape.count, name);
 
 // The component of a value, borrowed; null when it is absent, or the handle is of another structure.
-template <const Structure &shape, Name name> Value *part(const kovra_asn1_value *obj) {
+template <const StructureShape &shape, Name name> Value *part(const kovra_asn1_value *obj) {
     return component(shape, obj, slot<shape, name>);
 }
-template <const Structure &shape, Name name> int32_t has_part(const kovra_asn1_value *obj) {
+template <const StructureShape &shape, Name name> int32_t has_part(const kovra_asn1_value *obj) {
     return part<shape, name>(obj) != nullptr ? 1 : 0;
 }
 // The value of a choice, borrowed, when it holds this alternative; else null.
@@ -51,7 +51,7 @@ template <const ChoiceShape &shape, Name name> Value *chosen(const kovra_asn1_va
 }
 
 // A new value with copies of one argument for each component, in order.
-template <const Structure &shape, class... Arguments> Record *construct(Arguments... arguments) {
+template <const StructureShape &shape, class... Arguments> Structure *construct(Arguments... arguments) {
     static_assert(sizeof...(arguments) == shape.count, "one argument for each component");
     return construct(shape, arguments...);
 }

@@ -11,8 +11,8 @@ namespace kovra::asn1 {
 
 namespace {
 
-const Structure &shape_of(const Type &type) {
-    return *static_cast<const Structure *>(type.shape);
+const StructureShape &shape_of(const Type &type) {
+    return *static_cast<const StructureShape *>(type.shape);
 }
 
 bool is_end_of_contents(const Value *value) {
@@ -20,10 +20,10 @@ bool is_end_of_contents(const Value *value) {
 }
 
 // Entries name the module of the structure and the line of the component's row.
-Site at(const Structure &shape, const Component &component) {
+Site at(const StructureShape &shape, const Component &component) {
     return {shape.source, component.line};
 }
-Site in(const Structure &shape, int32_t line = __builtin_LINE()) {
+Site in(const StructureShape &shape, int32_t line = __builtin_LINE()) {
     return {shape.source, line};
 }
 
@@ -34,17 +34,18 @@ bool is_written(const Component &component, const Value *value) {
            !component.fallback->is(*value);
 }
 
-Octets *kept_of(Record &record) {
+Octets *kept_of(Structure &record) {
     return reinterpret_cast<Octets *>(record.slots + record.shape->count);
 }
 
 // The slots are the caller's to fill.
-Record *new_record_of(Arena &arena, const Structure &shape) {
-    const size_t size = sizeof(Record) - sizeof(Record::slots) + shape.count * sizeof(Value *) + 2 * sizeof(Octets);
-    auto *record = static_cast<Record *>(arena.allocate(size));
+Structure *new_record_of(Arena &arena, const StructureShape &shape) {
+    const size_t size =
+        sizeof(Structure) - sizeof(Structure::slots) + shape.count * sizeof(Value *) + 2 * sizeof(Octets);
+    auto *record = static_cast<Structure *>(arena.allocate(size));
     if (record == nullptr)
         return nullptr;
-    record->kind = Kind::record;
+    record->kind = Kind::structure;
     record->measured = 0;
     record->arena = &arena;
     record->shape = &shape;
@@ -66,7 +67,7 @@ Result keep(Encoder &encoder, Site site, int64_t begin, Arena &arena, Octets &ou
     return success;
 }
 
-int32_t measure(const Structure &shape, Record &record) {
+int32_t measure(const StructureShape &shape, Structure &record) {
     int64_t total = 0;
     record.measured = unknown;
     if (shape.content != nullptr)
@@ -92,7 +93,7 @@ int32_t measure(const Structure &shape, Record &record) {
 
 // The signed component is written as it was read, or as it is written this first time: with the lengths that were
 // measured for what holds it.
-Result encode_signed(Encoder &encoder, Site site, const Component &component, Record &record, uint8_t slot,
+Result encode_signed(Encoder &encoder, Site site, const Component &component, Structure &record, uint8_t slot,
                      Measure measure) {
     Octets &kept = kept_of(record)[1];
     if (is_kept(kept))
@@ -112,16 +113,16 @@ Result encode_signed(Encoder &encoder, Site site, const Component &component, Re
 }
 
 int32_t structure_content_length(const Type &type, Value *value, Measure known) {
-    const Structure &shape = shape_of(type);
-    auto *record = static_cast<Record *>(value);
+    const StructureShape &shape = shape_of(type);
+    auto *record = static_cast<Structure *>(value);
     if (record == nullptr || (shape.refuses_length && !shape.allows(*record)))
         return unknown;
     return known == Measure::known ? record->measured : measure(shape, *record);
 }
 
 Result encode_structure_content(Encoder &encoder, const Type &type, Value *value, int32_t length) {
-    const Structure &shape = shape_of(type);
-    auto *record = static_cast<Record *>(value);
+    const StructureShape &shape = shape_of(type);
+    auto *record = static_cast<Structure *>(value);
     if (!encoder.has_stream() || record == nullptr)
         return encoder.fail(in(shape), code::null_argument);
     if (length < indefinite)
@@ -151,14 +152,14 @@ Result encode_structure_content(Encoder &encoder, const Type &type, Value *value
 
 // A record of another structure is refused for its first part, which is none of this one's.
 Result refuse_other_content(Encoder &encoder, const Type &type, const Value &value) {
-    const Structure &shape = shape_of(type);
+    const StructureShape &shape = shape_of(type);
     const Component &first = shape.components[0];
-    const Value *part = value.kind == Kind::record ? static_cast<const Record &>(value).slots[0] : &value;
+    const Value *part = value.kind == Kind::structure ? static_cast<const Structure &>(value).slots[0] : &value;
     return fail_encode(encoder, at(shape, first), first, refuse_value(encoder, part));
 }
 
 int32_t kept_length(const Type &type, Value *value, Measure known) {
-    auto *record = static_cast<Record *>(value);
+    auto *record = static_cast<Structure *>(value);
     const int32_t content = structure_content_length(type, value, Measure::known);
     if (record != nullptr && is_kept(*kept_of(*record)) && !(content == unknown && shape_of(type).refuses_length))
         return static_cast<int32_t>(kept_of(*record)->length);
@@ -166,8 +167,8 @@ int32_t kept_length(const Type &type, Value *value, Measure known) {
 }
 
 Result encode_kept(Encoder &encoder, const Type &type, Value *value) {
-    const Structure &shape = shape_of(type);
-    auto *record = static_cast<Record *>(value);
+    const StructureShape &shape = shape_of(type);
+    auto *record = static_cast<Structure *>(value);
     if (!encoder.has_stream() || record == nullptr)
         return encoder.fail(in(shape), code::null_argument);
     if (shape.allows != nullptr && !shape.allows(*record))
@@ -198,7 +199,7 @@ Result encode_kept(Encoder &encoder, const Type &type, Value *value) {
 // One walk through the components of a structure.
 class Reader {
 public:
-    Reader(Decoder &decoder, const Structure &shape, const Element &element, Record &record)
+    Reader(Decoder &decoder, const StructureShape &shape, const Element &element, Structure &record)
         : decoder_(decoder), shape_(shape), record_(record),
           end_(element.length == indefinite ? no_end : decoder.position() + static_cast<uint32_t>(element.length)) {}
 
@@ -227,9 +228,9 @@ public:
                 result = state_ == State::ended ? leave_absent(*component, *slot) : read_tested(*component, *slot);
             } else if (start == end && component >= required_end) {
                 result = leave_absent(*component, *slot);
-            } else if (component->tag.tagging == Tagging::none && operations.decode_entered != nullptr &&
+            } else if (component->tag.tagging == Tagging::none && operations.decode_plain != nullptr &&
                        decoder.enter(type.usual_identifier, length)) {
-                const auto decode_here = (whole & 1) != 0 ? operations.decode_entered : operations.decode_content;
+                const auto decode_here = (whole & 1) != 0 ? operations.decode_plain : operations.decode_content;
                 result = decode_here(decoder, type, type.usual_element(length, start), *slot);
                 if (result != success)
                     return fail_decode(decoder, at(shape_, *component), *component, result);
@@ -332,7 +333,7 @@ private:
         const Type &type = row_of(component);
         const bool is_own = component.tag.tagging == Tagging::none;
         const Element element{identifier_.form, length, is_own ? identifier_start_ : Element::no_start};
-        const Result result = is_own ? decode_begun(decoder_, type, identifier_, element, place)
+        const Result result = is_own ? decode_behind(decoder_, type, identifier_, element, place)
                                      : type.operations->decode_content(decoder_, type, element, place);
         return result == success ? success : fail_decode(decoder_, at(shape_, component), component, result);
     }
@@ -375,8 +376,8 @@ private:
     }
 
     Decoder &decoder_;
-    const Structure &shape_;
-    Record &record_;
+    const StructureShape &shape_;
+    Structure &record_;
     const uint32_t end_; // position behind the last component; no_end: end-of-contents octets stand there
     Identifier identifier_;
     uint32_t identifier_start_ = 0;
@@ -390,14 +391,14 @@ enum class Keep : uint8_t {
 };
 
 template <Keep keep> Result decode_content_of(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
-    const Structure &shape = shape_of(type);
-    if (const Result result = enter(decoder, in(shape)); result != success)
+    const StructureShape &shape = shape_of(type);
+    if (const Result result = check_source_and_place(decoder, in(shape)); result != success)
         return result;
     if (element.form == Form::primitive)
         return decoder.fail(in(shape), code::form_error);
     if (element.length < indefinite)
         return decoder.fail(in(shape), code::bad_argument);
-    Record *record = new_record_of(decoder.arena(), *shape.shape());
+    Structure *record = new_record_of(decoder.arena(), *shape.record_shape());
     if (record == nullptr)
         return decoder.fail(in(shape), code::no_memory);
     record->slots[0] = nullptr;
@@ -419,7 +420,7 @@ constexpr auto decode_structure_content = decode_content_of<Keep::nothing>;
 constexpr auto decode_kept_content = decode_content_of<Keep::encoding>;
 
 // One of definite length ends where it says: its components do not reach beyond.
-Result decode_kept_entered(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
+Result decode_kept_plain(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     const Decoder::Window window(decoder, decoder.position() + static_cast<uint32_t>(element.length));
     const Result result = decode_kept_content(decoder, type, element, out);
     ensure(result != success || window.is_used_up());
@@ -427,8 +428,8 @@ Result decode_kept_entered(Decoder &decoder, const Type &type, const Element &el
 }
 
 Result decode_kept(Decoder &decoder, const Type &type, Value *&out) {
-    const Structure &shape = shape_of(type);
-    if (const Result result = enter(decoder, in(shape)); result != success)
+    const StructureShape &shape = shape_of(type);
+    if (const Result result = check_source_and_place(decoder, in(shape)); result != success)
         return result;
     Extent extent;
     if (const Result result = walk_element(decoder, extent); result != success)
@@ -445,7 +446,8 @@ Result decode_kept(Decoder &decoder, const Type &type, Value *&out) {
 }
 
 bool holds_structure(const Type &type, const Value &value) {
-    return value.kind == Kind::record && static_cast<const Record &>(value).shape == shape_of(type).shape();
+    return value.kind == Kind::structure &&
+           static_cast<const Structure &>(value).shape == shape_of(type).record_shape();
 }
 
 size_t structure_reserve(size_t octets) {
@@ -459,7 +461,7 @@ constexpr Operations structure_operations = {
     .content_length = structure_content_length,
     .encode_content = encode_structure_content,
     .decode_content = decode_structure_content,
-    .decode_entered = decode_structure_content,
+    .decode_plain = decode_structure_content,
     .refuse_content = refuse_other_content,
     .records_reserve = structure_reserve,
 };
@@ -472,24 +474,24 @@ constexpr Operations kept_structure_operations = {
     .encode = encode_kept,
     .decode_content = decode_kept_content,
     .decode = decode_kept,
-    .decode_entered = decode_kept_entered,
+    .decode_plain = decode_kept_plain,
     .refuse_content = refuse_other_content,
     .records_reserve = structure_reserve,
 };
 
-Record *new_structure(Arena &arena, const Structure &shape) {
-    Record *record = new_record_of(arena, *shape.shape());
+Structure *new_structure(Arena &arena, const StructureShape &shape) {
+    Structure *record = new_record_of(arena, *shape.record_shape());
     if (record != nullptr)
         std::fill_n(record->slots, record->shape->count, nullptr);
     return record;
 }
 
-Record *new_structure(const Structure &shape) {
-    const Structure &own = *shape.shape();
-    Arena *arena = Arena::create(sizeof(Record) + own.count * sizeof(Value *) + 2 * sizeof(Octets));
+Structure *new_structure(const StructureShape &shape) {
+    const StructureShape &own = *shape.record_shape();
+    Arena *arena = Arena::create(sizeof(Structure) + own.count * sizeof(Value *) + 2 * sizeof(Octets));
     if (arena == nullptr)
         return nullptr;
-    Record *record = new_structure(*arena, own);
+    Structure *record = new_structure(*arena, own);
     if (record == nullptr)
         Arena::destroy(arena);
     else
@@ -497,14 +499,14 @@ Record *new_structure(const Structure &shape) {
     return record;
 }
 
-bool store(Record &record, uint8_t slot, Value *value) {
+bool store(Structure &record, uint8_t slot, Value *value) {
     if (value == nullptr || !record.arena->adopt(value))
         return false;
     record.slots[slot] = value;
     return true;
 }
 
-bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value) {
+bool store_copy(Structure &record, uint8_t slot, const kovra_asn1_value *value) {
     const Component &component = record.shape->components[slot];
     if (value == nullptr) {
         if (component.presence != Presence::defaulted)
@@ -518,22 +520,22 @@ bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value) {
     return store(record, slot, copy);
 }
 
-Record *as_record(const Structure &shape, const kovra_asn1_value *handle) {
-    auto *record = as<Record>(const_cast<kovra_asn1_value *>(handle));
-    return record != nullptr && record->shape == shape.shape() ? record : nullptr;
+Structure *as_structure(const StructureShape &shape, const kovra_asn1_value *handle) {
+    auto *record = as<Structure>(const_cast<kovra_asn1_value *>(handle));
+    return record != nullptr && record->shape == shape.record_shape() ? record : nullptr;
 }
 
-Value *component(const Structure &shape, const kovra_asn1_value *handle, uint8_t slot) {
-    const Record *record = as_record(shape, handle);
+Value *component(const StructureShape &shape, const kovra_asn1_value *handle, uint8_t slot) {
+    const Structure *record = as_structure(shape, handle);
     return record != nullptr ? record->slots[slot] : nullptr;
 }
 
-void drop_kept_encoding(Record &record) {
+void drop_kept_encoding(Structure &record) {
     kept_of(record)[0] = {};
 }
 
-Result signed_octets(Record &record, const uint8_t *&out, uint32_t &out_length) {
-    const Structure &shape = *record.shape;
+Result signed_octets(Structure &record, const uint8_t *&out, uint32_t &out_length) {
+    const StructureShape &shape = *record.shape;
     Octets &kept = kept_of(record)[1];
     if (!is_kept(kept)) {
         Encoder encoder(static_cast<kovra_err_ctx *>(nullptr));

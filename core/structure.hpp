@@ -15,7 +15,7 @@ namespace kovra::asn1 {
 
 inline constexpr uint8_t no_slot = 0xFF;
 
-struct Structure {
+struct StructureShape {
     const char *source; // module that the entries of failures name
     const Component *components;
     uint8_t count;
@@ -24,9 +24,9 @@ struct Structure {
     uint8_t required_end = 0; // behind the last required component
     uint32_t read_whole = 0;  // a bit for each component that is decoded without a look at its identifier first
     // The structure whose records these are, when this one only restricts it; null: its own.
-    const Structure *record = nullptr;
+    const StructureShape *records_of = nullptr;
     // A record that is not allowed is refused in both directions with `refusal`; null: all are allowed.
-    bool (*allows)(const Record &) = nullptr;
+    bool (*allows)(const Structure &) = nullptr;
     int32_t refusal = 0;
     bool refuses_length = false; // and has no content length either
     // What stands behind the last component in the indefinite form is read as an identifier first: an element there is
@@ -35,14 +35,16 @@ struct Structure {
     // The only component is a list whose content is the structure's own; null: the components stand one after another.
     const Type *content = nullptr;
 
-    [[nodiscard]] constexpr const Structure *shape() const { return record != nullptr ? record : this; }
+    [[nodiscard]] constexpr const StructureShape *record_shape() const {
+        return records_of != nullptr ? records_of : this;
+    }
 };
 
 // What all declarations of structures begin with.
-template <size_t count> constexpr Structure tabulate(const char *source, const Component (&components)[count]) {
+template <size_t count> constexpr StructureShape tabulate(const char *source, const Component (&components)[count]) {
     static_assert(count <= 32);
     expect_sound(components, count, false);
-    Structure made{source, components, count};
+    StructureShape made{source, components, count};
     for (uint32_t i = 0; i < count; ++i) {
         const bool is_required = components[i].presence == Presence::required;
         if (is_required)
@@ -56,29 +58,29 @@ template <size_t count> constexpr Structure tabulate(const char *source, const C
     return made;
 }
 // A structure that is nothing but its components. A table that contradicts itself does not compile.
-template <size_t count> consteval Structure structure(const char *source, const Component (&components)[count]) {
+template <size_t count> consteval StructureShape structure(const char *source, const Component (&components)[count]) {
     return tabulate(source, components);
 }
 // A structure that tells an element behind its last component from a broken end.
 template <size_t count>
-consteval Structure structure_with_tested_end(const char *source, const Component (&components)[count]) {
-    Structure made = tabulate(source, components);
+consteval StructureShape structure_with_tested_end(const char *source, const Component (&components)[count]) {
+    StructureShape made = tabulate(source, components);
     made.tests_end = true;
     return made;
 }
 // A list that keeps its encoding, which lists by themselves do not.
 template <size_t count>
-consteval Structure list_structure(const char *source, const Component (&components)[count], const Type &content) {
+consteval StructureShape list_structure(const char *source, const Component (&components)[count], const Type &content) {
     static_assert(count == 1);
-    Structure made = tabulate(source, components);
+    StructureShape made = tabulate(source, components);
     made.content = &content;
     return made;
 }
 // The records of another structure, of which only some are allowed.
-consteval Structure restricted(const Structure &base, bool (*allows)(const Record &), int32_t refusal,
-                               bool refuses_length) {
-    Structure made = base;
-    made.record = &base;
+consteval StructureShape restricted(const StructureShape &base, bool (*allows)(const Structure &), int32_t refusal,
+                                    bool refuses_length) {
+    StructureShape made = base;
+    made.records_of = &base;
     made.allows = allows;
     made.refusal = refusal;
     made.refuses_length = refuses_length;
@@ -86,40 +88,41 @@ consteval Structure restricted(const Structure &base, bool (*allows)(const Recor
 }
 // A structure whose records are those of another: the components are the same under names of its own.
 template <size_t count>
-consteval Structure alike(const char *source, const Component (&components)[count], const Structure &base) {
-    Structure made = tabulate(source, components);
-    made.record = &base;
+consteval StructureShape alike(const char *source, const Component (&components)[count], const StructureShape &base) {
+    StructureShape made = tabulate(source, components);
+    made.records_of = &base;
     return made;
 }
 // A structure of which only some records are allowed.
-consteval Structure checked(const Structure &base, bool (*allows)(const Record &), int32_t refusal) {
-    Structure made = base;
+consteval StructureShape checked(const StructureShape &base, bool (*allows)(const Structure &), int32_t refusal) {
+    StructureShape made = base;
     made.allows = allows;
     made.refusal = refusal;
     return made;
 }
 // A structure that is signed: its first component is what the signature covers.
-template <size_t count> consteval Structure signed_structure(const char *source, const Component (&components)[count]) {
-    Structure made = tabulate(source, components);
+template <size_t count>
+consteval StructureShape signed_structure(const char *source, const Component (&components)[count]) {
+    StructureShape made = tabulate(source, components);
     made.signed_slot = 0;
     return made;
 }
 
 // A new, empty record in an arena of its own; null when memory is short.
-Record *new_structure(const Structure &shape);
+Structure *new_structure(const StructureShape &shape);
 // The same in an arena that is there.
-Record *new_structure(Arena &arena, const Structure &shape);
+Structure *new_structure(Arena &arena, const StructureShape &shape);
 // Stores an independent copy of `value`, as a value of the type that the component is copied as, in a slot; an absent
 // value leaves an optional slot empty and fills a defaulted one. False when a required value is absent or something
 // cannot be copied.
-bool store_copy(Record &record, uint8_t slot, const kovra_asn1_value *value);
+bool store_copy(Structure &record, uint8_t slot, const kovra_asn1_value *value);
 // Stores a value that is the root of its own arena, and takes it over. False when that cannot be; null is refused.
-bool store(Record &record, uint8_t slot, Value *value);
+bool store(Structure &record, uint8_t slot, Value *value);
 
 // A new record with copies of one argument for each component, in order; null when one cannot be had, or the record is
 // not allowed.
-template <class... Arguments> Record *construct(const Structure &shape, Arguments... arguments) {
-    Record *record = new_structure(shape);
+template <class... Arguments> Structure *construct(const StructureShape &shape, Arguments... arguments) {
+    Structure *record = new_structure(shape);
     if (record == nullptr)
         return nullptr;
     uint8_t slot = 0;
@@ -131,18 +134,18 @@ template <class... Arguments> Record *construct(const Structure &shape, Argument
 }
 
 // The record behind a handle, if it is one of this structure.
-Record *as_record(const Structure &shape, const kovra_asn1_value *handle);
+Structure *as_structure(const StructureShape &shape, const kovra_asn1_value *handle);
 // The value in a slot, borrowed; null when it is absent, or the handle is not of this structure.
-Value *component(const Structure &shape, const kovra_asn1_value *handle, uint8_t slot);
+Value *component(const StructureShape &shape, const kovra_asn1_value *handle, uint8_t slot);
 
 // Are there octets that a record keeps?
 inline bool is_kept(const Octets &octets) {
     return octets.length != 0;
 }
 // Drops what is kept of the whole record, so that the next encoding is made from the fields.
-void drop_kept_encoding(Record &record);
+void drop_kept_encoding(Structure &record);
 
 // The octets of the signed component, encoded now if none are kept; 1 and the octets, or a failure.
-Result signed_octets(Record &record, const uint8_t *&out, uint32_t &out_length);
+Result signed_octets(Structure &record, const uint8_t *&out, uint32_t &out_length);
 
 } // namespace kovra::asn1

@@ -33,11 +33,11 @@ struct Operations {
     Result (*decode)(Decoder &, const Type &, Value *&out) = nullptr;
     // Reads the content behind the row's own identifier and a definite length whose octets are all there, with what
     // `decode` does besides. Null: there is no such shorter way, as for types with `begins`.
-    Result (*decode_entered)(Decoder &, const Type &, const Element &, Value *&out) = nullptr;
+    Result (*decode_plain)(Decoder &, const Type &, const Element &, Value *&out) = nullptr;
     // Can a value begin with this identifier? Null: it must be the row's.
     bool (*begins)(const Type &, const Identifier &) = nullptr;
     // Reads the content behind an identifier that the value can begin with. Null: `decode_content`.
-    Result (*decode_begun)(Decoder &, const Type &, const Identifier &, const Element &, Value *&out) = nullptr;
+    Result (*decode_behind)(Decoder &, const Type &, const Identifier &, const Element &, Value *&out) = nullptr;
     // Says why the content of a value that the type does not hold is not written. Null: it is a bad argument.
     Result (*refuse_content)(Encoder &, const Type &, const Value &) = nullptr;
     // Whole values are refused in both directions, whatever they are.

@@ -12,7 +12,7 @@
 namespace kovra::asn1 {
 
 struct ChoiceShape;
-struct Structure;
+struct StructureShape;
 struct TimeFields;
 struct Type;
 
@@ -29,7 +29,7 @@ enum class Kind : uint32_t {
     list,
     tagged_string,
     choice,
-    record,
+    structure,
 };
 
 struct Value {
@@ -139,9 +139,9 @@ struct Choice : Value {
 };
 
 // Every other structure: a slot for each component, null when it is absent, and behind the slots the kept encodings.
-struct Record : Value {
-    static constexpr Kind own_kind = Kind::record;
-    const Structure *shape;
+struct Structure : Value {
+    static constexpr Kind own_kind = Kind::structure;
+    const StructureShape *shape;
     Value *slots[1]; // as many as the structure has components
 
     [[nodiscard]] Value *slot(uint8_t index) const { return slots[index]; }

@@ -54,10 +54,10 @@ constexpr Component private_key_components[] = {
 
 } // namespace
 
-constexpr Structure store_attribute = structure(source, attribute_components);
-constexpr Structure cert_with_attributes = structure(source, entry_components);
+constexpr StructureShape store_attribute = structure(source, attribute_components);
+constexpr StructureShape cert_with_attributes = structure(source, entry_components);
 constexpr ChoiceShape store_key_id = choice(source, key_id_choice_alternatives);
-constexpr Structure private_key_attribute = structure(source, private_key_components);
+constexpr StructureShape private_key_attribute = structure(source, private_key_components);
 // StoreAttributeList ::= SEQUENCE SIZE (1..MAX) OF StoreAttribute
 constexpr ListShape store_attribute_list = {KOVRA_ASN1_TYPE_STORE_ATTRIBUTE, ListReading::tagged, source};
 // CertStore ::= SEQUENCE OF CertWithAttributes

@@ -23,7 +23,7 @@ constexpr Component parameter_components[] = {
 
 } // namespace
 
-constexpr Structure dh_parameter = structure(source, parameter_components);
+constexpr StructureShape dh_parameter = structure(source, parameter_components);
 
 } // namespace kovra::asn1
 

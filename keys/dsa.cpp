@@ -27,9 +27,9 @@ constexpr Component parameters_components[] = {
 
 } // namespace
 
-constexpr Structure dss_sig_value = structure(source, signature_components);
-constexpr Structure ecdsa_sig_value = structure(source, signature_components);
-constexpr Structure dss_parms = structure(source, parameters_components);
+constexpr StructureShape dss_sig_value = structure(source, signature_components);
+constexpr StructureShape ecdsa_sig_value = structure(source, signature_components);
+constexpr StructureShape dss_parms = structure(source, parameters_components);
 
 } // namespace kovra::asn1
 

@@ -25,7 +25,7 @@ constexpr Component key_components[] = {
 
 } // namespace
 
-constexpr Structure ec_private_key = structure(source, key_components);
+constexpr StructureShape ec_private_key = structure(source, key_components);
 
 } // namespace kovra::asn1
 

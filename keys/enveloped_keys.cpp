@@ -42,9 +42,9 @@ constexpr Component pair_components[] = {
 
 } // namespace
 
-constexpr Structure rsa_enveloped_key_pair = structure(source, rsa_pair_components);
+constexpr StructureShape rsa_enveloped_key_pair = structure(source, rsa_pair_components);
 constexpr ChoiceShape inner_enveloped_key_pair = choice(source, inner_alternatives);
-constexpr Structure enveloped_key_pair = structure(source, pair_components);
+constexpr StructureShape enveloped_key_pair = structure(source, pair_components);
 
 } // namespace kovra::asn1
 

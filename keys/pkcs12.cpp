@@ -81,13 +81,13 @@ constexpr Component pbe_components[] = {
 
 } // namespace
 
-constexpr Structure pfx = structure(source, store_components);
-constexpr Structure mac_data = structure(source, mac_components);
-constexpr Structure safe_bag = structure(source, bag_components);
-constexpr Structure cert_bag = structure(source, cert_components);
-constexpr Structure crl_bag = structure(source, crl_components);
-constexpr Structure secret_bag = structure(source, secret_components);
-constexpr Structure pkcs12_pbe_params = structure(source, pbe_components);
+constexpr StructureShape pfx = structure(source, store_components);
+constexpr StructureShape mac_data = structure(source, mac_components);
+constexpr StructureShape safe_bag = structure(source, bag_components);
+constexpr StructureShape cert_bag = structure(source, cert_components);
+constexpr StructureShape crl_bag = structure(source, crl_components);
+constexpr StructureShape secret_bag = structure(source, secret_components);
+constexpr StructureShape pkcs12_pbe_params = structure(source, pbe_components);
 // AuthenticatedSafe ::= SEQUENCE OF ContentInfo
 constexpr ListShape authenticated_safe = {KOVRA_ASN1_TYPE_CONTENT_INFO};
 // SafeContents ::= SEQUENCE OF SafeBag

@@ -25,7 +25,7 @@ constexpr Component pbe_components[] = {
     required("iterationCount", KOVRA_ASN1_TYPE_INTEGER),
 };
 
-bool has_salt_of_8(const Record &record) {
+bool has_salt_of_8(const Structure &record) {
     return has_octets(record.slot(slot_of(pbe_components, "salt")), 8);
 }
 constexpr int32_t bad_salt = 0x10314;
@@ -68,11 +68,11 @@ constexpr Component pbmac1_components[] = {
 
 } // namespace
 
-constexpr Structure pbe_parameter = checked(structure(source, pbe_components), has_salt_of_8, bad_salt);
+constexpr StructureShape pbe_parameter = checked(structure(source, pbe_components), has_salt_of_8, bad_salt);
 constexpr ChoiceShape pbkdf2_salt = choice(source, salt_choice_alternatives);
-constexpr Structure pbkdf2_params = structure(source, pbkdf2_components);
-constexpr Structure pbes2_params = structure(source, pbes2_components);
-constexpr Structure pbmac1_params = structure(source, pbmac1_components);
+constexpr StructureShape pbkdf2_params = structure(source, pbkdf2_components);
+constexpr StructureShape pbes2_params = structure(source, pbes2_components);
+constexpr StructureShape pbmac1_params = structure(source, pbmac1_components);
 
 } // namespace kovra::asn1
 

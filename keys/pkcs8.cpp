@@ -35,8 +35,8 @@ constexpr Component encrypted_components[] = {
 
 } // namespace
 
-constexpr Structure private_key_info = structure(source, info_components);
-constexpr Structure encrypted_private_key_info = structure(source, encrypted_components);
+constexpr StructureShape private_key_info = structure(source, info_components);
+constexpr StructureShape encrypted_private_key_info = structure(source, encrypted_components);
 
 } // namespace kovra::asn1
 

@@ -33,8 +33,8 @@ constexpr Component rc5_components[] = {
 
 } // namespace
 
-constexpr Structure rc2_cbc_parameter = structure(source, rc2_components);
-constexpr Structure rc5_cbc_parameters = structure(source, rc5_components);
+constexpr StructureShape rc2_cbc_parameter = structure(source, rc2_components);
+constexpr StructureShape rc5_cbc_parameters = structure(source, rc5_components);
 
 } // namespace kovra::asn1
 

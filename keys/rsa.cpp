@@ -58,7 +58,7 @@ constexpr Component private_key_components[] = {
 };
 // clang-format on
 
-bool has_right_version(const Record &record) {
+bool has_right_version(const Structure &record) {
     int32_t number = 0;
     return kovra_asn1_integer_getlong(record.slot(slot_of(private_key_components, "version")), &number) == 1 &&
            number == (record.slot(slot_of(private_key_components, "otherPrimeInfos")) != nullptr ? 1 : 0);
@@ -67,9 +67,9 @@ constexpr int32_t bad_version = 0x10303;
 
 } // namespace
 
-constexpr Structure rsa_public_key = structure(source, public_key_components);
-constexpr Structure other_prime_info = structure(source, prime_info_components);
-constexpr Structure rsa_private_key =
+constexpr StructureShape rsa_public_key = structure(source, public_key_components);
+constexpr StructureShape other_prime_info = structure(source, prime_info_components);
+constexpr StructureShape rsa_private_key =
     checked(structure(source, private_key_components), has_right_version, bad_version);
 // OtherPrimeInfos ::= SEQUENCE SIZE (1..MAX) OF OtherPrimeInfo
 constexpr ListShape other_prime_infos = {KOVRA_ASN1_TYPE_OTHER_PRIME_INFO, ListReading::tagged, source};

@@ -54,8 +54,8 @@ constexpr Component pss_components[] = {
 
 } // namespace
 
-constexpr Structure rsaes_oaep_params = structure(source, oaep_components);
-constexpr Structure rsassa_pss_params = structure(source, pss_components);
+constexpr StructureShape rsaes_oaep_params = structure(source, oaep_components);
+constexpr StructureShape rsassa_pss_params = structure(source, pss_components);
 
 } // namespace kovra::asn1
 

@@ -37,8 +37,8 @@ constexpr Component enveloped_components[] = {
 
 } // namespace
 
-constexpr Structure sm2_cipher = structure(source, cipher_components);
-constexpr Structure sm2_enveloped_key = structure(source, enveloped_components);
+constexpr StructureShape sm2_cipher = structure(source, cipher_components);
+constexpr StructureShape sm2_enveloped_key = structure(source, enveloped_components);
 
 } // namespace kovra::asn1
 

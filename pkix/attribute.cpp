@@ -35,7 +35,7 @@ constexpr Component attribute_components[] = {
 };
 
 // The attributes of PKCS #10 and CMS have plain values only.
-bool is_plain(const Record &record) {
+bool is_plain(const Structure &record) {
     return record.slot(slot_of(attribute_components, "valuesWithContext")) == nullptr;
 }
 
@@ -47,7 +47,7 @@ constexpr Component uuids_components[] = {
     required("issuerUUID", KOVRA_ASN1_TYPE_OCTET_STRING),
     required("subjectUUID", KOVRA_ASN1_TYPE_OCTET_STRING),
 };
-bool have_size(const Record &record) {
+bool have_size(const Structure &record) {
     return has_octets(record.slot(slot_of(uuids_components, "issuerUUID")), uuid_octets) &&
            has_octets(record.slot(slot_of(uuids_components, "subjectUUID")), uuid_octets);
 }
@@ -70,18 +70,18 @@ constexpr Component name_and_uid_components[] = {
 
 } // namespace
 
-constexpr Structure attribute_values_with_context_item = structure(source, context_item_components);
+constexpr StructureShape attribute_values_with_context_item = structure(source, context_item_components);
 constexpr ListShape attribute_values_with_context = {KOVRA_ASN1_TYPE_ATTRIBUTE_VALUES_WITH_CONTEXT_ITEM};
-constexpr Structure attribute = structure(source, attribute_components);
-constexpr Structure pkcs10_attribute = restricted(attribute, is_plain, 0x1027d, false);
+constexpr StructureShape attribute = structure(source, attribute_components);
+constexpr StructureShape pkcs10_attribute = restricted(attribute, is_plain, 0x1027d, false);
 // DirectoryString ::= CHOICE { teletexString, printableString, universalString, utf8String, bmpString }
-constexpr StringChoice directory_string = {source, 0x50181000};
+constexpr StringChoiceShape directory_string = {source, 0x50181000};
 // PKCS9String ::= CHOICE { ia5String, directoryString }
-constexpr StringChoice pkcs9_string = {source, 0x50581000};
-constexpr Structure uuid_pair = checked(structure(source, uuids_components), have_size, code::incorrect_length);
+constexpr StringChoiceShape pkcs9_string = {source, 0x50581000};
+constexpr StructureShape uuid_pair = checked(structure(source, uuids_components), have_size, code::incorrect_length);
 constexpr ListShape postal_address = {KOVRA_ASN1_TYPE_DIRECTORY_STRING, ListReading::whole};
-constexpr Structure telex_number = structure(source, telex_components);
-constexpr Structure name_and_optional_uid = structure(source, name_and_uid_components);
+constexpr StructureShape telex_number = structure(source, telex_components);
+constexpr StructureShape name_and_optional_uid = structure(source, name_and_uid_components);
 constexpr ListShape smime_capabilities = {KOVRA_ASN1_TYPE_SMIME_CAPABILITY};
 
 namespace {
@@ -113,7 +113,7 @@ using namespace kovra::asn1;
 kovra_asn1_value *kovra_x500attribute_new(kovra_asn1_value *type, const kovra_asn1_value *values) noexcept {
     if (type == nullptr || values == nullptr)
         return nullptr;
-    Record *record = new_structure(attribute);
+    Structure *record = new_structure(attribute);
     if (record == nullptr)
         return nullptr;
     if (store_copy(*record, slot<attribute, "type">, type)) {
@@ -187,7 +187,7 @@ kovra_asn1_value *kovra_x500uuidpair_new(const void *issuer_uuid, const void *su
         return nullptr;
     auto *issuer = new_with_content<String>(issuer_uuid, uuid_octets);
     auto *subject = new_with_content<String>(subject_uuid, uuid_octets);
-    Record *pair = issuer != nullptr && subject != nullptr ? construct<uuid_pair>(issuer, subject) : nullptr;
+    Structure *pair = issuer != nullptr && subject != nullptr ? construct<uuid_pair>(issuer, subject) : nullptr;
     kovra_asn1_value_free(KOVRA_ASN1_TYPE_OCTET_STRING, issuer);
     kovra_asn1_value_free(KOVRA_ASN1_TYPE_OCTET_STRING, subject);
     return pair;

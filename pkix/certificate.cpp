@@ -63,9 +63,9 @@ constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATE, "CERTIFICATE", nullptr};
 
 } // namespace
 
-constexpr Structure tbs_certificate = structure_with_tested_end(source, tbs_components);
-constexpr Structure certificate = signed_structure(source, certificate_components);
-constexpr Structure certificate_pair = structure(source, pair_components);
+constexpr StructureShape tbs_certificate = structure_with_tested_end(source, tbs_components);
+constexpr StructureShape certificate = signed_structure(source, certificate_components);
+constexpr StructureShape certificate_pair = structure(source, pair_components);
 
 namespace {
 
@@ -110,7 +110,7 @@ kovra_asn1_value *kovra_x509certpair_new(const kovra_asn1_value *issued_to_this_
 }
 
 int32_t kovra_x509pubkeycert_gettbsocts(kovra_asn1_value *obj, void *buffer, int32_t *length_in_out) noexcept {
-    return copy_signed_octets(as_record(certificate, obj), buffer, length_in_out);
+    return copy_signed_octets(as_structure(certificate, obj), buffer, length_in_out);
 }
 
 kovra_asn1_value *kovra_x509pubkeycert_getversion(const kovra_asn1_value *obj) noexcept {

@@ -69,22 +69,22 @@ constexpr Component names_components[] = {
 };
 
 // The form of RFC 5280 has no requiredNameForms.
-bool is_pkix(const Record &record) {
+bool is_pkix(const Structure &record) {
     return record.slot(slot_of(names_components, "requiredNameForms")) == nullptr;
 }
 
 } // namespace
 
-constexpr Structure authority_key_identifier = structure(source, akid_components);
+constexpr StructureShape authority_key_identifier = structure(source, akid_components);
 constexpr ListShape ext_key_usage = {KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER};
-constexpr Structure private_key_usage_period = structure(source, usage_period_components);
+constexpr StructureShape private_key_usage_period = structure(source, usage_period_components);
 constexpr ListShape subject_directory_attributes = {KOVRA_ASN1_TYPE_ATTRIBUTE};
-constexpr Structure basic_constraints = structure(source, basic_components);
-constexpr Structure general_subtree = structure(source, subtree_components);
+constexpr StructureShape basic_constraints = structure(source, basic_components);
+constexpr StructureShape general_subtree = structure(source, subtree_components);
 constexpr ListShape general_subtrees = {KOVRA_ASN1_TYPE_GENERAL_SUBTREE};
-constexpr Structure name_forms = structure(source, forms_components);
-constexpr Structure name_constraints = structure(source, names_components);
-constexpr Structure pkix_name_constraints = restricted(name_constraints, is_pkix, 0x102cc, true);
+constexpr StructureShape name_forms = structure(source, forms_components);
+constexpr StructureShape name_constraints = structure(source, names_components);
+constexpr StructureShape pkix_name_constraints = restricted(name_constraints, is_pkix, 0x102cc, true);
 
 } // namespace kovra::asn1
 

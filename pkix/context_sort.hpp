@@ -8,7 +8,7 @@
 namespace kovra::asn1 {
 
 // Sorts the context list of each item of a list of values with context, then the list itself. An absent list is sorted.
-inline Result sort_contexts(kovra_asn1_value *values_with_context, const Structure &item_shape,
+inline Result sort_contexts(kovra_asn1_value *values_with_context, const StructureShape &item_shape,
                             uint8_t context_list_slot, const Type &item_type) {
     auto *items = as<List>(values_with_context);
     if (items == nullptr)

@@ -59,10 +59,10 @@ constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATE_LIST, "X509 CRL", "CRL"};
 
 } // namespace
 
-constexpr Structure tbs_cert_list = structure_with_tested_end(source, tbs_components);
-constexpr Structure revoked_certificate = structure(source, revoked_components);
+constexpr StructureShape tbs_cert_list = structure_with_tested_end(source, tbs_components);
+constexpr StructureShape revoked_certificate = structure(source, revoked_components);
 constexpr ListShape revoked_certificates = {KOVRA_ASN1_TYPE_REVOKED_CERTIFICATE};
-constexpr Structure certificate_list = signed_structure(source, certificate_list_components);
+constexpr StructureShape certificate_list = signed_structure(source, certificate_list_components);
 
 namespace {
 
@@ -83,7 +83,7 @@ kovra_asn1_value *kovra_x509TBSCertList_new(const kovra_asn1_value *version, con
                                             int32_t copy_revoked, const kovra_asn1_value *crl_extensions) noexcept {
     const bool is_taken_over = revoked_list != nullptr && copy_revoked == 0;
     const kovra_asn1_value *copied = is_taken_over ? nullptr : revoked_list;
-    Record *record =
+    Structure *record =
         construct<tbs_cert_list>(version, signature, issuer, this_update, next_update, copied, crl_extensions);
     if (record == nullptr || !is_taken_over)
         return record;
@@ -112,7 +112,7 @@ kovra_asn1_value *kovra_x509crl_new(const void *data, int32_t length, kovra_err_
 }
 
 int32_t kovra_x509crl_gettbsocts(kovra_asn1_value *obj, void *buffer, int32_t *length_in_out) noexcept {
-    return copy_signed_octets(as_record(certificate_list, obj), buffer, length_in_out);
+    return copy_signed_octets(as_structure(certificate_list, obj), buffer, length_in_out);
 }
 
 int32_t kovra_x509crl_hasversion(const kovra_asn1_value *obj) noexcept {

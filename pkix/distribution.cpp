@@ -74,12 +74,12 @@ constexpr Component aaidp_components[] = {
 } // namespace
 
 constexpr ChoiceShape distribution_point_name = choice(source, point_name_alternatives);
-constexpr Structure distribution_point = structure(source, point_components);
+constexpr StructureShape distribution_point = structure(source, point_components);
 constexpr ListShape crl_distribution_points = {KOVRA_ASN1_TYPE_DISTRIBUTION_POINT};
-constexpr Structure access_description = structure(source, access_components);
+constexpr StructureShape access_description = structure(source, access_components);
 constexpr ListShape information_access = {KOVRA_ASN1_TYPE_ACCESS_DESCRIPTION};
-constexpr Structure issuing_distribution_point = structure(source, idp_components);
-constexpr Structure aa_issuing_distribution_point = structure(source, aaidp_components);
+constexpr StructureShape issuing_distribution_point = structure(source, idp_components);
+constexpr StructureShape aa_issuing_distribution_point = structure(source, aaidp_components);
 
 } // namespace kovra::asn1
 

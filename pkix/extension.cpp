@@ -25,7 +25,7 @@ constexpr Component extension_components[] = {
 
 } // namespace
 
-constexpr Structure extension = structure("ASN1_Extension", extension_components);
+constexpr StructureShape extension = structure("ASN1_Extension", extension_components);
 // Extensions ::= SEQUENCE OF Extension
 constexpr ListShape extensions = {KOVRA_ASN1_TYPE_EXTENSION};
 

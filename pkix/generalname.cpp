@@ -54,8 +54,8 @@ constexpr Component name_alternatives[] = {
 
 } // namespace
 
-constexpr Structure instance_of = structure(source, other_name_components);
-constexpr Structure edi_party_name = structure(source, edi_components);
+constexpr StructureShape instance_of = structure(source, other_name_components);
+constexpr StructureShape edi_party_name = structure(source, edi_components);
 constexpr ChoiceShape general_name = choice(source, name_alternatives, true);
 // GeneralNames ::= SEQUENCE OF GeneralName
 constexpr ListShape general_names = {KOVRA_ASN1_TYPE_GENERAL_NAME, ListReading::whole};
@@ -155,7 +155,7 @@ kovra_asn1_value *kovra_x509edipartyname_new(const kovra_asn1_value *name_assign
                                              const kovra_asn1_value *party_name) noexcept {
     if (party_name == nullptr)
         return nullptr;
-    Record *record = new_structure(edi_party_name);
+    Structure *record = new_structure(edi_party_name);
     if (record == nullptr)
         return nullptr;
     // A part that cannot be copied is left out.

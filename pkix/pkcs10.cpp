@@ -46,8 +46,8 @@ constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST, "CERTIFICATE R
 } // namespace
 
 constexpr ListShape pkcs10_attributes = {KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTE};
-constexpr Structure certification_request_info = structure(source, info_components);
-constexpr Structure certification_request = signed_structure(source, request_components);
+constexpr StructureShape certification_request_info = structure(source, info_components);
+constexpr StructureShape certification_request = signed_structure(source, request_components);
 
 namespace {
 
@@ -80,7 +80,7 @@ kovra_asn1_value *kovra_pkcs10certreq_new(const void *data, int32_t length, kovr
 }
 
 int32_t kovra_pkcs10certreq_gettbsocts(kovra_asn1_value *obj, void *buffer, int32_t *length_in_out) noexcept {
-    return copy_signed_octets(as_record(certification_request, obj), buffer, length_in_out);
+    return copy_signed_octets(as_structure(certification_request, obj), buffer, length_in_out);
 }
 
 kovra_asn1_value *kovra_pkcs10certreq_getversion(const kovra_asn1_value *obj) noexcept {

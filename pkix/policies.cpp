@@ -65,17 +65,17 @@ constexpr Component constraints_components[] = {
 } // namespace
 
 constexpr ListShape policy_qualifiers = {KOVRA_ASN1_TYPE_POLICY_QUALIFIER_INFO};
-constexpr Structure policy_qualifier_info = alike("ASN1_X509", qualifier_components, algorithm_identifier);
-constexpr Structure policy_information = structure(source, information_components);
+constexpr StructureShape policy_qualifier_info = alike("ASN1_X509", qualifier_components, algorithm_identifier);
+constexpr StructureShape policy_information = structure(source, information_components);
 constexpr ListShape certificate_policies = {KOVRA_ASN1_TYPE_POLICY_INFORMATION};
 // DisplayText ::= CHOICE { ia5String, visibleString, bmpString, utf8String }
-constexpr StringChoice display_text = {source, 1U << 12 | 1U << 22 | 1U << 26 | 1U << 30};
+constexpr StringChoiceShape display_text = {source, 1U << 12 | 1U << 22 | 1U << 26 | 1U << 30};
 constexpr ListShape notice_numbers = {KOVRA_ASN1_TYPE_INTEGER};
-constexpr Structure notice_reference = structure(source, reference_components);
-constexpr Structure user_notice = structure(source, notice_components);
-constexpr Structure policy_mapping = structure(source, mapping_components);
+constexpr StructureShape notice_reference = structure(source, reference_components);
+constexpr StructureShape user_notice = structure(source, notice_components);
+constexpr StructureShape policy_mapping = structure(source, mapping_components);
 constexpr ListShape policy_mappings = {KOVRA_ASN1_TYPE_POLICY_MAPPING};
-constexpr Structure policy_constraints = structure(source, constraints_components);
+constexpr StructureShape policy_constraints = structure(source, constraints_components);
 
 } // namespace kovra::asn1
 

@@ -20,7 +20,7 @@ Value *load_octets(Site site, const Type &type, const void *data, int32_t length
     if (decoder.position() == static_cast<uint32_t>(length))
         return value;
     Arena::destroy(value->arena);
-    record(ctx, site, code::incorrect_length);
+    report(ctx, site, code::incorrect_length);
     return nullptr;
 }
 
@@ -37,7 +37,7 @@ void *decode_text(const Armour &armour, const char *text, int32_t length, int32_
 
 kovra_asn1_value *load(Site site, const Armour &armour, const void *data, int32_t length, kovra_err_ctx *ctx) {
     const auto refuse = [&](int32_t code) {
-        record(ctx, site, code);
+        report(ctx, site, code);
         return nullptr;
     };
     if (data == nullptr)
@@ -59,7 +59,7 @@ kovra_asn1_value *load(Site site, const Armour &armour, const void *data, int32_
     return value;
 }
 
-kovra_asn1_value *with_encoding(Record *object, uint8_t type) {
+kovra_asn1_value *with_encoding(Structure *object, uint8_t type) {
     if (object == nullptr)
         return nullptr;
     Encoder encoder(static_cast<kovra_err_ctx *>(nullptr));
@@ -69,7 +69,7 @@ kovra_asn1_value *with_encoding(Record *object, uint8_t type) {
     return nullptr;
 }
 
-int32_t copy_signed_octets(Record *record, void *buffer, int32_t *length_in_out) {
+int32_t copy_signed_octets(Structure *record, void *buffer, int32_t *length_in_out) {
     const uint8_t *octets = nullptr;
     uint32_t length = 0;
     if (record == nullptr || length_in_out == nullptr || signed_octets(*record, octets, length) != success)

@@ -17,9 +17,9 @@ kovra_asn1_value *load(Site site, const Armour &armour, const void *data, int32_
 
 // A new signed object (null: there is none), encoded once so that its encodings are kept; null, and the object is
 // released, when that fails.
-kovra_asn1_value *with_encoding(Record *object, uint8_t type);
+kovra_asn1_value *with_encoding(Structure *object, uint8_t type);
 
 // Gives the to-be-signed octets, or how many there are.
-int32_t copy_signed_octets(Record *record, void *buffer, int32_t *length_in_out);
+int32_t copy_signed_octets(Structure *record, void *buffer, int32_t *length_in_out);
 
 } // namespace kovra::asn1

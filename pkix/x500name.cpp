@@ -47,7 +47,7 @@ constexpr Component type_and_value_components[] = {
 };
 
 // AttributeTypeAndValue ::= SEQUENCE { type, value }, the same record without what X.501 adds.
-bool is_plain(const Record &record) {
+bool is_plain(const Structure &record) {
     return record.slot(slot_of(type_and_value_components, "valuesWithContext")) == nullptr &&
            kovra_asn1_boolean_istrue(record.slot(slot_of(type_and_value_components, "primaryDistinguished"))) == 1;
 }
@@ -60,16 +60,16 @@ constexpr Component name_components[] = {required("rdnSequence", KOVRA_ASN1_TYPE
 
 } // namespace
 
-constexpr Structure x500_context = structure(source, context_components);
+constexpr StructureShape x500_context = structure(source, context_components);
 constexpr ListShape context_list = {KOVRA_ASN1_TYPE_CONTEXT};
-constexpr Structure dn_values_with_context_item = structure(source, context_item_components);
+constexpr StructureShape dn_values_with_context_item = structure(source, context_item_components);
 constexpr ListShape dn_values_with_context = {KOVRA_ASN1_TYPE_DN_VALUES_WITH_CONTEXT_ITEM};
-constexpr Structure attribute_type_and_distinguished_value = structure(source, type_and_value_components);
-constexpr Structure attribute_type_and_value =
+constexpr StructureShape attribute_type_and_distinguished_value = structure(source, type_and_value_components);
+constexpr StructureShape attribute_type_and_value =
     restricted(attribute_type_and_distinguished_value, is_plain, 0x10274, true);
 // RelativeDistinguishedName ::= SET OF AttributeTypeAndDistinguishedValue
 constexpr ListShape relative_distinguished_name = {KOVRA_ASN1_TYPE_ATTRIBUTE_TYPE_AND_DISTINGUISHED_VALUE};
-constexpr Structure x500_name = list_structure(source, name_components, rdn_sequence);
+constexpr StructureShape x500_name = list_structure(source, name_components, rdn_sequence);
 
 namespace {
 
@@ -84,7 +84,7 @@ List *rdns_of(const kovra_asn1_value *name) {
 using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_x500name_new(void) noexcept {
-    Record *name = new_structure(x500_name);
+    Structure *name = new_structure(x500_name);
     if (name == nullptr)
         return nullptr;
     name->slots[0] = new_list(*name->arena);
@@ -95,7 +95,7 @@ kovra_asn1_value *kovra_x500name_new(void) noexcept {
 }
 
 int32_t kovra_x500name_addrdn(kovra_asn1_value *name, kovra_asn1_value *rdn, int32_t copy) noexcept {
-    Record *record = as_record(x500_name, name);
+    Structure *record = as_structure(x500_name, name);
     Value *list = as<List>(rdn);
     if (record == nullptr || list == nullptr)
         return 0;
@@ -191,7 +191,7 @@ int32_t kovra_x500RDN_sort(kovra_asn1_value *rdn) noexcept {
         return 0;
     for (uint32_t i = 0; i < list->count; ++i) {
         const Value *member = list_element(*list, i);
-        if (as_record(attribute_type_and_distinguished_value, member) == nullptr)
+        if (as_structure(attribute_type_and_distinguished_value, member) == nullptr)
             return 0;
         const Result result = sort_contexts(kovra_x500attrtypedistval_getcontext(member), dn_values_with_context_item,
                                             slot<dn_values_with_context_item, "contextList">,

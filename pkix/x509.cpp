@@ -36,9 +36,9 @@ constexpr Component spki_components[] = {
 
 } // namespace
 
-constexpr Structure algorithm_identifier = structure(source, algid_components);
-constexpr Structure validity = structure(source, period_components);
-constexpr Structure subject_public_key_info = structure(source, spki_components);
+constexpr StructureShape algorithm_identifier = structure(source, algid_components);
+constexpr StructureShape validity = structure(source, period_components);
+constexpr StructureShape subject_public_key_info = structure(source, spki_components);
 
 } // namespace kovra::asn1
 
@@ -51,7 +51,7 @@ kovra_asn1_value *kovra_x509algoid_new(const kovra_asn1_value *algorithm, uint32
     Value *parameters = convert(row(param_type), static_cast<const Value *>(param_value), row(KOVRA_ASN1_TYPE_ANY));
     if (parameters == nullptr)
         return nullptr;
-    Record *record = construct<algorithm_identifier>(algorithm, static_cast<const kovra_asn1_value *>(nullptr));
+    Structure *record = construct<algorithm_identifier>(algorithm, static_cast<const kovra_asn1_value *>(nullptr));
     if (record != nullptr && store(*record, slot<algorithm_identifier, "parameters">, parameters))
         return record;
     Arena::destroy(parameters->arena);

@@ -35,7 +35,7 @@ bool keep(kovra_asn1_decode_any_ctx &ctx, const void *data, int32_t count) {
 }
 
 Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE()) {
-    record(ctx, {module, line}, code);
+    report(ctx, {module, line}, code);
     return failure;
 }
 

@@ -26,7 +26,7 @@ constexpr Component components[] = {
 
 } // namespace
 
-constexpr Structure ocsp_cert_id = structure(source, components);
+constexpr StructureShape ocsp_cert_id = structure(source, components);
 
 } // namespace kovra::asn1
 

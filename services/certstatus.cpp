@@ -34,7 +34,7 @@ constexpr Component status_alternatives[] = {
 
 } // namespace
 
-constexpr Structure ocsp_revoked_info = structure(source, revocation_components);
+constexpr StructureShape ocsp_revoked_info = structure(source, revocation_components);
 constexpr ChoiceShape ocsp_cert_status = choice(source, status_alternatives);
 
 } // namespace kovra::asn1

@@ -36,7 +36,7 @@ constexpr uint8_t sha256[] = {0x60, 0x86, 0x48, 0x01, 0x65, 0x03, 0x04, 0x02, 0x
 
 Value *make_sha256(Arena &arena) {
     auto *algorithm = new_record<ObjectIdentifier>(arena);
-    Record *record = algorithm != nullptr ? new_structure(arena, algorithm_identifier) : nullptr;
+    Structure *record = algorithm != nullptr ? new_structure(arena, algorithm_identifier) : nullptr;
     if (record == nullptr)
         return nullptr;
     algorithm->octets = {sha256, 0, sizeof sha256};
@@ -69,9 +69,9 @@ constexpr Component cert_id_v2_components[] = {
 
 } // namespace
 
-constexpr Structure issuer_serial = structure(source, serial_components);
-constexpr Structure ess_cert_id = structure(source, cert_id_components);
-constexpr Structure ess_cert_id_v2 = structure(source, cert_id_v2_components);
+constexpr StructureShape issuer_serial = structure(source, serial_components);
+constexpr StructureShape ess_cert_id = structure(source, cert_id_components);
+constexpr StructureShape ess_cert_id_v2 = structure(source, cert_id_v2_components);
 // SEQUENCE OF ESSCertID, SEQUENCE OF ESSCertIDv2
 constexpr ListShape ess_cert_ids = {KOVRA_ASN1_TYPE_ESS_CERT_ID};
 constexpr ListShape ess_cert_ids_v2 = {KOVRA_ASN1_TYPE_ESS_CERT_ID_V2};

@@ -19,7 +19,7 @@ constexpr Component components[] = {
 
 } // namespace
 
-constexpr Structure message_imprint = alike("ASN1_PKCS1", components, digest_info);
+constexpr StructureShape message_imprint = alike("ASN1_PKCS1", components, digest_info);
 
 } // namespace kovra::asn1
 

@@ -39,9 +39,9 @@ constexpr Component preferred_components[] = {
 
 } // namespace
 
-constexpr Structure ocsp_crl_id = structure(source, crl_components);
-constexpr Structure ocsp_service_locator = structure(source, locator_components);
-constexpr Structure ocsp_preferred_signature_algorithms = structure(source, preferred_components);
+constexpr StructureShape ocsp_crl_id = structure(source, crl_components);
+constexpr StructureShape ocsp_service_locator = structure(source, locator_components);
+constexpr StructureShape ocsp_preferred_signature_algorithms = structure(source, preferred_components);
 
 } // namespace kovra::asn1
 

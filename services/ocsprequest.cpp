@@ -53,12 +53,12 @@ constexpr Component request_components[] = {
 
 } // namespace
 
-constexpr Structure ocsp_single_request = structure(source, single_components);
+constexpr StructureShape ocsp_single_request = structure(source, single_components);
 // RequestList ::= SEQUENCE OF Request
 constexpr ListShape ocsp_request_list = {KOVRA_ASN1_TYPE_OCSP_SINGLE_REQUEST};
-constexpr Structure ocsp_tbs_request = structure(source, tbs_components);
-constexpr Structure ocsp_signature = structure(source, signing_components);
-constexpr Structure ocsp_request = structure(source, request_components);
+constexpr StructureShape ocsp_tbs_request = structure(source, tbs_components);
+constexpr StructureShape ocsp_signature = structure(source, signing_components);
+constexpr StructureShape ocsp_request = structure(source, request_components);
 
 } // namespace kovra::asn1
 

@@ -43,9 +43,9 @@ constexpr Component basic_components[] = {
 
 } // namespace
 
-constexpr Structure ocsp_response_bytes = structure(source, bytes_components);
-constexpr Structure ocsp_response = structure(source, response_components);
-constexpr Structure ocsp_basic_response = signed_structure(source, basic_components);
+constexpr StructureShape ocsp_response_bytes = structure(source, bytes_components);
+constexpr StructureShape ocsp_response = structure(source, response_components);
+constexpr StructureShape ocsp_basic_response = signed_structure(source, basic_components);
 
 } // namespace kovra::asn1
 
@@ -99,5 +99,5 @@ kovra_asn1_value *kovra_ocsp_basicocspresponse_getcerts(const kovra_asn1_value *
 }
 
 int32_t kovra_ocsp_basicocspresponse_gettbsocts(kovra_asn1_value *obj, void *buffer, int32_t *length_in_out) noexcept {
-    return copy_signed_octets(as_record(ocsp_basic_response, obj), buffer, length_in_out);
+    return copy_signed_octets(as_structure(ocsp_basic_response, obj), buffer, length_in_out);
 }

@@ -43,10 +43,10 @@ constexpr Component data_components[] = {
 
 } // namespace
 
-constexpr Structure ocsp_single_response = structure(source, single_components);
+constexpr StructureShape ocsp_single_response = structure(source, single_components);
 // Responses ::= SEQUENCE OF SingleResponse
 constexpr ListShape ocsp_responses = {KOVRA_ASN1_TYPE_OCSP_SINGLE_RESPONSE};
-constexpr Structure ocsp_response_data = structure(source, data_components);
+constexpr StructureShape ocsp_response_data = structure(source, data_components);
 
 } // namespace kovra::asn1
 

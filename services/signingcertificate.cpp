@@ -31,14 +31,14 @@ constexpr Component components_v2[] = {
 
 } // namespace
 
-constexpr Structure signing_certificate = structure(source, components);
-constexpr Structure signing_certificate_v2 = structure(source, components_v2);
+constexpr StructureShape signing_certificate = structure(source, components);
+constexpr StructureShape signing_certificate_v2 = structure(source, components_v2);
 
 namespace {
 
 // Of a value of either version.
 Value *component_of_either(const kovra_asn1_value *obj, Slot slot) {
-    const bool is_v2 = as_record(signing_certificate_v2, obj) != nullptr;
+    const bool is_v2 = as_structure(signing_certificate_v2, obj) != nullptr;
     return component(is_v2 ? signing_certificate_v2 : signing_certificate, obj, slot);
 }
 

@@ -29,7 +29,7 @@ constexpr Component request_components[] = {
 
 } // namespace
 
-constexpr Structure time_stamp_req = structure(source, request_components);
+constexpr StructureShape time_stamp_req = structure(source, request_components);
 
 } // namespace kovra::asn1
 

@@ -34,8 +34,8 @@ constexpr Component response_components[] = {
 
 // PKIFreeText ::= SEQUENCE SIZE (1..MAX) OF UTF8String
 constexpr ListShape pki_free_text = {KOVRA_ASN1_TYPE_UTF8_STRING, ListReading::tagged, source};
-constexpr Structure pki_status_info = structure(source, info_components);
-constexpr Structure time_stamp_resp = structure(source, response_components);
+constexpr StructureShape pki_status_info = structure(source, info_components);
+constexpr StructureShape time_stamp_resp = structure(source, response_components);
 
 } // namespace kovra::asn1
 

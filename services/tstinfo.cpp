@@ -49,8 +49,8 @@ constexpr Component token_components[] = {
 
 } // namespace
 
-constexpr Structure time_stamp_accuracy = structure(source, precision_components);
-constexpr Structure tst_info = structure(source, token_components);
+constexpr StructureShape time_stamp_accuracy = structure(source, precision_components);
+constexpr StructureShape tst_info = structure(source, token_components);
 
 } // namespace kovra::asn1
 

@@ -108,7 +108,7 @@ Result encode_bit_string(Encoder &encoder, const Type &type, Value *value) {
 }
 
 Result decode_bit_string_content(Decoder &decoder, const Type &, const Element &element, Value *&out) {
-    if (const Result result = enter(decoder, here()); result != success)
+    if (const Result result = check_source_and_place(decoder, here()); result != success)
         return result;
     auto *bits = new_record<BitString>(decoder.arena());
     if (bits == nullptr)
@@ -131,7 +131,7 @@ Result decode_bit_string(Decoder &decoder, const Type &type, Value *&out) {
 }
 
 Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE()) {
-    record(ctx, here(line), code);
+    report(ctx, here(line), code);
     return failure;
 }
 
@@ -160,7 +160,7 @@ constexpr Operations bit_string_operations = {
     .encode = encode_bit_string,
     .decode_content = decode_bit_string_content,
     .decode = decode_bit_string,
-    .decode_entered = decode_bit_string_content,
+    .decode_plain = decode_bit_string_content,
     .records_reserve = leaf_reserve<2 * sizeof(BitString)>,
 };
 

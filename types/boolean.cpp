@@ -25,7 +25,7 @@ Result encode_boolean_content(Encoder &encoder, const Type &, Value *value, int3
     if (!encoder.has_stream() || boolean == nullptr)
         return encoder.fail(here(), code::null_argument);
     if (length != 1) {
-        record_general(encoder.ctx(), here(), code::bad_length);
+        report_general(encoder.ctx(), here(), code::bad_length);
         return failure;
     }
     const uint8_t octet = boolean->word != 0 ? 0xFF : 0x00;
@@ -33,7 +33,7 @@ Result encode_boolean_content(Encoder &encoder, const Type &, Value *value, int3
 }
 
 Result decode_boolean_content(Decoder &decoder, const Type &, const Element &element, Value *&out) {
-    if (const Result result = enter_primitive(decoder, here(), element); result != success)
+    if (const Result result = check_primitive(decoder, here(), element); result != success)
         return result;
     if (element.length != 1)
         return decoder.fail(here(), code::bad_length);
@@ -75,7 +75,7 @@ Result encode_null_content(Encoder &encoder, const Type &, Value *, int32_t leng
     if (!encoder.has_stream())
         return encoder.fail(null_here(), code::null_argument);
     if (length != 0) {
-        record_general(encoder.ctx(), null_here(), code::bad_length);
+        report_general(encoder.ctx(), null_here(), code::bad_length);
         return failure;
     }
     return success;
@@ -89,7 +89,7 @@ Result encode_null(Encoder &encoder, const Type &, Value *) {
 }
 
 Result decode_null_content(Decoder &decoder, const Type &, const Element &element, Value *&) {
-    if (const Result result = enter_primitive(decoder, null_here(), element); result != success)
+    if (const Result result = check_primitive(decoder, null_here(), element); result != success)
         return result;
     return element.length == 0 ? success : decoder.fail(null_here(), code::bad_length);
 }
@@ -130,7 +130,7 @@ constexpr Operations boolean_operations = {
     .content_length = boolean_content_length,
     .encode_content = encode_boolean_content,
     .decode_content = decode_boolean_content,
-    .decode_entered = decode_boolean_content,
+    .decode_plain = decode_boolean_content,
     .records_reserve = leaf_reserve<2 * sizeof(Boolean)>,
 };
 

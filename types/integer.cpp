@@ -40,7 +40,7 @@ Result encode_integer_content(Encoder &encoder, const Type &, Value *value, int3
 }
 
 [[gnu::noinline]] Result decode_other_integer_content(Decoder &decoder, const Element &element, Value *&out) {
-    if (const Result result = enter_primitive(decoder, here(), element); result != success)
+    if (const Result result = check_primitive(decoder, here(), element); result != success)
         return result;
     if (element.length < 1)
         return decoder.fail(here(), code::bad_length);
@@ -93,7 +93,7 @@ constexpr Operations integer_operations = {
     .content_length = integer_content_length,
     .encode_content = encode_integer_content,
     .decode_content = decode_integer_content,
-    .decode_entered = decode_integer_content,
+    .decode_plain = decode_integer_content,
     .records_reserve = leaf_reserve<2 * sizeof(Integer)>,
 };
 

@@ -126,7 +126,7 @@ Result encode_character_string(Encoder &encoder, const Type &type, Value *value)
 }
 
 [[gnu::noinline]] Result decode_string_segments(Decoder &decoder, const Element &element, Value *&out) {
-    if (const Result result = enter(decoder, here()); result != success)
+    if (const Result result = check_source_and_place(decoder, here()); result != success)
         return result;
     auto *string = new_record<String>(decoder.arena());
     if (string == nullptr)
@@ -173,7 +173,7 @@ Result refuse_decode(Decoder &decoder, const Type &, Value *&) {
 }
 
 Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE()) {
-    record(ctx, here(line), code);
+    report(ctx, here(line), code);
     return failure;
 }
 
@@ -204,7 +204,7 @@ constexpr Operations octet_string_operations = {
     .encode = encode_octet_string,
     .decode_content = decode_string_content,
     .decode = decode_octet_string,
-    .decode_entered = decode_string_content,
+    .decode_plain = decode_string_content,
     .records_reserve = leaf_reserve<2 * sizeof(String)>,
 };
 

@@ -74,7 +74,7 @@ bool surely_has_text(const uint8_t *octets, int32_t length, uint32_t reach) {
 
 [[gnu::noinline]] Result decode_long_oid_content(Decoder &decoder, const Type &type, const Element &element,
                                                  Value *&out) {
-    if (const Result result = enter_primitive(decoder, here(), element); result != success)
+    if (const Result result = check_primitive(decoder, here(), element); result != success)
         return result;
     if (element.length < 1)
         return decoder.fail(here(), code::bad_length);
@@ -232,7 +232,7 @@ constexpr Operations object_identifier_operations = {
     .content_length = oid_content_length,
     .encode_content = encode_oid_content,
     .decode_content = decode_oid_content,
-    .decode_entered = decode_oid_content,
+    .decode_plain = decode_oid_content,
     .records_reserve = leaf_reserve<2 * sizeof(ObjectIdentifier)>,
 };
 

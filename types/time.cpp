@@ -70,7 +70,7 @@ Result encode_time(Encoder &encoder, const Type &type, Value *value) {
 
 // The record of a text that may stand in segments.
 Result take_text(Decoder &decoder, const Element &element, Time *&out) {
-    if (const Result result = enter(decoder, here()); result != success)
+    if (const Result result = check_source_and_place(decoder, here()); result != success)
         return result;
     auto *time = new_record<Time>(decoder.arena());
     if (time == nullptr)
@@ -114,8 +114,8 @@ bool time_begins(const Type &, const Identifier &identifier) {
     return identifier.is(Class::universal, tag::utc_time) || identifier.is(Class::universal, tag::generalized_time);
 }
 
-Result decode_begun_time(Decoder &decoder, const Type &, const Identifier &identifier, const Element &element,
-                         Value *&out) {
+Result decode_time_behind(Decoder &decoder, const Type &, const Identifier &identifier, const Element &element,
+                          Value *&out) {
     return decode_text(decoder, static_cast<uint8_t>(identifier.tag), element, out);
 }
 
@@ -133,7 +133,7 @@ Result decode_time(Decoder &decoder, const Type &type, Value *&out) {
             return result;
     }
     Value *value = nullptr;
-    const Result result = decode_begun_time(decoder, type, identifier, {identifier.form, length}, value);
+    const Result result = decode_time_behind(decoder, type, identifier, {identifier.form, length}, value);
     if (result != success)
         return result;
     if (!is_of_row(type, *static_cast<const Time *>(value)))
@@ -192,7 +192,7 @@ constexpr Operations any_time_operations = {
     .decode_content = refuse_decode_content,
     .decode = decode_time,
     .begins = time_begins,
-    .decode_begun = decode_begun_time,
+    .decode_behind = decode_time_behind,
     .records_reserve = leaf_reserve<2 * sizeof(Time)>,
 };
 

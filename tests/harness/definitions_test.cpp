@@ -133,9 +133,9 @@ TEST(Definitions, AreWhatTheTablesSay) {
             read = rows_of(components, count, &core::Component::tag);
             written = rows_of(components, count, &core::Component::encode_tag);
         };
-        if (is_structure(row) && static_cast<const core::Structure *>(row.shape)->content == nullptr)
-            take(static_cast<const core::Structure *>(row.shape)->components,
-                 static_cast<const core::Structure *>(row.shape)->count);
+        if (is_structure(row) && static_cast<const core::StructureShape *>(row.shape)->content == nullptr)
+            take(static_cast<const core::StructureShape *>(row.shape)->components,
+                 static_cast<const core::StructureShape *>(row.shape)->count);
         else if (row.operations == &core::choice_operations)
             take(static_cast<const core::ChoiceShape *>(row.shape)->alternatives,
                  static_cast<const core::ChoiceShape *>(row.shape)->count);

@@ -11,8 +11,8 @@ namespace kovra::test {
 Identity identity(const kovra_asn1_value *handle) {
     const core::Value *value = record_of(handle);
     const void *shape = nullptr;
-    if (value->kind == core::Kind::record)
-        shape = static_cast<const core::Record *>(value)->shape;
+    if (value->kind == core::Kind::structure)
+        shape = static_cast<const core::Structure *>(value)->shape;
     else if (value->kind == core::Kind::choice)
         shape = static_cast<const core::Choice *>(value)->shape;
     return {value->kind, shape};
@@ -225,9 +225,9 @@ void read_everything_within(kovra_asn1_value *value) {
             if (part != nullptr)
                 left.push_back(part);
         };
-        if (record->kind == core::Kind::record)
-            for (uint8_t i = 0; i < static_cast<const core::Record *>(record)->shape->count; ++i)
-                add(static_cast<const core::Record *>(record)->slot(i));
+        if (record->kind == core::Kind::structure)
+            for (uint8_t i = 0; i < static_cast<const core::Structure *>(record)->shape->count; ++i)
+                add(static_cast<const core::Structure *>(record)->slot(i));
         else if (record->kind == core::Kind::choice)
             add(static_cast<const core::Choice *>(record)->value);
         Handle part = nullptr;

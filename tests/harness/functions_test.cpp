@@ -66,7 +66,7 @@ bool takes_end_of_contents(const Function &function) {
 // Without the arguments that may be absent, in every combination: the record has copies of just those that were given,
 // and no defaulted part is missing. Any allocation may fail.
 void expect_built(const Function &function, const core::Type &type, const std::vector<const Kept *> &arguments) {
-    const auto &shape = *static_cast<const core::Structure *>(type.shape);
+    const auto &shape = *static_cast<const core::StructureShape *>(type.shape);
     for (uint32_t absent = 0; absent < uint32_t{1} << shape.count; ++absent) {
         std::vector<const Kept *> given = arguments;
         bool can_be = true;
@@ -83,7 +83,7 @@ void expect_built(const Function &function, const core::Type &type, const std::v
                 return;
             }
             EXPECT_TRUE(can_be) << "made without " << absent;
-            const auto *made = static_cast<const core::Record *>(record_of(call.made[0]));
+            const auto *made = static_cast<const core::Structure *>(record_of(call.made[0]));
             for (uint8_t i = 0; i < shape.count; ++i) {
                 const core::Component &component = shape.components[i];
                 if (given[i] == nullptr) {
@@ -113,7 +113,8 @@ TEST(Functions, SeveralValuesOfAnyKind) {
         const core::Type &row = core::row(type);
         const std::vector<Sample> values = component_values(row);
         for (size_t i = 0; i < values.size(); ++i) {
-            const uint32_t number = static_cast<const core::Structure *>(row.shape)->components[i].copied_as->number;
+            const uint32_t number =
+                static_cast<const core::StructureShape *>(row.shape)->components[i].copied_as->number;
             components[type].push_back({number, values[i].octets, decode(number, values[i].octets).value});
         }
     }
@@ -137,14 +138,14 @@ TEST(Functions, SeveralValuesOfAnyKind) {
             const std::vector<Kept> &values = components[type];
             if (values.size() != function.values())
                 continue;
-            const auto *shape = static_cast<const core::Structure *>(core::row(type).shape);
+            const auto *shape = static_cast<const core::StructureShape *>(core::row(type).shape);
             std::vector<const Kept *> right;
             for (const Kept &kept : values)
                 right.push_back(&kept);
             bool is_made = false;
             call_with(function, right, 0, [&](const Call &call) {
                 is_made = call.made[0] != nullptr && is_free(call.made[0]) &&
-                          identity(call.made[0]) == Identity(core::Kind::record, shape->shape());
+                          identity(call.made[0]) == Identity(core::Kind::structure, shape->record_shape());
             });
             if (!is_made)
                 continue;
@@ -156,7 +157,7 @@ TEST(Functions, SeveralValuesOfAnyKind) {
                     std::vector<const Kept *> changed = right;
                     changed[place] = &kept;
                     call_with(function, changed, 0, [&](const Call &call) {
-                        const auto *made = static_cast<const core::Record *>(record_of(call.made[0]));
+                        const auto *made = static_cast<const core::Structure *>(record_of(call.made[0]));
                         EXPECT_TRUE(made == nullptr || made->slot(static_cast<uint8_t>(place)) == nullptr ||
                                     core::holds(*shape->components[place].copied_as, record_of(kept.value.get())))
                             << "place " << place << " takes a value of type " << kept.type;
@@ -181,13 +182,13 @@ TEST(Functions, SeveralValuesOfAnyKind) {
 // Where a part of a record stands: in one of its slots, or in a slot of what is in its first one.
 using Part = std::pair<int, int>;
 
-std::map<const void *, Part> parts_of(const core::Record &record) {
+std::map<const void *, Part> parts_of(const core::Structure &record) {
     std::map<const void *, Part> found;
     for (uint8_t i = 0; i < record.shape->count; ++i) {
         if (const core::Value *part = record.slot(i); part != nullptr)
             found.emplace(part, Part(i, -1));
         if (i == 0 && record.shape->signed_slot == 0) {
-            const auto *within = static_cast<const core::Record *>(record.slot(0));
+            const auto *within = static_cast<const core::Structure *>(record.slot(0));
             for (uint8_t j = 0; j < within->shape->count; ++j)
                 if (within->slot(j) != nullptr)
                     found.emplace(within->slot(j), Part(0, j));
@@ -223,7 +224,7 @@ TEST(Functions, EachPartHasItsFunction) {
         std::set<Part> all;
         for (const std::string &data : values) {
             const Kept kept = {type, data, decode(type, data).value};
-            const auto &record = *static_cast<const core::Record *>(record_of(kept.value.get()));
+            const auto &record = *static_cast<const core::Structure *>(record_of(kept.value.get()));
             const std::map<const void *, Part> parts = parts_of(record);
             for (const auto &[address, part] : parts)
                 all.insert(part);
@@ -354,9 +355,9 @@ TEST(Functions, AValueIsTakenOverOnce) {
             EXPECT_EQ(kovra_asn1_list_put(part, list.get()), 0);
         }
         const core::Value *record = record_of(value);
-        if (record->kind == core::Kind::record)
-            for (uint8_t i = 0; i < static_cast<const core::Record *>(record)->shape->count; ++i) {
-                EXPECT_EQ(kovra_asn1_list_put(other.get(), static_cast<const core::Record *>(record)->slot(i)), 0);
+        if (record->kind == core::Kind::structure)
+            for (uint8_t i = 0; i < static_cast<const core::Structure *>(record)->shape->count; ++i) {
+                EXPECT_EQ(kovra_asn1_list_put(other.get(), static_cast<const core::Structure *>(record)->slot(i)), 0);
             }
         kovra_asn1_value_free(kept.type, value); // not the caller's any more
         EXPECT_EQ(kovra_asn1_list_getsize(list.get()), 1);

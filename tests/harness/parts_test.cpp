@@ -76,15 +76,15 @@ const Function *maker_of(const std::string &prefix, const std::string &maker) {
     return function_named(maker.starts_with("kovra_") ? maker : prefix + "_" + maker);
 }
 
-const core::Structure &shape_of(const Row &row) {
-    return *static_cast<const core::Structure *>(core::row(row.type).shape);
+const core::StructureShape &shape_of(const Row &row) {
+    return *static_cast<const core::StructureShape *>(core::row(row.type).shape);
 }
 
 // Getters give just the components; a part with a default is never missing. Who asks whether there is one is told.
 void expect_parts(const Row &row, Handle value) {
-    const auto *record = static_cast<const core::Record *>(record_of(value));
+    const auto *record = static_cast<const core::Structure *>(record_of(value));
     if (row.holder != 0)
-        record = static_cast<const core::Record *>(record->slot(0));
+        record = static_cast<const core::Structure *>(record->slot(0));
     for (size_t i = 0; i < row.getters.size(); ++i) {
         if (row.getters[i] == "-")
             continue;
@@ -98,7 +98,7 @@ void expect_parts(const Row &row, Handle value) {
 
 // Is the record made of these, none of them (-1) or one besides those that are required?
 bool expect_made(const Row &row, const std::vector<Kept> &values, bool with_all, size_t one) {
-    const core::Structure &shape = shape_of(row);
+    const core::StructureShape &shape = shape_of(row);
     std::vector<const Kept *> arguments;
     uint32_t given = 0;
     for (const size_t i : row.order) {
@@ -111,7 +111,7 @@ bool expect_made(const Row &row, const std::vector<Kept> &values, bool with_all,
         is_made = call.made[0] != nullptr;
         if (!is_made)
             return;
-        const auto *made = static_cast<const core::Record *>(record_of(call.made[0]));
+        const auto *made = static_cast<const core::Structure *>(record_of(call.made[0]));
         for (uint8_t i = 0; i < shape.count; ++i) {
             const core::Component &component = shape.components[i];
             if ((given >> i & 1) != 0) {
@@ -127,7 +127,7 @@ bool expect_made(const Row &row, const std::vector<Kept> &values, bool with_all,
         const Value again = decode(row.type, whole).value;
         EXPECT_TRUE(again || !is_written_as_read(core::row(row.type))) << hex(whole);
         for (uint8_t i = 0; i < shape.count && again; ++i) {
-            const auto *read = static_cast<const core::Record *>(record_of(again.get()));
+            const auto *read = static_cast<const core::Structure *>(record_of(again.get()));
             EXPECT_EQ(hex(encode(values[i].type, read->slot(i)).octets),
                       hex(encode(values[i].type, made->slot(i)).octets))
                 << shape.components[i].name << " of " << hex(whole);

@@ -224,7 +224,8 @@ TEST(Rows, PresenceOfComponents) {
             ++count;
             const Outcome read = outcome(type, combination.octets);
             ASSERT_EQ(read.result, 1) << read.entries;
-            const auto &record = *static_cast<const core::Record *>(static_cast<const core::Value *>(read.value.get()));
+            const auto &record =
+                *static_cast<const core::Structure *>(static_cast<const core::Value *>(read.value.get()));
             for (uint8_t i = 0; i < record.shape->count; ++i) {
                 const core::Component &component = record.shape->components[i];
                 const bool is_there = (combination.present >> i & 1) != 0;
@@ -449,7 +450,7 @@ struct Part {
 template <class Look> void for_each_component(Look look) {
     for (uint32_t type = 0; type < type_count; ++type) {
         for (const Combination &combination : combinations(type)) {
-            const auto &shape = *static_cast<const core::Structure *>(core::row(type).shape);
+            const auto &shape = *static_cast<const core::StructureShape *>(core::row(type).shape);
             std::vector<Place> places;
             std::vector<size_t> around;
             find_places(combination.octets, 0, combination.octets.size(), around, places);
@@ -473,7 +474,7 @@ TEST(Rows, EntriesNameTheComponent) {
     for_each_component([&](uint32_t type, const std::string &data, const std::vector<Place> &places, const Part &part) {
         const core::Type &row = core::row(type);
         if (row.operations == &core::kept_structure_operations ||
-            static_cast<const core::Structure *>(row.shape)->signed_slot == 0)
+            static_cast<const core::StructureShape *>(row.shape)->signed_slot == 0)
             return; // walked first, which finds the fault
         // What an explicit tag holds is the component.
         const bool is_explicit = part.component.tag.tagging == core::Tagging::explicit_;
@@ -493,7 +494,7 @@ TEST(Rows, EntriesNameTheComponent) {
 TEST(Rows, IdentifiersAreTheirComponents) {
     size_t count = 0;
     for_each_component([&](uint32_t type, const std::string &data, const std::vector<Place> &places, const Part &part) {
-        const auto &shape = *static_cast<const core::Structure *>(core::row(type).shape);
+        const auto &shape = *static_cast<const core::StructureShape *>(core::row(type).shape);
         const Place &place = places[part.place];
         const std::string whole = data.substr(place.begin, place.end - place.begin);
         const auto expect_refused = [&](const std::string &instead) {
@@ -613,9 +614,9 @@ std::vector<Value> of_every_kind() {
 // they cannot be.
 core::Value *holder_of(const core::Type &type, uint8_t place, core::Value *part) {
     if (is_structure(type)) {
-        const auto &shape = *static_cast<const core::Structure *>(type.shape);
+        const auto &shape = *static_cast<const core::StructureShape *>(type.shape);
         const std::vector<Sample> values = component_values(type);
-        core::Record *record = core::new_structure(shape);
+        core::Structure *record = core::new_structure(shape);
         for (uint8_t i = 0; i < shape.count; ++i) {
             const uint32_t number = shape.components[i].copied_as->number;
             Value value = i == place ? Value() : decode(number, values[i].octets).value;
@@ -641,7 +642,7 @@ TEST(Rows, StrangePartsAreRefused) {
         if (!is_structure(row) && !is_table_choice)
             continue;
         const auto *choice = static_cast<const core::ChoiceShape *>(row.shape);
-        const auto *structure = static_cast<const core::Structure *>(row.shape);
+        const auto *structure = static_cast<const core::StructureShape *>(row.shape);
         const uint8_t count = is_table_choice ? choice->count : structure->count;
         for (uint8_t place = 0; place < count; ++place) {
             const core::Component &component =

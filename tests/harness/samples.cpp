@@ -22,8 +22,8 @@ using core::ChoiceShape;
 using core::Component;
 using core::ListShape;
 using core::Presence;
-using core::StringChoice;
-using core::Structure;
+using core::StringChoiceShape;
+using core::StructureShape;
 using core::Tagging;
 using core::Type;
 
@@ -146,7 +146,8 @@ std::string make_component(const Component &component, Extent extent, const Flav
     return under_tag(make(*component.taken_as, extent, chosen, depth + 1), component.tag);
 }
 
-std::string make_structure(const Structure &shape, uint32_t present, Extent extent, const Flavour &flavour, int depth) {
+std::string make_structure(const StructureShape &shape, uint32_t present, Extent extent, const Flavour &flavour,
+                           int depth) {
     std::string content;
     for (uint32_t i = 0; i < shape.count; ++i)
         if ((present >> i & 1) != 0)
@@ -154,7 +155,7 @@ std::string make_structure(const Structure &shape, uint32_t present, Extent exte
     return content;
 }
 
-uint32_t required_of(const Structure &shape) {
+uint32_t required_of(const StructureShape &shape) {
     uint32_t bits = 0;
     for (uint32_t i = 0; i < shape.count; ++i)
         bits |= static_cast<uint32_t>(shape.components[i].presence == Presence::required) << i;
@@ -162,7 +163,7 @@ uint32_t required_of(const Structure &shape) {
 }
 
 // All sets of components that may be there, the fewest first.
-std::vector<uint32_t> presences(const Structure &shape) {
+std::vector<uint32_t> presences(const StructureShape &shape) {
     std::vector<uint32_t> found;
     const uint32_t required = required_of(shape);
     for (uint32_t bits = 0; bits < uint32_t{1} << shape.count; ++bits)
@@ -174,7 +175,7 @@ std::vector<uint32_t> presences(const Structure &shape) {
 }
 
 std::string whole_structure(const Type &type, Extent extent, const Flavour &flavour, int depth) {
-    const Structure &shape = shape_of<Structure>(type);
+    const StructureShape &shape = shape_of<StructureShape>(type);
     if (shape.content != nullptr)
         return make(*shape.content, extent, flavour, depth);
     std::vector<uint32_t> candidates = presences(shape);
@@ -210,7 +211,7 @@ std::string make(const Type &type, Extent extent, const Flavour &flavour, int de
         return make_component(shape.alternatives[extent == Extent::full ? shape.count - 1 : 0], extent, flavour, depth);
     }
     if (is_string_choice(type))
-        return element(std::countr_zero(shape_of<StringChoice>(type).tags), "text");
+        return element(std::countr_zero(shape_of<StringChoiceShape>(type).tags), "text");
     return leaves(type, flavour)[0];
 }
 
@@ -244,7 +245,7 @@ std::vector<Sample> alternatives(const Type &type, const Flavour &flavour) {
         }
     } else if (is_string_choice(type)) {
         for (int tag = 0; tag < 32; ++tag)
-            if (core::allows(shape_of<StringChoice>(type), tag))
+            if (core::allows(shape_of<StringChoiceShape>(type), tag))
                 found.push_back({"tag " + std::to_string(tag), element(tag, std::string(4, 'x'))});
     } else if (!is_structure(type) && !is_list(type)) {
         for (const std::string &leaf : leaves(type, flavour))
@@ -264,15 +265,15 @@ std::vector<Sample> make_samples(const Type &type) {
     add("full", make(type, Extent::full, flavour_of(type, Extent::full), 0));
     for (const Sample &one : alternatives(type, plain))
         add(one.what, one.octets);
-    if (is_list(type) || (is_structure(type) && shape_of<Structure>(type).content != nullptr)) {
-        const Type &list = is_list(type) ? type : *shape_of<Structure>(type).content;
+    if (is_list(type) || (is_structure(type) && shape_of<StructureShape>(type).content != nullptr)) {
+        const Type &list = is_list(type) ? type : *shape_of<StructureShape>(type).content;
         const Type &member = core::row(shape_of<ListShape>(list).element);
         for (const Sample &one : alternatives(member, plain))
             add("of " + one.what, element(type.usual_identifier, one.octets));
         add("long",
             element(type.usual_identifier, repeated(make(member, Extent::minimal, plain, 1), elements_of_long_list)));
     } else if (is_structure(type)) {
-        const Structure &shape = shape_of<Structure>(type);
+        const StructureShape &shape = shape_of<StructureShape>(type);
         for (uint32_t i = 0; i < shape.count && shape.allows == nullptr; ++i) {
             for (const Sample &one : alternatives(*shape.components[i].taken_as, plain)) {
                 std::string content;
@@ -343,9 +344,9 @@ const std::string &minimal_sample(uint32_t type) {
 std::vector<Combination> combinations(uint32_t number) {
     std::vector<Combination> found;
     const Type &type = core::row(number);
-    if (!is_structure(type) || shape_of<Structure>(type).content != nullptr)
+    if (!is_structure(type) || shape_of<StructureShape>(type).content != nullptr)
         return found;
-    const Structure &shape = shape_of<Structure>(type);
+    const StructureShape &shape = shape_of<StructureShape>(type);
     for (const uint32_t present : presences(shape))
         for (const Flavour &flavour : flavours) {
             std::string whole =
@@ -395,7 +396,7 @@ std::vector<Sample> component_values(const Type &type) {
     std::vector<Sample> found;
     std::vector<std::string> taken;
     if (is_structure(type)) {
-        const Structure &shape = shape_of<Structure>(type);
+        const StructureShape &shape = shape_of<StructureShape>(type);
         const Flavour &flavour = flavour_of(type, Extent::minimal);
         for (uint32_t i = 0; i < shape.count; ++i) {
             const Type &component = *shape.components[i].copied_as;
@@ -414,31 +415,32 @@ std::vector<Sample> component_values(const Type &type) {
 namespace {
 
 bool is_list_structure(const Type &type) {
-    return is_structure(type) && shape_of<Structure>(type).content != nullptr;
+    return is_structure(type) && shape_of<StructureShape>(type).content != nullptr;
 }
 
 bool keeps_octets(const Type &type) {
     return type.operations == &core::kept_structure_operations ||
-           (is_structure(type) && shape_of<Structure>(type).signed_slot == 0);
+           (is_structure(type) && shape_of<StructureShape>(type).signed_slot == 0);
 }
 
 // The components or alternatives of a type.
 std::pair<const Component *, uint8_t> components_of(const Type &type) {
     if (is_structure(type))
-        return {shape_of<Structure>(type).components, shape_of<Structure>(type).count};
+        return {shape_of<StructureShape>(type).components, shape_of<StructureShape>(type).count};
     if (is_table_choice(type))
         return {shape_of<ChoiceShape>(type).alternatives, shape_of<ChoiceShape>(type).count};
     return {nullptr, uint8_t{0}};
 }
 
 const Type &behind(const Type &type, uint8_t step) {
-    return is_list_structure(type) ? *shape_of<Structure>(type).content : *components_of(type).first[step].taken_as;
+    return is_list_structure(type) ? *shape_of<StructureShape>(type).content
+                                   : *components_of(type).first[step].taken_as;
 }
 
 bool is_restricted(const Type &type, const std::vector<uint8_t> &way) {
     const Type *at = &type;
     for (const uint8_t step : way) {
-        if (is_structure(*at) && shape_of<Structure>(*at).allows != nullptr)
+        if (is_structure(*at) && shape_of<StructureShape>(*at).allows != nullptr)
             return true;
         at = &behind(*at, step);
     }
@@ -454,7 +456,7 @@ std::string around(const Type &type, std::span<const uint8_t> way, const std::st
     const std::string part = under_tag(inner, components_of(type).first[way[0]].tag);
     if (!is_structure(type))
         return part;
-    const Structure &shape = shape_of<Structure>(type);
+    const StructureShape &shape = shape_of<StructureShape>(type);
     std::string whole;
     // With what is required, or else with all that there may be.
     for (const uint32_t others : {required_of(shape), ~uint32_t{0}}) {
@@ -486,7 +488,7 @@ const core::Value *HeldList::of(const core::Value *value) const {
         if (value == nullptr)
             return nullptr;
         if (is_structure(*type)) {
-            value = static_cast<const core::Record *>(value)->slot(step);
+            value = static_cast<const core::Structure *>(value)->slot(step);
         } else {
             const auto *choice = static_cast<const core::Choice *>(value);
             value = choice->alternative == step ? choice->value : nullptr;
@@ -556,10 +558,10 @@ public:
         if (!is_new)
             return at->second;
         bool regular = true;
-        if (is_structure(type) && shape_of<Structure>(type).content == nullptr)
-            regular = holds(shape_of<Structure>(type).components, shape_of<Structure>(type).count);
+        if (is_structure(type) && shape_of<StructureShape>(type).content == nullptr)
+            regular = holds(shape_of<StructureShape>(type).components, shape_of<StructureShape>(type).count);
         else if (is_structure(type))
-            regular = holds(*shape_of<Structure>(type).content);
+            regular = holds(*shape_of<StructureShape>(type).content);
         else if (is_list(type))
             regular = holds(core::row(shape_of<ListShape>(type).element));
         else if (is_table_choice(type))
