@@ -41,7 +41,8 @@ constexpr Component certificate_choice_alternatives[] = {
 constexpr StructureShape other_certificate_format = structure(source, other_format_components);
 constexpr ChoiceShape certificate_choices = choice(source, certificate_choice_alternatives);
 // CertificateSet ::= SET OF CertificateChoices
-constexpr ListShape certificate_set = {KOVRA_ASN1_TYPE_CERTIFICATE_CHOICES, ListReading::inlined, nullptr, source};
+constexpr ListShape certificate_set = {
+    .element = KOVRA_ASN1_TYPE_CERTIFICATE_CHOICES, .reading = ListReading::inlined, .source = source};
 
 } // namespace kovra::asn1
 

@@ -78,7 +78,7 @@ constexpr StructureShape other_key_attribute = structure(source, key_attribute_c
 constexpr StructureShape recipient_key_identifier = structure(source, key_identifier_components);
 constexpr ChoiceShape key_agree_recipient_identifier = choice(source, recipient_alternatives);
 constexpr StructureShape recipient_encrypted_key = structure(source, encrypted_key_components);
-constexpr ListShape recipient_encrypted_keys = {KOVRA_ASN1_TYPE_RECIPIENT_ENCRYPTED_KEY};
+constexpr ListShape recipient_encrypted_keys = {.element = KOVRA_ASN1_TYPE_RECIPIENT_ENCRYPTED_KEY};
 constexpr StructureShape key_agree_recipient_info = structure(source, agreement_components);
 
 } // namespace kovra::asn1

@@ -81,7 +81,7 @@ constexpr StructureShape password_recipient_info = structure(source, password_co
 constexpr StructureShape other_recipient_info = structure(source, other_recipient_components);
 constexpr ChoiceShape recipient_info = choice(source, recipient_alternatives);
 // RecipientInfos ::= SET OF RecipientInfo
-constexpr ListShape recipient_infos = {KOVRA_ASN1_TYPE_RECIPIENT_INFO, ListReading::dispatched};
+constexpr ListShape recipient_infos = {.element = KOVRA_ASN1_TYPE_RECIPIENT_INFO, .reading = ListReading::dispatched};
 
 } // namespace kovra::asn1
 

@@ -34,8 +34,8 @@ constexpr Component revocation_choice_alternatives[] = {
 constexpr StructureShape other_revocation_info_format = alike(source, other_components, other_certificate_format);
 constexpr ChoiceShape revocation_info_choice = choice(source, revocation_choice_alternatives);
 // RevocationInfoChoices ::= SET OF RevocationInfoChoice
-constexpr ListShape revocation_info_choices = {KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICE, ListReading::inlined, nullptr,
-                                               source};
+constexpr ListShape revocation_info_choices = {
+    .element = KOVRA_ASN1_TYPE_REVOCATION_INFO_CHOICE, .reading = ListReading::inlined, .source = source};
 
 } // namespace kovra::asn1
 

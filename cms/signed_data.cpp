@@ -41,9 +41,9 @@ bool is_octet_string_or_absent(const Structure &record) {
 
 constexpr StructureShape pkcs7_signed_data = structure(source, signed_message_components);
 constexpr StructureShape cms_signed_data =
-    restricted(pkcs7_signed_data, is_octet_string_or_absent, not_an_octet_string, false);
+    restricted(pkcs7_signed_data, is_octet_string_or_absent, not_an_octet_string);
 // DigestAlgorithmIdentifiers ::= SET OF AlgorithmIdentifier
-constexpr ListShape digest_algorithms = {KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER};
+constexpr ListShape digest_algorithms = {.element = KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER};
 
 } // namespace kovra::asn1
 

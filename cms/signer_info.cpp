@@ -34,7 +34,7 @@ constexpr Component signer_components[] = {
 
 constexpr StructureShape signer_info = structure(source, signer_components);
 // SignerInfos ::= SET OF SignerInfo
-constexpr ListShape signer_infos = {KOVRA_ASN1_TYPE_SIGNER_INFO};
+constexpr ListShape signer_infos = {.element = KOVRA_ASN1_TYPE_SIGNER_INFO};
 
 } // namespace kovra::asn1
 

@@ -85,16 +85,16 @@ uint8_t find(const ChoiceShape &shape, const Identifier &identifier) {
         const Component &component = shape.alternatives[i];
         const Type &type = row_of(component);
         if (component.tag.tagging == Tagging::none) {
-            if (component.begins == Begins::in_any_form ? identifier.is(Class::universal, type.tag)
-                                                        : begins(type, identifier))
+            if (shape.any_form == AnyForm::of_untagged ? identifier.is(Class::universal, type.tag)
+                                                       : begins(type, identifier))
                 break;
             continue;
         }
-        if (component.begins == Begins::with_any_number && identifier.tag_class == Class::context)
+        if (component.has_any_context_tag && identifier.tag_class == Class::context)
             break;
         const bool is_constructed = component.tag.tagging == Tagging::explicit_ || type.form == Form::constructed;
         if (identifier.is(Class::context, component.tag.number) &&
-            (shape.any_form || !is_constructed || identifier.form == Form::constructed))
+            (shape.any_form == AnyForm::of_tagged || !is_constructed || identifier.form == Form::constructed))
             break;
     }
     return i;
@@ -148,7 +148,8 @@ Result decode_choice(Decoder &decoder, const Type &type, Value *&out) {
         return result;
     const bool is_known = find(shape, identifier) != shape.count;
     // Where only the tag number tells the alternative, a broken length comes to light before an unknown number.
-    const bool may_be_known = is_known || (shape.any_form && identifier.tag_class == Class::context);
+    const bool may_be_known =
+        is_known || (shape.any_form == AnyForm::of_tagged && identifier.tag_class == Class::context);
     if (!may_be_known)
         return decoder.fail(in(shape), code::incorrect_item);
     if (const Result result = decode_length(decoder, in(shape), length); result != success)
@@ -261,10 +262,8 @@ constexpr Operations string_choice_operations = {
     .records_reserve = leaf_reserve<2 * (sizeof(TaggedString) + sizeof(String))>,
 };
 
-Choice *construct_choice(const ChoiceShape &shape, uint32_t alternative, const kovra_asn1_value *value,
-                         uint8_t copied_as) {
-    const uint8_t type = copied_as != 0 ? copied_as : shape.alternatives[alternative].type;
-    Value *copy = copy_part(row(type), static_cast<const Value *>(value));
+Choice *construct_choice(const ChoiceShape &shape, uint32_t alternative, const kovra_asn1_value *value) {
+    Value *copy = copy_part(*shape.alternatives[alternative].copied_as, static_cast<const Value *>(value));
     if (copy == nullptr)
         return nullptr;
     auto *choice = new_root<Choice>();

@@ -6,25 +6,27 @@
 
 namespace kovra::asn1 {
 
+// Which alternatives are told apart by class and tag number alone, so that a form that does not fit is found when the
+// content is read. Of a primitive type under an implicit tag that is so always.
+enum class AnyForm : uint8_t { no, of_tagged, of_untagged };
+
 struct ChoiceShape {
     const char *source; // module that the entries of failures name
     const Component *alternatives;
     uint8_t count;
-    // Alternatives are told apart by class and tag number alone: whether the form fits is found when the content is
-    // read.
-    bool any_form = false;
+    AnyForm any_form = AnyForm::no;
 };
 
 template <size_t count>
-consteval ChoiceShape choice(const char *source, const Component (&alternatives)[count], bool any_form = false) {
+consteval ChoiceShape choice(const char *source, const Component (&alternatives)[count],
+                             AnyForm any_form = AnyForm::no) {
     expect_sound(alternatives, count, true);
     return {source, alternatives, count, any_form};
 }
 
-// A new choice that holds a copy of `value`, made as `copied_as` (0: as the alternative's type). Null when there is no
+// A new choice that holds a copy of `value`, made as the type that the alternative is copied as. Null when there is no
 // value, or it cannot be copied.
-Choice *construct_choice(const ChoiceShape &shape, uint32_t alternative, const kovra_asn1_value *value,
-                         uint8_t copied_as = 0);
+Choice *construct_choice(const ChoiceShape &shape, uint32_t alternative, const kovra_asn1_value *value);
 
 // A new choice of an alternative that is NULL and has no value.
 Choice *construct_null_choice(const ChoiceShape &shape, uint32_t alternative);

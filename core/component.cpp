@@ -64,10 +64,8 @@ Result encode_within_tag(Encoder &encoder, Site site, const Component &component
 }
 
 Result encode_component_content(Encoder &encoder, Site site, const Component &component, Value *value, int32_t length) {
-    if (component.content_written_as == nullptr)
-        return encode_content(encoder, row_of(component), value, length);
-    const Type &type = *component.content_written_as;
-    return holds(type, value) ? encode_content(encoder, type, value, length) : encoder.fail(site, code::incorrect_item);
+    return component.is_unwritable ? encoder.fail(site, code::incorrect_item)
+                                   : encode_content(encoder, row_of(component), value, length);
 }
 
 Result decode_explicit(Decoder &decoder, Site site, const Component &component, int32_t length, Value *&out) {

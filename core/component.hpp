@@ -14,7 +14,9 @@ enum class Tagging : uint8_t {
     none,
     implicit,
     explicit_,
-    bare, // written only: marked and counted like an explicit tag, with nothing but the value's content behind it
+    // Only for writing: tag and length of an explicit tag, and the content octets without the identifier and length
+    // octets that an explicit tag has before them, although these are counted.
+    bare,
 };
 enum class Presence : uint8_t { required, optional, defaulted };
 
@@ -67,15 +69,6 @@ constexpr Tag bare_tag(uint8_t number) {
 // Of a component that adds no entry of its own to those that its value left.
 inline constexpr int32_t no_code = -1;
 
-// Which identifiers begin a component. The form is usually that of the tag's content, except that the content of an
-// implicit tag, where its type is primitive, finds a constructed form by itself.
-enum class Begins : uint8_t {
-    usually,
-    in_any_form,    // an alternative's class and tag alone tell; a wrong form is found when the content is read
-    in_own_form,    // under an implicit tag too
-    with_any_number // and any context tag, in either form
-};
-
 struct Component {
     const char *name;
     uint8_t type;
@@ -84,10 +77,10 @@ struct Component {
     Tag encode_tag;          // the same, unless the component is written under another tag than it is read under
     const Default *fallback; // of a defaulted component
     int32_t line;
-    Begins begins = Begins::usually;
-    // Required, and missing (0x1020a) where the content ends before it; else the octets behind the content are looked
-    // at.
-    bool within_content = false;
+    bool has_own_form_only = false;
+    bool has_any_context_tag = false;
+    bool is_missing_at_end = false;
+    bool is_unwritable = false;
     // Codes that stand in for those of the component's type; 0: none does.
     int32_t encode_code = 0;
     int32_t decode_code = 0;
@@ -95,43 +88,60 @@ struct Component {
     // another stands in for it.
     const Type *taken_as = &row(type);
     const Type *copied_as = &row(type);
-    // The row that writes the content octets although the lengths are those of the component's own; null: none does.
-    const Type *content_written_as = nullptr;
 
-    constexpr Component begun(Begins how) const {
+    // What a component does that others do not, as a remark behind its row.
+
+    // Under an implicit tag, only the form of the type begins it. Without this, a constructed form of a primitive type
+    // begins it, too, and is refused when the content is read.
+    constexpr Component own_form_only() const {
         Component changed = *this;
-        changed.begins = how;
+        changed.has_own_form_only = true;
         return changed;
     }
-    constexpr Component only_within_content() const {
+    // Every context tag begins this alternative, in either form.
+    constexpr Component any_context_tag() const {
         Component changed = *this;
-        changed.within_content = true;
+        changed.has_any_context_tag = true;
         return changed;
     }
+    // Where the content ends before it, the component is missing (0x1020a). Without this, an identifier is read there,
+    // from the octets behind the structure.
+    constexpr Component missing_at_end() const {
+        Component changed = *this;
+        changed.is_missing_at_end = true;
+        return changed;
+    }
+    // Can be read and measured; writing it fails with 0x1020a.
+    constexpr Component unwritable() const {
+        Component changed = *this;
+        changed.is_unwritable = true;
+        return changed;
+    }
+    // Has codes of its own.
     constexpr Component codes(int32_t encode, int32_t decode) const {
         Component changed = *this;
         changed.encode_code = encode;
         changed.decode_code = decode;
         return changed;
     }
-    constexpr Component encode_content_as(uint8_t other) const {
-        Component changed = *this;
-        changed.content_written_as = &row(other);
-        return changed;
-    }
+    // Has the codes of another type, or only its code of a failed decode.
+    constexpr Component codes_of(uint8_t other) const { return codes(row(other).base, row(other).base + 1); }
+    constexpr Component decode_code_of(uint8_t other) const { return codes(encode_code, row(other).base + 1); }
+    // Is written under another tag than it is read under.
     constexpr Component encode_under(Tag other) const {
         Component changed = *this;
         changed.encode_tag = other;
         return changed;
     }
+    // A constructor takes a value of another type for it.
     constexpr Component copy_as(uint8_t other) const {
         Component changed = *this;
         changed.copied_as = &row(other);
         return changed;
     }
-    // Of a type that has no number.
+    // Is of a type that has no number, and no code either.
     constexpr Component of(const Type &own) const {
-        Component changed = *this;
+        Component changed = codes(no_code, no_code);
         changed.taken_as = changed.copied_as = &own;
         return changed;
     }

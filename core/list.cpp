@@ -448,8 +448,8 @@ constexpr Operations any_list_operations = {
     .records_reserve = list_reserve,
 };
 
-constexpr ListShape list_of_any = {KOVRA_ASN1_TYPE_ANY};
-constexpr ListShape list_of_any_1 = {KOVRA_ASN1_TYPE_ANY, ListReading::tagged, "ASN1_List"};
+constexpr ListShape list_of_any = {.element = KOVRA_ASN1_TYPE_ANY};
+constexpr ListShape list_of_any_1 = {.element = KOVRA_ASN1_TYPE_ANY, .nonempty = "ASN1_List"};
 
 List *new_list(Arena &arena) {
     auto *list = new_record<List>(arena);

@@ -56,9 +56,8 @@ template <const StructureShape &shape, class... Arguments> Structure *construct(
     return construct(shape, arguments...);
 }
 // A new choice of this alternative, with a copy of the value; without one of an alternative that is NULL.
-template <const ChoiceShape &shape, Name name>
-Choice *construct_choice(const kovra_asn1_value *value, uint8_t copied_as = 0) {
-    return construct_choice(shape, alternative_named<shape, name>, value, copied_as);
+template <const ChoiceShape &shape, Name name> Choice *construct_choice(const kovra_asn1_value *value) {
+    return construct_choice(shape, alternative_named<shape, name>, value);
 }
 template <const ChoiceShape &shape, Name name> Choice *construct_choice() {
     return construct_null_choice(shape, alternative_named<shape, name>);

@@ -75,7 +75,7 @@ int32_t measure(const StructureShape &shape, Structure &record) {
     for (uint8_t i = 0; i < shape.count; ++i) {
         Value *value = record.slots[i];
         const Component &component = shape.components[i];
-        if (i == shape.signed_slot && is_kept(kept_of(record)[1])) {
+        if (i == 0 && shape.is_signed && is_kept(kept_of(record)[1])) {
             total += kept_of(record)[1].length;
             continue;
         }
@@ -93,14 +93,13 @@ int32_t measure(const StructureShape &shape, Structure &record) {
 
 // The signed component is written as it was read, or as it is written this first time: with the lengths that were
 // measured for what holds it.
-Result encode_signed(Encoder &encoder, Site site, const Component &component, Structure &record, uint8_t slot,
-                     Measure measure) {
+Result encode_signed(Encoder &encoder, Site site, const Component &component, Structure &record, Measure measure) {
     Octets &kept = kept_of(record)[1];
     if (is_kept(kept))
         return encoder.put(site, kept.data(*record.arena), kept.length);
     encoder.hold();
     const int64_t begin = encoder.written();
-    Value *value = record.slots[slot];
+    Value *value = record.slots[0];
     const int32_t length = value != nullptr ? component_length(component, value, measure) : unknown;
     // Short memory is reported as where any value's encoding begins.
     Result result = length > 0 ? encoder.expect({"ASN1", __LINE__}, static_cast<size_t>(length), record) : success;
@@ -115,7 +114,7 @@ Result encode_signed(Encoder &encoder, Site site, const Component &component, St
 int32_t structure_content_length(const Type &type, Value *value, Measure known) {
     const StructureShape &shape = shape_of(type);
     auto *record = static_cast<Structure *>(value);
-    if (record == nullptr || (shape.refuses_length && !shape.allows(*record)))
+    if (record == nullptr || (shape.length_of_refused == LengthOfRefused::none && !shape.allows(*record)))
         return unknown;
     return known == Measure::known ? record->measured : measure(shape, *record);
 }
@@ -137,8 +136,8 @@ Result encode_structure_content(Encoder &encoder, const Type &type, Value *value
         const Component &component = shape.components[i];
         const Site site = at(shape, component);
         Result result = success;
-        if (i == shape.signed_slot)
-            result = encode_signed(encoder, site, component, *record, i, measure);
+        if (i == 0 && shape.is_signed)
+            result = encode_signed(encoder, site, component, *record, measure);
         else if (component.presence == Presence::required || is_written(component, record->slots[i]))
             result = encode_component(encoder, site, component, record->slots[i], measure);
         if (result != success)
@@ -161,7 +160,8 @@ Result refuse_other_content(Encoder &encoder, const Type &type, const Value &val
 int32_t kept_length(const Type &type, Value *value, Measure known) {
     auto *record = static_cast<Structure *>(value);
     const int32_t content = structure_content_length(type, value, Measure::known);
-    if (record != nullptr && is_kept(*kept_of(*record)) && !(content == unknown && shape_of(type).refuses_length))
+    if (record != nullptr && is_kept(*kept_of(*record)) &&
+        !(content == unknown && shape_of(type).length_of_refused == LengthOfRefused::none))
         return static_cast<int32_t>(kept_of(*record)->length);
     return whole_length_of(type.tag, structure_content_length(type, value, known));
 }
@@ -211,7 +211,7 @@ public:
         const Component *const required_end = component + shape_.required_end;
         Value **slot = record_.slots;
         uint32_t whole = shape_.read_whole;
-        if (shape_.signed_slot == 0) {
+        if (shape_.is_signed) {
             *slot = nullptr;
             if (const Result result = read_signed(*component++, *slot++); result != success)
                 return result;
@@ -264,8 +264,7 @@ private:
             return begins(type, identifier_);
         case Tagging::implicit:
             return identifier_.is(Class::context, component.tag.number) &&
-                   (identifier_.form == type.form ||
-                    (type.form != Form::constructed && component.begins != Begins::in_own_form));
+                   (identifier_.form == type.form || (type.form != Form::constructed && !component.has_own_form_only));
         case Tagging::explicit_:
         case Tagging::bare:
             return identifier_.is(Class::context, component.tag.number) && identifier_.form == Form::constructed;
@@ -307,7 +306,7 @@ private:
 
     Result read_tested(const Component &component, Value *&slot) {
         if (state_ == State::between) {
-            if (component.within_content && decoder_.position() == end_)
+            if (component.is_missing_at_end && decoder_.position() == end_)
                 return decoder_.fail(at(shape_, component), code::incorrect_item);
             if (const Result result = next_identifier(at(shape_, component)); result != success)
                 return result;
@@ -539,9 +538,8 @@ Result signed_octets(Structure &record, const uint8_t *&out, uint32_t &out_lengt
     Octets &kept = kept_of(record)[1];
     if (!is_kept(kept)) {
         Encoder encoder(static_cast<kovra_err_ctx *>(nullptr));
-        const Component &first = shape.components[shape.signed_slot];
-        const Result result =
-            encode_signed(encoder, at(shape, first), first, record, shape.signed_slot, Measure::fresh);
+        const Component &first = shape.components[0];
+        const Result result = encode_signed(encoder, at(shape, first), first, record, Measure::fresh);
         if (result != success)
             return result;
     }

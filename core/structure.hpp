@@ -13,14 +13,14 @@
 
 namespace kovra::asn1 {
 
-inline constexpr uint8_t no_slot = 0xFF;
+// The content length of a record that is not allowed.
+enum class LengthOfRefused : uint8_t { told, none };
 
 struct StructureShape {
     const char *source; // module that the entries of failures name
     const Component *components;
     uint8_t count;
-    // The first component, when its exact octets are kept because they are what is signed; else no_slot.
-    uint8_t signed_slot = no_slot;
+    bool is_signed = false;   // the first component: its exact octets are kept
     uint8_t required_end = 0; // behind the last required component
     uint32_t read_whole = 0;  // a bit for each component that is decoded without a look at its identifier first
     // The structure whose records these are, when this one only restricts it; null: its own.
@@ -28,7 +28,7 @@ struct StructureShape {
     // A record that is not allowed is refused in both directions with `refusal`; null: all are allowed.
     bool (*allows)(const Structure &) = nullptr;
     int32_t refusal = 0;
-    bool refuses_length = false; // and has no content length either
+    LengthOfRefused length_of_refused = LengthOfRefused::told;
     // What stands behind the last component in the indefinite form is read as an identifier first: an element there is
     // an item too many (0x1020a), not a broken end-of-contents marker (0x102e9).
     bool tests_end = false;
@@ -78,12 +78,21 @@ consteval StructureShape list_structure(const char *source, const Component (&co
 }
 // The records of another structure, of which only some are allowed.
 consteval StructureShape restricted(const StructureShape &base, bool (*allows)(const Structure &), int32_t refusal,
-                                    bool refuses_length) {
+                                    LengthOfRefused length = LengthOfRefused::told) {
     StructureShape made = base;
     made.records_of = &base;
     made.allows = allows;
     made.refusal = refusal;
-    made.refuses_length = refuses_length;
+    made.length_of_refused = length;
+    return made;
+}
+// A structure of which only some records are allowed.
+template <size_t count>
+consteval StructureShape restricted(const char *source, const Component (&components)[count],
+                                    bool (*allows)(const Structure &), int32_t refusal) {
+    StructureShape made = tabulate(source, components);
+    made.allows = allows;
+    made.refusal = refusal;
     return made;
 }
 // A structure whose records are those of another: the components are the same under names of its own.
@@ -93,18 +102,11 @@ consteval StructureShape alike(const char *source, const Component (&components)
     made.records_of = &base;
     return made;
 }
-// A structure of which only some records are allowed.
-consteval StructureShape checked(const StructureShape &base, bool (*allows)(const Structure &), int32_t refusal) {
-    StructureShape made = base;
-    made.allows = allows;
-    made.refusal = refusal;
-    return made;
-}
 // A structure that is signed: its first component is what the signature covers.
 template <size_t count>
 consteval StructureShape signed_structure(const char *source, const Component (&components)[count]) {
     StructureShape made = tabulate(source, components);
-    made.signed_slot = 0;
+    made.is_signed = true;
     return made;
 }
 

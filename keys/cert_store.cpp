@@ -35,7 +35,7 @@ constexpr Component entry_components[] = {
 // Every context tag is taken for an algorithm.
 constexpr Component key_id_choice_alternatives[] = {
     required("keyId", KOVRA_ASN1_TYPE_UTF8_STRING),
-    required("algorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, implicit_tag(0)).begun(Begins::with_any_number),
+    required("algorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, implicit_tag(0)).any_context_tag(),
 };
 
 // PrivateKeyAttribute ::= SEQUENCE {
@@ -47,7 +47,7 @@ constexpr Component key_id_choice_alternatives[] = {
 constexpr Component private_key_components[] = {
     required("provider", KOVRA_ASN1_TYPE_UTF8_STRING),
     optional("subProvider", KOVRA_ASN1_TYPE_UTF8_STRING),
-    optional("keyType", KOVRA_ASN1_TYPE_INTEGER, implicit_tag(0)).begun(Begins::in_own_form),
+    optional("keyType", KOVRA_ASN1_TYPE_INTEGER, implicit_tag(0)).own_form_only(),
     required("flag", KOVRA_ASN1_TYPE_INTEGER),
     optional("keyId", KOVRA_ASN1_TYPE_STORE_KEY_ID, explicit_tag(1)),
 };
@@ -59,11 +59,11 @@ constexpr StructureShape cert_with_attributes = structure(source, entry_componen
 constexpr ChoiceShape store_key_id = choice(source, key_id_choice_alternatives);
 constexpr StructureShape private_key_attribute = structure(source, private_key_components);
 // StoreAttributeList ::= SEQUENCE SIZE (1..MAX) OF StoreAttribute
-constexpr ListShape store_attribute_list = {KOVRA_ASN1_TYPE_STORE_ATTRIBUTE, ListReading::tagged, source};
+constexpr ListShape store_attribute_list = {.element = KOVRA_ASN1_TYPE_STORE_ATTRIBUTE, .nonempty = source};
 // CertStore ::= SEQUENCE OF CertWithAttributes
-constexpr ListShape cert_store = {KOVRA_ASN1_TYPE_CERT_WITH_ATTRIBUTES};
+constexpr ListShape cert_store = {.element = KOVRA_ASN1_TYPE_CERT_WITH_ATTRIBUTES};
 // OldCertThumbprints ::= SEQUENCE OF OCTET STRING
-constexpr ListShape old_cert_thumbprints = {KOVRA_ASN1_TYPE_OCTET_STRING};
+constexpr ListShape old_cert_thumbprints = {.element = KOVRA_ASN1_TYPE_OCTET_STRING};
 
 } // namespace kovra::asn1
 

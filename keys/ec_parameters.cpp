@@ -18,8 +18,8 @@ constexpr char source[] = "ASN1_ECC";
 // Curves that are written out stay open. The form of the two primitive ones is judged when their content is read.
 constexpr Component parameters_alternatives[] = {
     required("ecParameters", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY_1),
-    required("namedCurve", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER).begun(Begins::in_any_form),
-    required("implicitlyCA", KOVRA_ASN1_TYPE_NULL).begun(Begins::in_any_form),
+    required("namedCurve", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
+    required("implicitlyCA", KOVRA_ASN1_TYPE_NULL),
 };
 
 } // namespace

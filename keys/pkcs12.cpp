@@ -89,9 +89,9 @@ constexpr StructureShape crl_bag = structure(source, crl_components);
 constexpr StructureShape secret_bag = structure(source, secret_components);
 constexpr StructureShape pkcs12_pbe_params = structure(source, pbe_components);
 // AuthenticatedSafe ::= SEQUENCE OF ContentInfo
-constexpr ListShape authenticated_safe = {KOVRA_ASN1_TYPE_CONTENT_INFO};
+constexpr ListShape authenticated_safe = {.element = KOVRA_ASN1_TYPE_CONTENT_INFO};
 // SafeContents ::= SEQUENCE OF SafeBag
-constexpr ListShape safe_contents = {KOVRA_ASN1_TYPE_SAFE_BAG};
+constexpr ListShape safe_contents = {.element = KOVRA_ASN1_TYPE_SAFE_BAG};
 
 } // namespace kovra::asn1
 

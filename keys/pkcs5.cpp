@@ -68,7 +68,7 @@ constexpr Component pbmac1_components[] = {
 
 } // namespace
 
-constexpr StructureShape pbe_parameter = checked(structure(source, pbe_components), has_salt_of_8, bad_salt);
+constexpr StructureShape pbe_parameter = restricted(source, pbe_components, has_salt_of_8, bad_salt);
 constexpr ChoiceShape pbkdf2_salt = choice(source, salt_choice_alternatives);
 constexpr StructureShape pbkdf2_params = structure(source, pbkdf2_components);
 constexpr StructureShape pbes2_params = structure(source, pbes2_components);

@@ -69,10 +69,9 @@ constexpr int32_t bad_version = 0x10303;
 
 constexpr StructureShape rsa_public_key = structure(source, public_key_components);
 constexpr StructureShape other_prime_info = structure(source, prime_info_components);
-constexpr StructureShape rsa_private_key =
-    checked(structure(source, private_key_components), has_right_version, bad_version);
+constexpr StructureShape rsa_private_key = restricted(source, private_key_components, has_right_version, bad_version);
 // OtherPrimeInfos ::= SEQUENCE SIZE (1..MAX) OF OtherPrimeInfo
-constexpr ListShape other_prime_infos = {KOVRA_ASN1_TYPE_OTHER_PRIME_INFO, ListReading::tagged, source};
+constexpr ListShape other_prime_infos = {.element = KOVRA_ASN1_TYPE_OTHER_PRIME_INFO, .nonempty = source};
 
 } // namespace kovra::asn1
 

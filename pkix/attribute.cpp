@@ -71,18 +71,18 @@ constexpr Component name_and_uid_components[] = {
 } // namespace
 
 constexpr StructureShape attribute_values_with_context_item = structure(source, context_item_components);
-constexpr ListShape attribute_values_with_context = {KOVRA_ASN1_TYPE_ATTRIBUTE_VALUES_WITH_CONTEXT_ITEM};
+constexpr ListShape attribute_values_with_context = {.element = KOVRA_ASN1_TYPE_ATTRIBUTE_VALUES_WITH_CONTEXT_ITEM};
 constexpr StructureShape attribute = structure(source, attribute_components);
-constexpr StructureShape pkcs10_attribute = restricted(attribute, is_plain, 0x1027d, false);
+constexpr StructureShape pkcs10_attribute = restricted(attribute, is_plain, 0x1027d);
 // DirectoryString ::= CHOICE { teletexString, printableString, universalString, utf8String, bmpString }
 constexpr StringChoiceShape directory_string = {source, 0x50181000};
 // PKCS9String ::= CHOICE { ia5String, directoryString }
 constexpr StringChoiceShape pkcs9_string = {source, 0x50581000};
-constexpr StructureShape uuid_pair = checked(structure(source, uuids_components), have_size, code::incorrect_length);
-constexpr ListShape postal_address = {KOVRA_ASN1_TYPE_DIRECTORY_STRING, ListReading::whole};
+constexpr StructureShape uuid_pair = restricted(source, uuids_components, have_size, code::incorrect_length);
+constexpr ListShape postal_address = {.element = KOVRA_ASN1_TYPE_DIRECTORY_STRING, .reading = ListReading::whole};
 constexpr StructureShape telex_number = structure(source, telex_components);
 constexpr StructureShape name_and_optional_uid = structure(source, name_and_uid_components);
-constexpr ListShape smime_capabilities = {KOVRA_ASN1_TYPE_SMIME_CAPABILITY};
+constexpr ListShape smime_capabilities = {.element = KOVRA_ASN1_TYPE_SMIME_CAPABILITY};
 
 namespace {
 

@@ -55,8 +55,10 @@ constexpr Component certificate_components[] = {
 //     issuedByThisCA  [1] EXPLICIT Certificate OPTIONAL }
 // A certificate that cannot be decoded is reported with the code of the to-be-signed part.
 constexpr Component pair_components[] = {
-    optional("issuedToThisCA", KOVRA_ASN1_TYPE_CERTIFICATE, explicit_tag(0)).codes(0x10258, 0x10257),
-    optional("issuedByThisCA", KOVRA_ASN1_TYPE_CERTIFICATE, explicit_tag(1)).codes(0x10258, 0x10257),
+    optional("issuedToThisCA", KOVRA_ASN1_TYPE_CERTIFICATE, explicit_tag(0))
+        .decode_code_of(KOVRA_ASN1_TYPE_TBS_CERTIFICATE),
+    optional("issuedByThisCA", KOVRA_ASN1_TYPE_CERTIFICATE, explicit_tag(1))
+        .decode_code_of(KOVRA_ASN1_TYPE_TBS_CERTIFICATE),
 };
 
 constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATE, "CERTIFICATE", nullptr};

@@ -76,15 +76,15 @@ bool is_pkix(const Structure &record) {
 } // namespace
 
 constexpr StructureShape authority_key_identifier = structure(source, akid_components);
-constexpr ListShape ext_key_usage = {KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER};
+constexpr ListShape ext_key_usage = {.element = KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER};
 constexpr StructureShape private_key_usage_period = structure(source, usage_period_components);
-constexpr ListShape subject_directory_attributes = {KOVRA_ASN1_TYPE_ATTRIBUTE};
+constexpr ListShape subject_directory_attributes = {.element = KOVRA_ASN1_TYPE_ATTRIBUTE};
 constexpr StructureShape basic_constraints = structure(source, basic_components);
 constexpr StructureShape general_subtree = structure(source, subtree_components);
-constexpr ListShape general_subtrees = {KOVRA_ASN1_TYPE_GENERAL_SUBTREE};
+constexpr ListShape general_subtrees = {.element = KOVRA_ASN1_TYPE_GENERAL_SUBTREE};
 constexpr StructureShape name_forms = structure(source, forms_components);
 constexpr StructureShape name_constraints = structure(source, names_components);
-constexpr StructureShape pkix_name_constraints = restricted(name_constraints, is_pkix, 0x102cc, true);
+constexpr StructureShape pkix_name_constraints = restricted(name_constraints, is_pkix, 0x102cc, LengthOfRefused::none);
 
 } // namespace kovra::asn1
 

@@ -61,7 +61,7 @@ constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATE_LIST, "X509 CRL", "CRL"};
 
 constexpr StructureShape tbs_cert_list = structure_with_tested_end(source, tbs_components);
 constexpr StructureShape revoked_certificate = structure(source, revoked_components);
-constexpr ListShape revoked_certificates = {KOVRA_ASN1_TYPE_REVOKED_CERTIFICATE};
+constexpr ListShape revoked_certificates = {.element = KOVRA_ASN1_TYPE_REVOKED_CERTIFICATE};
 constexpr StructureShape certificate_list = signed_structure(source, certificate_list_components);
 
 namespace {

@@ -75,9 +75,9 @@ constexpr Component aaidp_components[] = {
 
 constexpr ChoiceShape distribution_point_name = choice(source, point_name_alternatives);
 constexpr StructureShape distribution_point = structure(source, point_components);
-constexpr ListShape crl_distribution_points = {KOVRA_ASN1_TYPE_DISTRIBUTION_POINT};
+constexpr ListShape crl_distribution_points = {.element = KOVRA_ASN1_TYPE_DISTRIBUTION_POINT};
 constexpr StructureShape access_description = structure(source, access_components);
-constexpr ListShape information_access = {KOVRA_ASN1_TYPE_ACCESS_DESCRIPTION};
+constexpr ListShape information_access = {.element = KOVRA_ASN1_TYPE_ACCESS_DESCRIPTION};
 constexpr StructureShape issuing_distribution_point = structure(source, idp_components);
 constexpr StructureShape aa_issuing_distribution_point = structure(source, aaidp_components);
 

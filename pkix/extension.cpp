@@ -27,7 +27,7 @@ constexpr Component extension_components[] = {
 
 constexpr StructureShape extension = structure("ASN1_Extension", extension_components);
 // Extensions ::= SEQUENCE OF Extension
-constexpr ListShape extensions = {KOVRA_ASN1_TYPE_EXTENSION};
+constexpr ListShape extensions = {.element = KOVRA_ASN1_TYPE_EXTENSION};
 
 } // namespace kovra::asn1
 

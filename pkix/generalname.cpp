@@ -39,13 +39,14 @@ constexpr Component edi_components[] = {
 //     uniformResourceIdentifier  [6] IMPLICIT IA5String,
 //     iPAddress                  [7] IMPLICIT OCTET STRING,
 //     registeredID               [8] IMPLICIT OBJECT IDENTIFIER }
-// ORAddress has no structure of its own here: its parts stay open.
+// ORAddress has no structure of its own here: its parts stay open. The constructor of otherName takes an EDIPartyName,
+// although every other function takes this alternative for an other-name.
 constexpr Component name_alternatives[] = {
-    required("otherName", KOVRA_ASN1_TYPE_INSTANCE_OF, implicit_tag(0)),
+    required("otherName", KOVRA_ASN1_TYPE_INSTANCE_OF, implicit_tag(0)).copy_as(KOVRA_ASN1_TYPE_EDI_PARTY_NAME),
     required("rfc822Name", KOVRA_ASN1_TYPE_IA5_STRING, implicit_tag(1)),
     required("dNSName", KOVRA_ASN1_TYPE_IA5_STRING, implicit_tag(2)),
     required("x400Address", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY_1, implicit_tag(3)),
-    required("directoryName", KOVRA_ASN1_TYPE_NAME, explicit_tag(4)).codes(0x10284, 0x10285),
+    required("directoryName", KOVRA_ASN1_TYPE_NAME, explicit_tag(4)).codes_of(KOVRA_ASN1_TYPE_DIRECTORY_STRING),
     required("ediPartyName", KOVRA_ASN1_TYPE_EDI_PARTY_NAME, implicit_tag(5)),
     required("uniformResourceIdentifier", KOVRA_ASN1_TYPE_IA5_STRING, implicit_tag(6)),
     required("iPAddress", KOVRA_ASN1_TYPE_OCTET_STRING, implicit_tag(7)),
@@ -56,17 +57,16 @@ constexpr Component name_alternatives[] = {
 
 constexpr StructureShape instance_of = structure(source, other_name_components);
 constexpr StructureShape edi_party_name = structure(source, edi_components);
-constexpr ChoiceShape general_name = choice(source, name_alternatives, true);
+constexpr ChoiceShape general_name = choice(source, name_alternatives, AnyForm::of_tagged);
 // GeneralNames ::= SEQUENCE OF GeneralName
-constexpr ListShape general_names = {KOVRA_ASN1_TYPE_GENERAL_NAME, ListReading::whole};
+constexpr ListShape general_names = {.element = KOVRA_ASN1_TYPE_GENERAL_NAME, .reading = ListReading::whole};
 
 } // namespace kovra::asn1
 
 using namespace kovra::asn1;
 
 kovra_asn1_value *kovra_x509generalname_new_othername(const kovra_asn1_value *value) noexcept {
-    // Copied as an EDIPartyName, although every other function takes this alternative for an other-name.
-    return construct_choice<general_name, "otherName">(value, KOVRA_ASN1_TYPE_EDI_PARTY_NAME);
+    return construct_choice<general_name, "otherName">(value);
 }
 
 kovra_asn1_value *kovra_x509generalname_new_rfc822name(const kovra_asn1_value *value) noexcept {

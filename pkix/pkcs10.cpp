@@ -28,7 +28,7 @@ constexpr Component info_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("subject", KOVRA_ASN1_TYPE_NAME),
     required("subjectPKInfo", KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO),
-    required("attributes", KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTES, implicit_tag(0)).only_within_content(),
+    required("attributes", KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTES, implicit_tag(0)).missing_at_end(),
 };
 
 // CertificationRequest ::= SEQUENCE {
@@ -45,7 +45,7 @@ constexpr Armour armour = {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST, "CERTIFICATE R
 
 } // namespace
 
-constexpr ListShape pkcs10_attributes = {KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTE};
+constexpr ListShape pkcs10_attributes = {.element = KOVRA_ASN1_TYPE_PKCS10_ATTRIBUTE};
 constexpr StructureShape certification_request_info = structure(source, info_components);
 constexpr StructureShape certification_request = signed_structure(source, request_components);
 

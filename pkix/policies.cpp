@@ -64,17 +64,17 @@ constexpr Component constraints_components[] = {
 
 } // namespace
 
-constexpr ListShape policy_qualifiers = {KOVRA_ASN1_TYPE_POLICY_QUALIFIER_INFO};
+constexpr ListShape policy_qualifiers = {.element = KOVRA_ASN1_TYPE_POLICY_QUALIFIER_INFO};
 constexpr StructureShape policy_qualifier_info = alike("ASN1_X509", qualifier_components, algorithm_identifier);
 constexpr StructureShape policy_information = structure(source, information_components);
-constexpr ListShape certificate_policies = {KOVRA_ASN1_TYPE_POLICY_INFORMATION};
+constexpr ListShape certificate_policies = {.element = KOVRA_ASN1_TYPE_POLICY_INFORMATION};
 // DisplayText ::= CHOICE { ia5String, visibleString, bmpString, utf8String }
 constexpr StringChoiceShape display_text = {source, 1U << 12 | 1U << 22 | 1U << 26 | 1U << 30};
-constexpr ListShape notice_numbers = {KOVRA_ASN1_TYPE_INTEGER};
+constexpr ListShape notice_numbers = {.element = KOVRA_ASN1_TYPE_INTEGER};
 constexpr StructureShape notice_reference = structure(source, reference_components);
 constexpr StructureShape user_notice = structure(source, notice_components);
 constexpr StructureShape policy_mapping = structure(source, mapping_components);
-constexpr ListShape policy_mappings = {KOVRA_ASN1_TYPE_POLICY_MAPPING};
+constexpr ListShape policy_mappings = {.element = KOVRA_ASN1_TYPE_POLICY_MAPPING};
 constexpr StructureShape policy_constraints = structure(source, constraints_components);
 
 } // namespace kovra::asn1

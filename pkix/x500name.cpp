@@ -53,7 +53,7 @@ bool is_plain(const Structure &record) {
 }
 
 // Name ::= SEQUENCE OF RelativeDistinguishedName
-constexpr ListShape rdn_sequence_shape = {KOVRA_ASN1_TYPE_RELATIVE_DISTINGUISHED_NAME};
+constexpr ListShape rdn_sequence_shape = {.element = KOVRA_ASN1_TYPE_RELATIVE_DISTINGUISHED_NAME};
 constexpr Type rdn_sequence = {KOVRA_ASN1_TYPE_NAME, Form::constructed,  tag::sequence, 0x1024a,
                                &list_operations,     &rdn_sequence_shape};
 constexpr Component name_components[] = {required("rdnSequence", KOVRA_ASN1_TYPE_NAME)};
@@ -61,14 +61,14 @@ constexpr Component name_components[] = {required("rdnSequence", KOVRA_ASN1_TYPE
 } // namespace
 
 constexpr StructureShape x500_context = structure(source, context_components);
-constexpr ListShape context_list = {KOVRA_ASN1_TYPE_CONTEXT};
+constexpr ListShape context_list = {.element = KOVRA_ASN1_TYPE_CONTEXT};
 constexpr StructureShape dn_values_with_context_item = structure(source, context_item_components);
-constexpr ListShape dn_values_with_context = {KOVRA_ASN1_TYPE_DN_VALUES_WITH_CONTEXT_ITEM};
+constexpr ListShape dn_values_with_context = {.element = KOVRA_ASN1_TYPE_DN_VALUES_WITH_CONTEXT_ITEM};
 constexpr StructureShape attribute_type_and_distinguished_value = structure(source, type_and_value_components);
 constexpr StructureShape attribute_type_and_value =
-    restricted(attribute_type_and_distinguished_value, is_plain, 0x10274, true);
+    restricted(attribute_type_and_distinguished_value, is_plain, 0x10274, LengthOfRefused::none);
 // RelativeDistinguishedName ::= SET OF AttributeTypeAndDistinguishedValue
-constexpr ListShape relative_distinguished_name = {KOVRA_ASN1_TYPE_ATTRIBUTE_TYPE_AND_DISTINGUISHED_VALUE};
+constexpr ListShape relative_distinguished_name = {.element = KOVRA_ASN1_TYPE_ATTRIBUTE_TYPE_AND_DISTINGUISHED_VALUE};
 constexpr StructureShape x500_name = list_structure(source, name_components, rdn_sequence);
 
 namespace {

@@ -23,12 +23,9 @@ constexpr Component revocation_components[] = {
 //     good     [0] IMPLICIT NULL,
 //     revoked  [1] IMPLICIT RevokedInfo,
 //     unknown  [2] IMPLICIT NULL }
-// The content of revoked is handed to the operations of CertStatus, which have no use for it: it can be read and
-// measured, not written.
 constexpr Component status_alternatives[] = {
     required("good", KOVRA_ASN1_TYPE_NULL, implicit_tag(0)),
-    required("revoked", KOVRA_ASN1_TYPE_OCSP_REVOKED_INFO, implicit_tag(1))
-        .encode_content_as(KOVRA_ASN1_TYPE_OCSP_CERT_STATUS),
+    required("revoked", KOVRA_ASN1_TYPE_OCSP_REVOKED_INFO, implicit_tag(1)).unwritable(),
     required("unknown", KOVRA_ASN1_TYPE_NULL, implicit_tag(2)),
 };
 

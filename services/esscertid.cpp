@@ -73,8 +73,8 @@ constexpr StructureShape issuer_serial = structure(source, serial_components);
 constexpr StructureShape ess_cert_id = structure(source, cert_id_components);
 constexpr StructureShape ess_cert_id_v2 = structure(source, cert_id_v2_components);
 // SEQUENCE OF ESSCertID, SEQUENCE OF ESSCertIDv2
-constexpr ListShape ess_cert_ids = {KOVRA_ASN1_TYPE_ESS_CERT_ID};
-constexpr ListShape ess_cert_ids_v2 = {KOVRA_ASN1_TYPE_ESS_CERT_ID_V2};
+constexpr ListShape ess_cert_ids = {.element = KOVRA_ASN1_TYPE_ESS_CERT_ID};
+constexpr ListShape ess_cert_ids_v2 = {.element = KOVRA_ASN1_TYPE_ESS_CERT_ID_V2};
 
 } // namespace kovra::asn1
 

@@ -53,7 +53,7 @@ constexpr Operations operations = {
     .records_reserve = reserve_of_list,
 };
 
-constexpr ListShape shape = {KOVRA_ASN1_TYPE_CERTIFICATE, ListReading::tagged, nullptr, source};
+constexpr ListShape shape = {.element = KOVRA_ASN1_TYPE_CERTIFICATE, .source = source};
 constexpr uint8_t sequence_tag = 16;
 constexpr int32_t certificate_base = 0x10258;
 

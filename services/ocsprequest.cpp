@@ -40,7 +40,7 @@ constexpr Component tbs_components[] = {
 constexpr Component signing_components[] = {
     required("signatureAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("signature", KOVRA_ASN1_TYPE_BIT_STRING),
-    optional("certs", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, explicit_tag(0)).of(ocsp_certificates).codes(no_code, no_code),
+    optional("certs", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, explicit_tag(0)).of(ocsp_certificates),
 };
 
 // OCSPRequest ::= SEQUENCE {
@@ -55,7 +55,7 @@ constexpr Component request_components[] = {
 
 constexpr StructureShape ocsp_single_request = structure(source, single_components);
 // RequestList ::= SEQUENCE OF Request
-constexpr ListShape ocsp_request_list = {KOVRA_ASN1_TYPE_OCSP_SINGLE_REQUEST};
+constexpr ListShape ocsp_request_list = {.element = KOVRA_ASN1_TYPE_OCSP_SINGLE_REQUEST};
 constexpr StructureShape ocsp_tbs_request = structure(source, tbs_components);
 constexpr StructureShape ocsp_signature = structure(source, signing_components);
 constexpr StructureShape ocsp_request = structure(source, request_components);

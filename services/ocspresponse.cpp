@@ -38,7 +38,7 @@ constexpr Component basic_components[] = {
     required("tbsResponseData", KOVRA_ASN1_TYPE_OCSP_RESPONSE_DATA),
     required("signatureAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),
     required("signature", KOVRA_ASN1_TYPE_BIT_STRING),
-    optional("certs", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, explicit_tag(0)).of(ocsp_certificates).codes(no_code, no_code),
+    optional("certs", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, explicit_tag(0)).of(ocsp_certificates),
 };
 
 } // namespace

@@ -45,7 +45,7 @@ constexpr Component data_components[] = {
 
 constexpr StructureShape ocsp_single_response = structure(source, single_components);
 // Responses ::= SEQUENCE OF SingleResponse
-constexpr ListShape ocsp_responses = {KOVRA_ASN1_TYPE_OCSP_SINGLE_RESPONSE};
+constexpr ListShape ocsp_responses = {.element = KOVRA_ASN1_TYPE_OCSP_SINGLE_RESPONSE};
 constexpr StructureShape ocsp_response_data = structure(source, data_components);
 
 } // namespace kovra::asn1

@@ -33,7 +33,7 @@ constexpr Component response_components[] = {
 } // namespace
 
 // PKIFreeText ::= SEQUENCE SIZE (1..MAX) OF UTF8String
-constexpr ListShape pki_free_text = {KOVRA_ASN1_TYPE_UTF8_STRING, ListReading::tagged, source};
+constexpr ListShape pki_free_text = {.element = KOVRA_ASN1_TYPE_UTF8_STRING, .nonempty = source};
 constexpr StructureShape pki_status_info = structure(source, info_components);
 constexpr StructureShape time_stamp_resp = structure(source, response_components);
 

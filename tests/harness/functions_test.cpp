@@ -187,7 +187,7 @@ std::map<const void *, Part> parts_of(const core::Structure &record) {
     for (uint8_t i = 0; i < record.shape->count; ++i) {
         if (const core::Value *part = record.slot(i); part != nullptr)
             found.emplace(part, Part(i, -1));
-        if (i == 0 && record.shape->signed_slot == 0) {
+        if (i == 0 && record.shape->is_signed) {
             const auto *within = static_cast<const core::Structure *>(record.slot(0));
             for (uint8_t j = 0; j < within->shape->count; ++j)
                 if (within->slot(j) != nullptr)

@@ -420,7 +420,7 @@ bool is_list_structure(const Type &type) {
 
 bool keeps_octets(const Type &type) {
     return type.operations == &core::kept_structure_operations ||
-           (is_structure(type) && shape_of<StructureShape>(type).signed_slot == 0);
+           (is_structure(type) && shape_of<StructureShape>(type).is_signed);
 }
 
 // The components or alternatives of a type.
@@ -585,7 +585,7 @@ private:
 bool is_written_as_read(const Type &type) {
     static Regularity regularity([](const Component &component) {
         return component.tag.tagging != component.encode_tag.tagging ||
-               component.tag.number != component.encode_tag.number || component.content_written_as != nullptr;
+               component.tag.number != component.encode_tag.number || component.is_unwritable;
     });
     return regularity.holds(type);
 }
