@@ -1,4 +1,5 @@
-// What the libraries' own reasoning rests on. A tight build ends where it does not hold; others do not look.
+// Conditions that the libraries rely on and no caller can break. A tight build aborts where one does not hold; other
+// builds do not check.
 #pragma once
 
 #include <cstdlib>

@@ -41,7 +41,7 @@ template <class Record> Record *make_record(const char *source, size_t extra = 0
     return record;
 }
 
-// The word is wiped first, so that a handle used after its release is refused as long as its memory is not used anew.
+// The word is wiped first: a released handle is refused as long as its memory is not used again.
 template <class Record> void release_record(Record *record) {
     record->magic = 0;
     kovra_free(record);

@@ -1,5 +1,5 @@
-// Sizes that are computed from other sizes: how much to allocate. What does not fit is `too_large`, which stays so in
-// whatever is computed from it, and which no allocator gives.
+// Sizes that are computed from other sizes: how much to allocate. What does not fit is `too_large`: every size
+// computed from it is too large, too, and no allocator has that much.
 #pragma once
 
 #include <cstddef>

@@ -1,8 +1,8 @@
-// Every size at which the libraries or the tool go another way: first capacities, buffers, what is done at once.
+// Every size from which on the libraries or the tool go another way: first capacities, buffers, how many at once.
 //
 // In a tight build all of them are as small as they can be, so that the smallest input takes every way and meets the
-// border between two ways; nothing that a caller can see depends on them but for what each says. Tests ask `is_tight`
-// where they count with the real ones.
+// border between two ways; nothing that a caller can see depends on them, unless a comment at the threshold says so.
+// Tests that count with the real sizes ask `is_tight`.
 #pragma once
 
 #include <cstddef>

@@ -26,8 +26,8 @@ constexpr Component other_format_components[] = {
 //     v1AttrCert           [1] IMPLICIT AttributeCertificateV1,
 //     v2AttrCert           [2] IMPLICIT AttributeCertificateV2,
 //     other                [3] IMPLICIT OtherCertificateFormat }
-// The certificates of the old and of attributes stay undissected: lists of their components. Decoding reports `other`
-// with the code of v2AttrCert.
+// Extended and attribute certificates are not taken apart: they are lists of any components. A failed decode of `other`
+// reports the code of v2AttrCert.
 constexpr Component certificate_choice_alternatives[] = {
     required("certificate", KOVRA_ASN1_TYPE_CERTIFICATE),
     required("extendedCertificate", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY_1, implicit_tag(0)).codes(0x10343, 0x10344),

@@ -16,7 +16,8 @@ constexpr char source[] = "ASN1_PKCS7";
 //     digestAlgorithm  AlgorithmIdentifier,
 //     contentInfo      ContentInfo,
 //     digest           OCTET STRING }
-// Only decoding gives one with a ContentInfo: the constructor takes a DigestedData for it, which cannot be encoded.
+// The constructor takes a DigestedData as contentInfo, and what it makes cannot be encoded. Only a decoded value has a
+// ContentInfo.
 constexpr Component digested_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("digestAlgorithm", KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER),

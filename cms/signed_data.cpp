@@ -20,7 +20,7 @@ constexpr char source[] = "ASN1_PKCS7";
 //     certificates      [0] IMPLICIT CertificateSet OPTIONAL,
 //     crls              [1] IMPLICIT RevocationInfoChoices OPTIONAL,
 //     signerInfos       SignerInfos }
-// No version is tied to what else is there.
+// The version is not checked against the other components.
 constexpr Component signed_message_components[] = {
     required("version", KOVRA_ASN1_TYPE_INTEGER),
     required("digestAlgorithms", KOVRA_ASN1_TYPE_DIGEST_ALGORITHM_IDENTIFIERS),

@@ -42,7 +42,8 @@ Result walk_element_with_care(Decoder &decoder, Extent &out) {
     out.content = decoder.position();
     if (out.length != indefinite)
         return decoder.skip(here(), static_cast<uint32_t>(out.length));
-    // Only elements of indefinite length are entered, so how many are open is all there is to remember.
+    // Only elements of indefinite length are opened, since others are stepped over: a count is all there is to
+    // remember.
     for (uint32_t open = 1; open != 0;) {
         Identifier identifier;
         int32_t length = 0;
@@ -92,7 +93,7 @@ int32_t any_length(const Type &, Value *value, Measure) {
     return total < max_length ? static_cast<int32_t>(total) : unknown;
 }
 
-// Of the content. Nothing says where one of indefinite length ends.
+// The length of the content; none when it is indefinite.
 int64_t most_octets(const Any &any) {
     return any.length == indefinite ? INT64_MAX : any.length;
 }
@@ -165,7 +166,7 @@ bool any_begins(const Type &, const Identifier &) {
     return true;
 }
 
-// The content, and the octets that stand before it in the same memory, are one piece: the whole element.
+// Header and content stand one behind the other in memory: together they are the whole element.
 bool is_one_piece(const Any &any) {
     return any.content.stream == nullptr && any.header.memory == nullptr && any.content.octets.memory == nullptr &&
            any.header.offset + any.header.length == any.content.octets.offset;

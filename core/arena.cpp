@@ -16,7 +16,7 @@ constexpr char source[] = "ASN1_Arena";
 constexpr size_t smallest_block = threshold<size_t>(1024, 16);
 constexpr size_t largest_block = threshold<size_t>(size_t{256} * 1024, 64);
 
-// Null when memory is short, or the size more than a size can be.
+// Null when memory is short, or the size does not fit a size_t.
 void *get(size_t size) {
     return size < too_large ? kovra_malloc(size, source, __LINE__) : nullptr;
 }
@@ -45,7 +45,7 @@ void Arena::destroy(Arena *arena) {
         destroy_all(arena, arena->sibling_);
 }
 
-// Those of a chain of siblings before `until`.
+// Releases the arenas of a chain of siblings, up to `until`.
 void Arena::destroy_all(Arena *arena, const Arena *until) {
     while (arena != until) {
         // The adopted are put in front of what is still to be released: the chain is the work list.
@@ -148,7 +148,7 @@ void Arena::free_streams(const OwnedStream *until) {
         kovra_stream_free(streams_->stream);
 }
 
-// Only a tight build knows how large a block is, and asks.
+// Only tight builds remember the size of a block, for this.
 bool Arena::is_taken_back(const void *record, const Mark &mark) const {
     const auto lies_in = [record](const uint8_t *begin, const uint8_t *end) {
         const std::less<> before;

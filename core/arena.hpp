@@ -56,9 +56,9 @@ public:
         return memory != nullptr ? memory : allocate_in_new_block(size);
     }
 
-    // The same from the room that is left; null when there is too little, although more may be had.
+    // The same from the room that is left in the current piece; null when that is too little.
     void *allocate_in_place(size_t size) {
-        // The room is a multiple of the alignment: what is not larger is not when it is rounded up either.
+        // The room is a multiple of the alignment: a size that fits still fits when it is rounded up.
         if (size > static_cast<size_t>(end_ - next_))
             return nullptr;
         void *memory = next_;
@@ -95,10 +95,10 @@ public:
     // Takes over a value that is the root of its own arena; false when it is not its own, or holds this arena.
     bool adopt(Value *value);
 
-    // Some length in the arena is only announced, by a stream or for octets that may not come.
+    // Some length in the arena is only announced: a stream told it, and the octets may not come.
     void note_announced();
-    // Is there one in the arena, or in what it belongs to? Nothing is to be allocated for what a value says of its
-    // length then.
+    // Is there such a length in the arena, or in the one it belongs to? Then nothing is allocated in advance for the
+    // length that a value tells.
     [[nodiscard]] bool has_announced() const;
 
     [[nodiscard]] bool is_root(const Value *value) const { return root == value; }

@@ -108,7 +108,7 @@ namespace {
 
 template <class Decode>
 Result decode_into_arena(Decoder &decoder, const Type &type, size_t octets, Decode decode_value, Value *&out) {
-    // The records of more octets than these are not made room for at once.
+    // No room is made in advance for the records of more octets than these.
     constexpr size_t much = 16384;
     return decoder.into_own_arena(octets, type.operations->records_reserve(std::min(octets, much)), decode_value, out);
 }
@@ -140,7 +140,7 @@ namespace {
 
 enum class Streams : uint8_t { copied, left };
 
-// Once more at most, when streams were left.
+// Calls itself once at most: when streams were left where they are and that failed.
 // NOLINTNEXTLINE(misc-no-recursion)
 Value *convert_with(const Type &from, const Value *value, const Type &to, Streams streams, kovra_err_ctx *ctx) {
     Encoder encoder(ctx);

@@ -5,7 +5,7 @@
 
 namespace kovra::asn1 {
 
-// Is there a value, and one that the type works on?
+// Is there a value, of a kind that the type's operations work on?
 inline bool holds(const Type &type, const Value *value) {
     return value != nullptr && type.operations->holds(type, *value);
 }
@@ -16,7 +16,7 @@ int32_t whole_length(const Type &type, Value *value, Measure measure = Measure::
 // Identifier, length and content octets of a content length; indefinite when there are more than 0x7FFFFFFF.
 int32_t whole_length_of(int32_t tag, int32_t content);
 
-// Writes a whole value; one of known measure has just been measured as a part of its holder.
+// Writes a whole value. Its measure is known when what holds it has just been measured.
 Result encode(Encoder &encoder, const Type &type, Value *value, Measure measure = Measure::fresh);
 // A value that the type has no use for is a bad argument; no stream, or no value, comes before it.
 Result refuse_value(Encoder &encoder, const Value *value);
@@ -71,7 +71,7 @@ inline Result check_source_and_place(Decoder &decoder, Site site) {
         return decoder.fail(site, code::null_argument);
     return success;
 }
-// And of those whose content is primitive and definite.
+// The first checks of those whose content is primitive and of definite length.
 inline Result check_primitive(Decoder &decoder, Site site, const Element &element) {
     if (const Result result = check_source_and_place(decoder, site); result != success)
         return result;

@@ -44,7 +44,7 @@ inline constexpr int32_t unsupported_encode = 0x1026c;
 inline constexpr int32_t unsupported_decode = 0x1026d;
 inline constexpr int32_t octets_left = 0x1027f;
 
-// Used two above the places that their texts name.
+// From here on the text of a code is that of the code two above it.
 inline constexpr int32_t not_minimal_integer = 0x102e3;
 inline constexpr int32_t write_identifier = 0x102e4;
 inline constexpr int32_t read_identifier = 0x102e5;

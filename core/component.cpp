@@ -94,7 +94,8 @@ Value *make_encoded(Arena &arena, uint8_t type, const uint8_t *octets, size_t co
 }
 
 bool is_encoded(const Value &value, uint8_t type, const uint8_t *octets, size_t count) {
-    // As short as this, it is encoded without allocating: length and encoding cannot come to different answers.
+    // A default is so short that encoding it allocates nothing, so that memory cannot fail between measuring and
+    // encoding.
     Encoder encoder(static_cast<kovra_err_ctx *>(nullptr));
     auto *own = const_cast<Value *>(&value);
     return whole_length(row(type), own) == static_cast<int32_t>(count) &&

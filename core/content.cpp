@@ -126,7 +126,7 @@ Result decode_from(Content &content, const Arena &arena, Site site, uint32_t num
                    kovra_asn1_value **out_value, kovra_err_ctx *ctx) {
     *out_value = nullptr;
     if (number >= type_count) {
-        // Once for the decoding, once as the entry that is added to a failed one.
+        // Two entries: that of the decode, and the one that is added to every failed decode here.
         report(ctx, {"ASN1", __LINE__}, code::unsupported_type);
         report(ctx, site, code::unsupported_type);
         return failure;

@@ -22,7 +22,7 @@ void use_stream(Content &content, Arena &arena, kovra_stream *stream);
 // or memory is short. The octets take memory as they come.
 void *copy_of(const Content &content, int32_t length);
 
-// Is the value a string of so many octets? Nobody is told: who makes room asks for the length.
+// Is the value a string of so many octets? The length is not remembered as told to the caller.
 inline bool has_octets(const kovra_asn1_value *value, int32_t count) {
     const auto *string = as<String>(value);
     return string != nullptr && size_of(string->content) == count;
@@ -53,7 +53,7 @@ Result read_piece(Content &content, const Arena &arena, Site site, int32_t mode,
 Result decode_from(Content &content, const Arena &arena, Site site, uint32_t number, const Element *element,
                    kovra_asn1_value **out_value, kovra_err_ctx *ctx);
 
-// What is wrong with a handle that has no record of the wanted kind, or with the place for what is asked of it.
+// The code for a handle without a record of the wanted kind, or for a null place.
 inline int32_t fault_of(const kovra_asn1_value *value, const void *place) {
     return value == nullptr || place == nullptr ? code::null_argument : code::bad_argument;
 }

@@ -97,7 +97,7 @@ Result Decoder::short_read(Site site) {
     position_ = size_;
     if (stream_result_ != success)
         return stream_result_;
-    // The entry that a stream leaves when it ends too soon, also where its octets are read in place.
+    // What a stream reports when it ends too soon, reported here for octets that are read in place.
     return fail({"UTIL_Stream", site.line}, code::stream_read);
 }
 

@@ -1,7 +1,21 @@
 // One decode call: where the octets come from, the arena that the records go to, and who hears of failures.
 //
-// Reading functions give 1, or record why not and give the result to return. Offsets count from the first octet of the
+// Reading functions give 1, or report why not and give the result to return. Offsets count from the first octet of the
 // call; records refer to octets by offset, so the octets may move while more of them arrive from a stream.
+//
+// The words of reading:
+//   look     see the next octet if it is there; nothing moves
+//   enter    step over an identifier and its length if they are the expected ones, the length is definite, and all of
+//            the content is there; else nothing moves
+//   header   the same for any identifier
+//   take     make a record of primitive content that is all there; else nothing moves
+//   read, decode  go on with care: ask the stream for octets, report what is wrong
+//   plain    (a door of a type) behind the usual identifier and a definite length, all content being there
+//   behind   (a door of a type) behind any identifier that the value can begin with, and a length
+//   window   octets from an end on are out of reach
+//   scratch  records go to an arena of its own for a while
+// look, enter, header and take do the usual case or nothing: trying them first and then reading with care does the same
+// as reading with care at once.
 #pragma once
 
 #include <algorithm>
@@ -99,8 +113,7 @@ public:
         position_ += count;
     }
     // Steps over a header that has one identifier octet and a definite length, if it and all of the content are there;
-    // false, and nothing done, otherwise. Nearly every element is like that: whoever tries this first and then reads
-    // with care, naming what is wrong, does the same as by reading with care at once.
+    // false, and nothing done, otherwise. Nearly every element is like that.
     bool header(uint8_t &identifier, uint32_t &length) {
         constexpr uint32_t long_form = 0x80;
         const uint32_t left = reach();
@@ -155,8 +168,7 @@ public:
     void warn(Site site, int32_t code) const { report(ctx_, site, code); }
 
     // Primitive content of at least one octet that is all there goes into a new record, made in the room that the
-    // arena has left; null, and nothing done, when it is anything else. A content decoder that tries this first does
-    // the usual in a few instructions, and everything else, and all that can go wrong, behind it.
+    // arena has left; null, and nothing done, when it is anything else.
     template <class T> T *take(const Element &element, Octets &octets) {
         const auto length = static_cast<uint32_t>(element.length);
         if (element.form != Form::primitive || length - 1 >= reach() || !has_source_and_place_)
@@ -172,7 +184,7 @@ public:
         return record;
     }
 
-    // A content decoder's first look: are there a stream and a place for the value?
+    // Are there a stream to read from and a place for the value? Content decoders ask this first.
     [[nodiscard]] bool has_source_and_place() const { return has_source_and_place_; }
     void lack_place() { has_source_and_place_ = false; }
 
@@ -206,8 +218,7 @@ public:
     // nest; none knows of another's memory, and what is linked to an arena around it stays.
     class Scratch {
     public:
-        // Begins; without memory it has not begun, and nothing changes. Values that are only checked need not be
-        // complete.
+        // Begins, unless memory is short: then nothing changes. Values that are only checked need not be complete.
         Scratch(Decoder &decoder, bool only_checking);
         ~Scratch();
         Scratch(const Scratch &) = delete;

@@ -106,7 +106,7 @@ bool Encoder::refuse_all(Result result) {
     if (flushed_ != 0)
         return false;
     refusal_ = result;
-    // Without room, every octet that is put comes to `put_more`.
+    // With no capacity, every octet that is put comes to `put_more`, which refuses it.
     size_ = capacity_ = 0;
     return true;
 }

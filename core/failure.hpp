@@ -1,4 +1,4 @@
-// Recording what went wrong, and where.
+// Reporting what went wrong, and where: an entry in the caller's chain.
 #pragma once
 
 #include <cstdint>
@@ -19,10 +19,10 @@ struct Site {
     int32_t line;
 };
 
-// Records a code with the text that belongs to it: the codec's, or the companion's for general and stream codes.
+// Reports a code with the text that belongs to it: the codec's, or the companion's for general and stream codes.
 [[gnu::cold]] void report(kovra_err_ctx *ctx, Site site, int32_t code);
 
-// Records a code with the text that the companion's general lookup gives for it, whatever the code.
+// Reports a code with the text that the companion's general lookup gives for it, whatever the code.
 [[gnu::cold]] void report_general(kovra_err_ctx *ctx, Site site, int32_t code);
 
 } // namespace kovra::asn1

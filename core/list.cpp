@@ -493,7 +493,7 @@ struct SortItem {
     Value *element;
 };
 
-// The shorter encoding counts as padded with zero octets.
+// Encodings are compared as if the shorter one ended with zero octets (X.690, 11.6).
 bool precedes(const SortItem &left, const SortItem &right) {
     const size_t common = std::min(left.length, right.length);
     if (const int order = std::memcmp(left.octets, right.octets, common); order != 0)
@@ -527,7 +527,7 @@ Result sort_list(List *list, const Type &element) {
         std::sort(items, items + list->count, precedes);
         for (uint32_t i = 0; i < list->count; ++i)
             list->items[i] = items[i].element;
-        // The places are those of the former order.
+        // The places stand in the former order: they are dropped.
         list->places = nullptr;
     }
     kovra_free(items);

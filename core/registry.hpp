@@ -18,8 +18,8 @@ inline constexpr Form constructed = Form::constructed;
 inline constexpr Form either = Form::either;
 
 // clang-format off
-// What a row holds stands in kovra/asn1_types.h. The bases are stored values: from row 56 on many are those of the row
-// before, which failures report just so, and three lie outside the table of texts.
+// What a row holds stands in kovra/asn1_types.h. The bases are not computed: from row 56 on, many types report the
+// codes of the row before, and three codes have no text.
 inline constexpr Type all[] = {
     {KOVRA_ASN1_TYPE_END_OF_CONTENTS, primitive, 0, 0, &end_of_contents_operations, nullptr},
     {KOVRA_ASN1_TYPE_BOOLEAN, primitive, 1, 0x1020d, &boolean_operations, nullptr},
@@ -232,7 +232,7 @@ inline constexpr Type all[] = {
 };
 // clang-format on
 
-// Does each stand where its number says?
+// Does each row stand at the place that its number says?
 consteval bool are_in_order() {
     for (uint32_t i = 0; i < type_count; ++i)
         if (all[i].number != i)

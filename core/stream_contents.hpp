@@ -32,8 +32,8 @@ StreamContent *note_stream_content(StreamContent *others, kovra_stream *stream, 
 void drop_stream_contents(StreamContent *notes);
 // Gives the notes to an arena, which frees them.
 void link_stream_contents(Arena &arena, StreamContent *notes);
-// The stream that stands for the content at an offset; null when there is none. A copy in which not all were found has
-// taken the octets with the empty string for something else.
+// The stream that stands for the content at an offset; null when there is none. When not all notes of a copy were asked
+// for, the decoder read an empty string as something else, and the copy is wrong.
 kovra_stream *find_stream_content(StreamContent *notes, uint32_t offset);
 bool all_found(const StreamContent *notes);
 

@@ -38,7 +38,7 @@ Octets *kept_of(Structure &record) {
     return reinterpret_cast<Octets *>(record.slots + record.shape->count);
 }
 
-// The slots are the caller's to fill.
+// The slots are not cleared: the caller fills them.
 Structure *new_record_of(Arena &arena, const StructureShape &shape) {
     const size_t size =
         sizeof(Structure) - sizeof(Structure::slots) + shape.count * sizeof(Value *) + 2 * sizeof(Octets);
@@ -91,8 +91,8 @@ int32_t measure(const StructureShape &shape, Structure &record) {
     return record.measured = total <= max_length ? static_cast<int32_t>(total) : unknown;
 }
 
-// The signed component is written as it was read, or as it is written this first time: with the lengths that were
-// measured for what holds it.
+// The signed component is written from the octets that are kept. When there are none yet, those that are written now
+// are kept from then on.
 Result encode_signed(Encoder &encoder, Site site, const Component &component, Structure &record, Measure measure) {
     Octets &kept = kept_of(record)[1];
     if (is_kept(kept))
@@ -101,7 +101,7 @@ Result encode_signed(Encoder &encoder, Site site, const Component &component, St
     const int64_t begin = encoder.written();
     Value *value = record.slots[0];
     const int32_t length = value != nullptr ? component_length(component, value, measure) : unknown;
-    // Short memory is reported as where any value's encoding begins.
+    // Short memory is reported under the name under which every encoding begins.
     Result result = length > 0 ? encoder.expect({"ASN1", __LINE__}, static_cast<size_t>(length), record) : success;
     result = result == success ? encode_component(encoder, site, component, value, Measure::known)
                                : fail_encode(encoder, site, component, result);
@@ -149,7 +149,7 @@ Result encode_structure_content(Encoder &encoder, const Type &type, Value *value
     return success;
 }
 
-// A record of another structure is refused for its first part, which is none of this one's.
+// A record of another structure is refused as its first component would be, which is not of the right type either.
 Result refuse_other_content(Encoder &encoder, const Type &type, const Value &value) {
     const StructureShape &shape = shape_of(type);
     const Component &first = shape.components[0];
@@ -196,7 +196,12 @@ Result encode_kept(Encoder &encoder, const Type &type, Value *value) {
 
 // Decoding.
 
-// One walk through the components of a structure.
+// One walk through the components of a structure. For each component the tests come in this order: an identifier that
+// was read and not taken yet must be looked at first; at the end of the content only what may be absent is left; a
+// plain element of the component's type, which nearly all are, is decoded at once; all else is read with care, whole
+// where nothing but this component can stand here. Behind each component the position is held against the end: an
+// element may reach beyond the structure, and is refused only when it was decoded, so that its own fault is reported
+// first.
 class Reader {
 public:
     Reader(Decoder &decoder, const StructureShape &shape, const Element &element, Structure &record)

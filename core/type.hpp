@@ -31,8 +31,9 @@ struct Operations {
     Result (*decode_content)(Decoder &, const Type &, const Element &, Value *&out) = nullptr;
     // Reads a whole value. Null: the identifier must be the row's.
     Result (*decode)(Decoder &, const Type &, Value *&out) = nullptr;
-    // Reads the content behind the row's own identifier and a definite length whose octets are all there, with what
-    // `decode` does besides. Null: there is no such shorter way, as for types with `begins`.
+    // Reads the content behind the usual identifier and a definite length whose octets are all there, and does what
+    // `decode` does around it: sets a window and keeps the octets, where the type does so. Null: there is no such
+    // shorter way, as for types with `begins`.
     Result (*decode_plain)(Decoder &, const Type &, const Element &, Value *&out) = nullptr;
     // Can a value begin with this identifier? Null: it must be the row's.
     bool (*begins)(const Type &, const Identifier &) = nullptr;

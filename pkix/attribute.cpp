@@ -119,7 +119,7 @@ kovra_asn1_value *kovra_x500attribute_new(kovra_asn1_value *type, const kovra_as
     if (store_copy(*record, slot<attribute, "type">, type)) {
         if (store_copy(*record, slot<attribute, "values">, values))
             return record;
-        // Callers rely on it: what is released here is their own value.
+        // On this failure the caller's `type` is released, as the header says.
         kovra_asn1_value_free(KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER, type);
     }
     Arena::destroy(record->arena);

@@ -176,7 +176,7 @@ kovra_asn1_value *kovra_pkixidp_getonlyattrcert(const kovra_asn1_value *obj) noe
     return part<issuing_distribution_point, "onlyContainsAttributeCerts">(obj);
 }
 
-// The first two flags stand in the other order than their components.
+// Arguments 2 and 3 are containsAACerts [4] and containsUserAttributeCerts [3], in this order.
 kovra_asn1_value *kovra_x509aaidp_new(const kovra_asn1_value *point_name, const kovra_asn1_value *contains_aa_certs,
                                       const kovra_asn1_value *contains_user_attribute_certs,
                                       const kovra_asn1_value *contains_soa_public_key_certs,

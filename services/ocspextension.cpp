@@ -15,7 +15,7 @@ constexpr char source[] = "ASN1_OCSP";
 //     crlUrl   [0] EXPLICIT IA5String OPTIONAL,
 //     crlNum   [1] EXPLICIT INTEGER OPTIONAL,
 //     crlTime  [2] EXPLICIT GeneralizedTime OPTIONAL }
-// The time is written under [1], too.
+// crlTime is encoded under [1] although it is decoded under [2].
 constexpr Component crl_components[] = {
     optional("crlUrl", KOVRA_ASN1_TYPE_IA5_STRING, explicit_tag(0)),
     optional("crlNum", KOVRA_ASN1_TYPE_INTEGER, explicit_tag(1)),

@@ -14,8 +14,8 @@ constexpr char source[] = "ASN1_OCSP";
 // ResponderID ::= CHOICE {
 //     byName  [1] EXPLICIT Name,
 //     byKey   [2] EXPLICIT OCTET STRING }
-// A key hash is written without the identifier and length octets of the OCTET STRING, which are counted all the same
-// and wanted when it is read.
+// byKey is encoded without the identifier and length octets of its OCTET STRING. They are counted in its length all the
+// same, and decoding expects them.
 constexpr uint32_t first_number = 1;
 constexpr Component alternatives[] = {
     required("byName", KOVRA_ASN1_TYPE_NAME, explicit_tag(1)),

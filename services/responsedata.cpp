@@ -18,7 +18,7 @@ constexpr char source[] = "ASN1_OCSP";
 //     thisUpdate        GeneralizedTime,
 //     nextUpdate        [0] EXPLICIT GeneralizedTime OPTIONAL,
 //     singleExtensions  [1] EXPLICIT Extensions OPTIONAL }
-// Extensions are written under [0], too.
+// singleExtensions is encoded under [0] although it is decoded under [1].
 constexpr Component single_components[] = {
     required("certID", KOVRA_ASN1_TYPE_OCSP_CERT_ID),
     required("certStatus", KOVRA_ASN1_TYPE_OCSP_CERT_STATUS),

@@ -15,7 +15,7 @@ constexpr char source[] = "ASN1_TSP";
 //     seconds  INTEGER OPTIONAL,
 //     millis   [0] IMPLICIT INTEGER OPTIONAL,
 //     micros   [1] IMPLICIT INTEGER OPTIONAL }
-// Any number will do.
+// millis and micros are not held to 1..999.
 constexpr Component precision_components[] = {
     optional("seconds", KOVRA_ASN1_TYPE_INTEGER),
     optional("millis", KOVRA_ASN1_TYPE_INTEGER, implicit_tag(0)),

@@ -186,7 +186,7 @@ kovra_asn1_value *kovra_asn1_bitstring_newbits(const int32_t *positions, int32_t
         return nullptr;
     if (positions == nullptr)
         return kovra_asn1_bitstring_new(0, nullptr, 0);
-    // The first position counts even when the count is 0.
+    // The first position is in the range even when the count is 0.
     const int32_t *end = positions + std::max(count, 1);
     if (std::any_of(positions, end, [](int32_t position) { return position < 0; }))
         return nullptr;

@@ -114,7 +114,7 @@ Result decode_end_of_contents_content(Decoder &decoder, const Type &, const Elem
     return element.length == 0 ? success : decoder.fail(here(), code::bad_length);
 }
 
-// Both octets are read before they are looked at.
+// A wrong octet is reported only when both are there.
 Result decode_end_of_contents(Decoder &decoder, const Type &, Value *&) {
     uint8_t octets[2] = {};
     for (uint8_t &octet : octets)

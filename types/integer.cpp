@@ -184,7 +184,7 @@ int32_t kovra_asn1_integer_getlength(const kovra_asn1_value *integer) noexcept {
     const auto *record = as<Integer>(integer);
     if (record != nullptr)
         return static_cast<int32_t>(record->octets.length);
-    // It also tells how long an object identifier is.
+    // Also takes an OBJECT IDENTIFIER.
     const auto *oid = as<ObjectIdentifier>(integer);
     return oid != nullptr ? static_cast<int32_t>(oid->octets.length) : unknown;
 }
@@ -196,8 +196,8 @@ int32_t kovra_asn1_integer_getlong(const kovra_asn1_value *integer, int32_t *out
     const uint8_t *octets = octets_of(*record);
     const uint32_t length = record->octets.length;
     const bool is_negative = octets[0] >= 0x80;
-    // Negating a two's complement: the octets behind the last that is not zero stay, that one is negated, those before
-    // it are inverted.
+    // The magnitude of a negative number: trailing zero octets stay, the last octet that is not zero is negated, and
+    // those before it are inverted.
     uint32_t last = length - 1;
     while (last > 0 && octets[last] == 0)
         --last;

@@ -112,7 +112,7 @@ Result encode_octet_string(Encoder &encoder, const Type &type, Value *value) {
     return encode_string_content(encoder, type, value, length);
 }
 
-// The codes are those of other failures: this library records them so.
+// The texts of these codes tell of other failures; callers know the codes.
 Result encode_character_string(Encoder &encoder, const Type &type, Value *value) {
     const int32_t length = string_content_length(type, value, Measure::known);
     if (length == unknown)
@@ -243,7 +243,7 @@ kovra_asn1_value *kovra_asn1_string_new(const void *data, int32_t length) noexce
 }
 
 kovra_asn1_value *kovra_asn1_octetstring_newstream(kovra_stream *stream) noexcept {
-    // 0 for null too.
+    // Null has length 0, too.
     if (kovra_stream_gettype(stream) == 0)
         return nullptr;
     auto *string = new_root<String>();

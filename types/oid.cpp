@@ -54,8 +54,8 @@ bool has_text(const uint8_t *octets, uint32_t length) {
     return true;
 }
 
-// The same told at a glance, of which false says nothing: no octet is 80, and no subidentifier has room to be too
-// large.
+// A quick test for the same. True is sure: no octet is 80, and the content is too short for a subidentifier that does
+// not fit. False says nothing.
 bool surely_has_text(const uint8_t *octets, int32_t length, uint32_t reach) {
     constexpr int32_t longest = 9;
     constexpr uint64_t every = 0x0101010101010101;
@@ -67,7 +67,8 @@ bool surely_has_text(const uint8_t *octets, int32_t length, uint32_t reach) {
         word |= ~uint64_t{0} << (8 * (length & 7));
     else if (octets[longest - 1] == 0x80)
         return false;
-    // The classic test for a zero octet, on the octets with their highest bit turned.
+    // Eight octets at once: with the highest bits turned, an octet 80 is an octet 0, and (x - 01..) & ~x & 80.. is not
+    // zero where an octet of x is.
     word ^= every * 0x80;
     return ((word - every) & ~word & every * 0x80) == 0;
 }
@@ -128,7 +129,7 @@ const char *text_of(ObjectIdentifier &oid) {
     char *end = text;
     uint64_t value = 0;
     bool is_root = !oid.relative;
-    // What cannot be a text was refused when the record was made.
+    // A content without a text was refused when the record was made.
     for (uint32_t i = 0; i < oid.octets.length; ++i) {
         value = value << 7 | (octets[i] & 0x7FU);
         if (octets[i] >= 0x80)
@@ -166,7 +167,7 @@ bool read_arc(const char *begin, const char *end, uint64_t &out) {
     if (begin == end || end - begin > longest)
         return false;
     const auto [stop, error] = std::from_chars(begin, end, out);
-    // The largest number of 64 bits counts as one that does not fit.
+    // 2^64 - 1 is refused as too large, although it would fit.
     return error == std::errc{} && stop == end && out != UINT64_MAX;
 }
 

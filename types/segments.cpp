@@ -42,7 +42,7 @@ Result decode_segments(Decoder &decoder, Site site, const Element &element, Cont
         out.octets = {nullptr, place, total};
         return success;
     }
-    // The second walk meets nothing that the first did not.
+    // The first walk has found everything sound: this one only copies.
     const uint32_t end = decoder.position();
     auto *octets = static_cast<uint8_t *>(decoder.arena().allocate(total));
     if (octets == nullptr)

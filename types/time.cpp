@@ -21,7 +21,7 @@ Site here(int32_t line = __builtin_LINE()) {
     return {"ASN1_Time", line};
 }
 
-// The row of a time, or either row for the choice.
+// Is it a time of this type? The choice of both takes either.
 bool is_of_row(const Type &type, const Time &time) {
     return type.number == KOVRA_ASN1_TYPE_TIME || type.tag == time.tag;
 }
@@ -68,7 +68,7 @@ Result encode_time(Encoder &encoder, const Type &type, Value *value) {
     return result == success ? success : encoder.fail(here(), code::write_length, result);
 }
 
-// The record of a text that may stand in segments.
+// Makes a record of a text, whose content may stand in segments.
 Result take_text(Decoder &decoder, const Element &element, Time *&out) {
     if (const Result result = check_source_and_place(decoder, here()); result != success)
         return result;

@@ -54,7 +54,8 @@ int32_t scaled_fraction(const char *digits, uint32_t count, uint32_t places) {
     return value;
 }
 
-// The arithmetic gives ten times what the fraction means; results that no clock shows are refused afterwards.
+// Fractions of hours and minutes come out ten times too large; minutes and seconds of 60 and more are refused by the
+// caller.
 void apply_fraction(const char *digits, uint32_t count, uint32_t leading, TimeFields &out) {
     constexpr int32_t unit = 10000;
     if (leading == 14) {
@@ -164,7 +165,7 @@ uint32_t write_utc_time(const kovra_time *time, char (&out)[longest_time_text]) 
     const int32_t year = kovra_time_getyear(time);
     if (year < 1901 || year > 2049)
         return 0;
-    // Years before 1950 would print as a negative number; no constructor lets them come here.
+    // Constructors refuse years before 1950, which would print as a negative number here.
     const int32_t short_year = year >= 1950 && year <= 1999 ? year - 1900 : year - 2000;
     // The form has no leap seconds.
     const int32_t second = kovra_time_getsecond(time);
