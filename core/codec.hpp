@@ -29,7 +29,7 @@ inline Result decode(Decoder &decoder, const Type &type, Value *&out) {
     uint32_t length = 0;
     const uint32_t start = decoder.position();
     const Operations &operations = *type.operations;
-    if (operations.decode_plain != nullptr && decoder.enter(type.usual_identifier, length))
+    if (type.usual_identifier != 0 && decoder.enter(type.usual_identifier, length))
         return operations.decode_plain(decoder, type, type.usual_element(length, start), out);
     return operations.decode != nullptr ? operations.decode(decoder, type, out) : decode_generic(decoder, type, out);
 }

@@ -77,6 +77,8 @@ struct Component {
     Tag encode_tag;          // the same, unless the component is written under another tag than it is read under
     const Default *fallback; // of a defaulted component
     int32_t line;
+    // The usual identifier of an untagged component's type; 0 when the component is tagged or its type has none.
+    uint8_t usual_identifier = tag.tagging == Tagging::none ? row(type).usual_identifier : uint8_t{0};
     bool has_own_form_only = false;
     bool has_any_context_tag = false;
     bool is_missing_at_end = false;
@@ -143,6 +145,7 @@ struct Component {
     constexpr Component of(const Type &own) const {
         Component changed = codes(no_code, no_code);
         changed.taken_as = changed.copied_as = &own;
+        changed.usual_identifier = tag.tagging == Tagging::none ? own.usual_identifier : uint8_t{0};
         return changed;
     }
 };

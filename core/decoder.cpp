@@ -39,8 +39,20 @@ Decoder::~Decoder() {
 }
 
 bool Decoder::enter_long(uint32_t &length) {
-    uint8_t identifier = 0;
-    return header(identifier, length);
+    // Nearly all lengths of the long form have one octet or two.
+    const uint32_t left = reach();
+    const uint8_t *octets = next();
+    const uint32_t header_octets = octets[1] - 0x80U + 2;
+    if (header_octets - 3 > 1 || left < header_octets) {
+        uint8_t identifier = 0;
+        return header(identifier, length);
+    }
+    const uint32_t announced = header_octets == 3 ? octets[2] : uint32_t{octets[2]} << 8 | octets[3];
+    if (announced > left - header_octets)
+        return false;
+    length = announced;
+    position_ += header_octets;
+    return true;
 }
 
 void Decoder::advance_stream() {

@@ -224,8 +224,6 @@ public:
         }
         for (; component != last; ++component, ++slot, whole >>= 1) {
             const uint32_t start = decoder.position();
-            const Type &type = *component->taken_as;
-            const Operations &operations = *type.operations;
             uint32_t length = 0;
             Result result = success;
             *slot = nullptr;
@@ -233,8 +231,9 @@ public:
                 result = state_ == State::ended ? leave_absent(*component, *slot) : read_tested(*component, *slot);
             } else if (start == end && component >= required_end) {
                 result = leave_absent(*component, *slot);
-            } else if (component->tag.tagging == Tagging::none && operations.decode_plain != nullptr &&
-                       decoder.enter(type.usual_identifier, length)) {
+            } else if (component->usual_identifier != 0 && decoder.enter(component->usual_identifier, length)) {
+                const Type &type = *component->taken_as;
+                const Operations &operations = *type.operations;
                 const auto decode_here = (whole & 1) != 0 ? operations.decode_plain : operations.decode_content;
                 result = decode_here(decoder, type, type.usual_element(length, start), *slot);
                 if (result != success)
@@ -388,6 +387,12 @@ private:
     State state_ = State::between;
 };
 
+// The list that is all of a structure's content.
+Result read_list(Decoder &decoder, const Type &list, const Element &element, Structure &record) {
+    record.slots[0] = nullptr;
+    return list.operations->decode_content(decoder, list, element, record.slots[0]);
+}
+
 // What decoding keeps of a structure besides its components.
 enum class Keep : uint8_t {
     nothing,
@@ -405,11 +410,8 @@ template <Keep keep> Result decode_content_of(Decoder &decoder, const Type &type
     Structure *record = new_record_of(decoder.arena(), *shape.record_shape());
     if (record == nullptr)
         return decoder.fail(in(shape), code::no_memory);
-    record->slots[0] = nullptr;
-    const Result result =
-        shape.content != nullptr
-            ? shape.content->operations->decode_content(decoder, *shape.content, element, record->slots[0])
-            : Reader(decoder, shape, element, *record).read();
+    const Result result = shape.content == nullptr ? Reader(decoder, shape, element, *record).read()
+                                                   : read_list(decoder, *shape.content, element, *record);
     if (result != success)
         return result;
     if (shape.allows != nullptr && !shape.allows(*record))

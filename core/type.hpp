@@ -32,8 +32,8 @@ struct Operations {
     // Reads a whole value. Null: the identifier must be the row's.
     Result (*decode)(Decoder &, const Type &, Value *&out) = nullptr;
     // Reads the content behind the usual identifier and a definite length whose octets are all there, and does what
-    // `decode` does around it: sets a window and keeps the octets, where the type does so. Null: there is no such
-    // shorter way, as for types with `begins`.
+    // `decode` does around it: sets a window and keeps the octets, where the type does so. Null for types that have no
+    // usual identifier, and for no others.
     Result (*decode_plain)(Decoder &, const Type &, const Element &, Value *&out) = nullptr;
     // Can a value begin with this identifier? Null: it must be the row's.
     bool (*begins)(const Type &, const Identifier &) = nullptr;
@@ -52,14 +52,14 @@ struct Type {
     constexpr Type(uint8_t number_, Form form_, uint8_t tag_, int32_t base_, const Operations *operations_,
                    const void *shape_)
         : number(number_), form(form_), tag(tag_),
-          usual_identifier(static_cast<uint8_t>(form_ == Form::constructed ? tag_ | 0x20 : tag_)),
+          usual_identifier(static_cast<uint8_t>(tag_ != 0 && form_ == Form::constructed ? tag_ | 0x20 : tag_)),
           usual_form(form_ == Form::constructed ? Form::constructed : Form::primitive), base(base_),
           operations(operations_), shape(shape_) {}
 
     uint8_t number;
     Form form;
     uint8_t tag;              // universal
-    uint8_t usual_identifier; // octet of the tag in the usual form
+    uint8_t usual_identifier; // octet of the tag in the usual form; 0: the type has no tag
     Form usual_form;          // primitive where either will do
     int32_t base;             // code of a failed encode; that of a failed decode is one above
     const Operations *operations;

@@ -50,6 +50,7 @@ constexpr Operations operations = {
     .encode_content = encode_content_of_list,
     .decode_content = decode_content_of_list,
     .decode = decode_whole_list,
+    .decode_plain = decode_content_of_list,
     .records_reserve = reserve_of_list,
 };
 

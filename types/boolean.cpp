@@ -141,6 +141,7 @@ constexpr Operations null_operations = {
     .encode_content = encode_null_content,
     .encode = encode_null,
     .decode_content = decode_null_content,
+    .decode_plain = decode_null_content,
     .records_reserve = leaf_reserve<0>,
 };
 

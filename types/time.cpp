@@ -180,6 +180,7 @@ constexpr Operations time_operations = {
     .encode = encode_time,
     .decode_content = decode_time_content,
     .decode = decode_time,
+    .decode_plain = decode_time_content,
     .records_reserve = leaf_reserve<2 * sizeof(Time)>,
 };
 

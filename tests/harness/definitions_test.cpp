@@ -170,5 +170,11 @@ TEST(Definitions, AreWhatTheTablesSay) {
                                                      });
 }
 
+// The engine asks for the identifier only.
+TEST(Registry, TypesWithAUsualIdentifierHaveAPlainDoor) {
+    for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type)
+        EXPECT_EQ(core::row(type).usual_identifier != 0, core::row(type).operations->decode_plain != nullptr) << type;
+}
+
 } // namespace
 } // namespace kovra::test
