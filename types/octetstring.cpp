@@ -214,6 +214,7 @@ constexpr Operations character_string_operations = {
     .encode_content = encode_string_content,
     .encode = encode_character_string,
     .decode_content = decode_string_content,
+    .decode_plain = decode_string_content,
     .records_reserve = leaf_reserve<2 * sizeof(String)>,
 };
 
