@@ -13,7 +13,6 @@
 #include "kovra/asn1_bitstring.h"
 #include "kovra/asn1_boolean.h"
 #include "kovra/asn1_codec.h"
-#include "kovra/asn1_integer.h"
 #include "kovra/asn1_json.h"
 #include "kovra/asn1_octetstring.h"
 #include "kovra/asn1_oid.h"
@@ -276,6 +275,8 @@ private:
                                         tag.is_set ? tag.tag : kind.tag};
             return open(identifier, json, kovra_json_getarraysize(json), false);
         }
+        if (kind.shape == Shape::hex)
+            return content(kind, json, tag);
         kovra_asn1_value *made = make(kind, json);
         if (made == nullptr)
             return false;
@@ -283,6 +284,31 @@ private:
         const bool is_good = encode(encoder, row(kind.type), static_cast<Value *>(made)) == success &&
                              add(encoder.data(), encoder.size(), tag);
         kovra_asn1_value_free(kind.type, made);
+        return is_good;
+    }
+
+    // A value whose content octets are given. They are written as they are: the constructors would make the content of
+    // an INTEGER minimal.
+    bool content(const JsonKind &kind, const kovra_json *json, const Override &tag) {
+        const char *text = text_of(json);
+        if (text == nullptr)
+            return false;
+        int32_t length = 0;
+        void *octets = kovra_hexdecode(text, kovra_json_getstringlength(json), &length);
+        if (octets == nullptr)
+            return false;
+        uint8_t header[max_identifier_octets + max_length_octets];
+        int32_t header_length = put_identifier(header, tag.is_set ? tag.tag_class : Class::universal, Form::primitive,
+                                               tag.is_set ? tag.tag : kind.tag);
+        header_length += put_length(header + header_length, length);
+        const Part part{{}, false, int64_t{header_length} + length, leaves_.size()};
+        const bool may_be_empty = kind.type == KOVRA_ASN1_TYPE_OCTET_STRING;
+        const bool is_good = (length > 0 || may_be_empty) &&
+                             leaves_.put(here(), header, static_cast<size_t>(header_length)) == success &&
+                             leaves_.put(here(), octets, static_cast<size_t>(length)) == success && parts_.push(part);
+        kovra_free(octets);
+        if (is_good)
+            count(part.length);
         return is_good;
     }
 
@@ -307,17 +333,6 @@ private:
         const char *text = kovra_json_getstring(json);
         const int32_t length = kovra_json_getstringlength(json);
         switch (kind.shape) {
-        case Shape::hex: {
-            int32_t count = 0;
-            void *octets = kovra_hexdecode(text, length, &count);
-            if (octets == nullptr)
-                return nullptr;
-            kovra_asn1_value *made = kind.type == KOVRA_ASN1_TYPE_OCTET_STRING
-                                         ? kovra_asn1_octetstring_new(octets, count)
-                                         : kovra_asn1_integer_new(octets, count);
-            kovra_free(octets);
-            return made;
-        }
         case Shape::oid:
             return kovra_asn1_oid_new(name_of(json));
         case Shape::numeric:

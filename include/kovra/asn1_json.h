@@ -3,7 +3,8 @@
  * One value is one object. "type" names it, exactly and in this case, and most have a "value":
  *
  *      BOOLEAN                       true or false
- *      INTEGER ENUM                  content octets in hexadecimal
+ *      INTEGER ENUM                  content octets in hexadecimal, at least one; they are written and read as they
+ *                                    are, also when fewer would do
  *      OCTETSTRING                   octets in hexadecimal
  *      BITSTRING                     { "unusedbits": number, "value": hexadecimal }; read too: array of booleans
  *      NULL                          no "value"
