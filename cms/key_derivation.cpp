@@ -14,6 +14,7 @@ constexpr char source[] = "ASN1_CMS";
 // KeySpecificInfo ::= SEQUENCE {
 //     algorithm  OBJECT IDENTIFIER,
 //     counter    OCTET STRING }
+// Its records are ResponseBytes of OCSP.
 constexpr Component key_info_components[] = {
     required("algorithm", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER),
     required("counter", KOVRA_ASN1_TYPE_OCTET_STRING),
@@ -31,7 +32,7 @@ constexpr Component other_components[] = {
 
 } // namespace
 
-constexpr StructureShape key_specific_info = structure(source, key_info_components);
+constexpr StructureShape key_specific_info = alike(source, key_info_components, ocsp_response_bytes);
 constexpr StructureShape dh_other_info = structure(source, other_components);
 
 } // namespace kovra::asn1

@@ -38,6 +38,15 @@ TEST(CmsStructures, IrregularOnes) {
     EXPECT_EQ(kovra_asn1_content_length(128, other_certificate.get()), 5);
     EXPECT_EQ(encoding(Value(130, kovra_cmsrevinfochoice_newotherrevinfo(other_certificate.get()))), "A10506012A0500");
 
+    // So do a KeySpecificInfo and a ResponseBytes.
+    for (const auto &[type, other] : {std::pair(166u, 174u), {174u, 166u}}) {
+        const Value value = decoded(type, "30 06 06 01 2A 04 01 4B");
+        EXPECT_EQ(kovra_asn1_length(other, value.get()), 8);
+        EXPECT_EQ(hex(encode(other, value.get()).octets), encoding(value));
+        const Value info(167, kovra_dhotherinfo_new(value.get(), nullptr, parts[4].get()));
+        EXPECT_EQ(encoding(info), "300E300606012A04014BA2040402ABCD");
+    }
+
     // Any content is PKCS #7, only an OCTET STRING is CMS; lengths do not tell.
     Value any_content = decoded(133, "30 10 02 01 01 31 00 30 07 06 01 2A A0 02 30 00 31 00");
     EXPECT_EQ(kovra_asn1_length(134, any_content.get()), 18);

@@ -527,7 +527,8 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_cmsauthdata_getunauthatrrs(const kovra_as
 KOVRA_ASN1_API int32_t kovra_cmsauthdata_hasunauthatrrs(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
 /* kovra_dhkeyspecinfo_new returns a KeySpecificInfo (type 166; RFC 2631, 2.1.2) of an OBJECT IDENTIFIER and an OCTET
- * STRING, whose length, four octets in the standard, is not looked at. */
+ * STRING, whose length, four octets in the standard, is not looked at. It is a ResponseBytes (type 174) with codes of
+ * its own; either may be passed for the other. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_dhkeyspecinfo_new(const kovra_asn1_value *algorithm,
                                                          const kovra_asn1_value *counter) KOVRA_NOTHROW;
 

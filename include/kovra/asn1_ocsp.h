@@ -107,7 +107,8 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_ocsprequest_gettbs(const kovra_asn1_
 KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_ocsprequest_getsignature(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
 /* kovra_ocsp_responsebytes_new returns ResponseBytes (4.2.1): responseType, an OBJECT IDENTIFIER; response, an OCTET
- * STRING, for id-pkix-ocsp-basic the encoding of a BasicOCSPResponse. Neither is compared with the other. */
+ * STRING, for id-pkix-ocsp-basic the encoding of a BasicOCSPResponse. Neither is compared with the other. A
+ * KeySpecificInfo (type 166) is a ResponseBytes with codes of its own; either may be passed for the other. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_responsebytes_new(const kovra_asn1_value *response_type,
                                                               const kovra_asn1_value *response) KOVRA_NOTHROW;
 

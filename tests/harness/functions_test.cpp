@@ -202,6 +202,8 @@ const std::set<std::string> &shared_parts() {
     static const std::set<std::string> all = {
         "kovra_cmsothercertformat_getformat kovra_cmsotherrevinfoformat_getformat",
         "kovra_cmsothercertformat_getothercert kovra_cmsotherrevinfoformat_getotherrevinfo",
+        "kovra_dhkeyspecinfo_getalgo kovra_ocsp_responsebytes_gettype",
+        "kovra_dhkeyspecinfo_getcount kovra_ocsp_responsebytes_getresponse",
         "kovra_pkcs1digestinfo_getdigest kovra_tsp_messageimprint_gethashedmessage",
         "kovra_pkcs1digestinfo_getdigestalgorithm kovra_tsp_messageimprint_gethashalgo",
         "kovra_x509algoid_getalgo kovra_x509polqualifierinfo_getid",
