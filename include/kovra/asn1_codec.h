@@ -27,9 +27,11 @@ KOVRA_ASN1_API int32_t kovra_asn1_length(uint32_t type, const kovra_asn1_value *
  * 0x1026b for a type above 207; 0x10002 for a null stream, then for a null value (types 0 and 5 need none); 0x1020b
  * when the content length cannot be computed; 0x102e4 and 0x102e6 on top of the entry of the identifier octets and of
  * the length octets; then those of the content, with nothing on top. (The types of asn1_octetstring.h,
- * asn1_bitstring.h, asn1_time.h and asn1_any.h state their own.) Octets are gathered before the stream gets them: one
- * that refuses them leaves its own entry and those of the first octet it was given, the identifier mostly. After a
- * failure the stream may hold a part of the encoding. */
+ * asn1_bitstring.h, asn1_time.h and asn1_any.h state their own.) Octets are gathered before the stream gets them. One
+ * that refuses an encoding of up to 262,144 octets leaves its own entry and those of a failure at the first octet, the
+ * identifier mostly, also when it took some; of a longer encoding, which it gets in pieces, it leaves its own entry and
+ * those of the component where the refused piece was full, none for the last piece. After a failure the stream may hold
+ * a part of the encoding. */
 KOVRA_ASN1_API int32_t kovra_asn1_encode(kovra_stream *stream, uint32_t type, const kovra_asn1_value *value,
                                          int32_t *out_written, kovra_err_ctx *ctx) KOVRA_NOTHROW;
 

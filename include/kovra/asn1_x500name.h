@@ -7,7 +7,11 @@
  * all structures stands in asn1_x509.h.
  *
  * Type 30 is type 29 without what X.501 adds: a value with a primaryDistinguished that is not TRUE, or with values with
- * context, has no length as type 30 (-2) and is refused with 0x10274 in both directions. */
+ * context, has no length as type 30 (-2) and is refused with 0x10274 in both directions.
+ *
+ * Decoded by themselves, types 29 and 30 are read as an element first, 0x10236 on top of what is wrong with it. As a
+ * member of a relative distinguished name, a wrong identifier, form or length leaves 0x102e5, 0x1020a or 0x102e7 of the
+ * list with nothing of the member on top, a broken end 0x102e9 and then 0x10247. */
 #ifndef KOVRA_ASN1_X500NAME_H
 #define KOVRA_ASN1_X500NAME_H
 
