@@ -127,8 +127,8 @@ private:
         count(int64_t{identifier_length(part.identifier.tag)} + length_length(content) + content);
     }
 
-    // Encodes one object, or opens it when items are to follow. Implicit tags are taken off on the way to what they
-    // stand on; the outermost one stays.
+    // Encodes one object, or opens it when items are to follow. Of implicit tags directly inside one another the
+    // outermost replaces the identifier of the value; the others do not show.
     bool value(const kovra_json *object) {
         Override tag;
         for (;;) {
@@ -170,7 +170,7 @@ private:
         return kovra_json_gettype(json) == KOVRA_JSON_STRING ? kovra_json_getstring(json) : nullptr;
     }
 
-    // A text that a zero ends; null for one that has a zero inside.
+    // The text as a C string; null for one with a zero inside, which a C string would cut.
     static const char *name_of(const kovra_json *json) {
         const char *text = text_of(json);
         const bool is_whole =
@@ -226,7 +226,7 @@ private:
         return is_good;
     }
 
-    // A whole number that fits; false otherwise.
+    // A whole number that fits into 32 bits; false for any other.
     static bool whole_number(const kovra_json *json, int32_t &out) {
         double number = 0;
         if (kovra_json_gettype(json) != KOVRA_JSON_NUMBER || kovra_json_getnumber(json, &number) != 1 ||
@@ -262,20 +262,20 @@ private:
 
     // A value of a kind of the table.
     bool typed(const JsonKind &kind, const kovra_json *json, const Override &tag) {
-        if (kind.shape == Shape::none) {
+        if (kind.notation == Notation::none) {
             static constexpr uint8_t null[] = {0x05, 0x00};
             return add(null, sizeof null, tag);
         }
         if (json == nullptr)
             return false;
-        if (kind.shape == Shape::list) {
+        if (kind.notation == Notation::list) {
             if (kovra_json_gettype(json) != KOVRA_JSON_ARRAY)
                 return false;
             const Identifier identifier{tag.is_set ? tag.tag_class : Class::universal, Form::constructed,
                                         tag.is_set ? tag.tag : kind.tag};
             return open(identifier, json, kovra_json_getarraysize(json), false);
         }
-        if (kind.shape == Shape::hex)
+        if (kind.notation == Notation::hex)
             return content(kind, json, tag);
         kovra_asn1_value *made = make(kind, json);
         if (made == nullptr)
@@ -313,16 +313,16 @@ private:
     }
 
     static kovra_asn1_value *make(const JsonKind &kind, const kovra_json *json) {
-        switch (kind.shape) {
-        case Shape::boolean: {
+        switch (kind.notation) {
+        case Notation::boolean: {
             bool is_true = false;
             if (!truth(json, is_true))
                 return nullptr;
             return is_true ? kovra_asn1_boolean_true() : kovra_asn1_boolean_false();
         }
-        case Shape::bits:
+        case Notation::bits:
             return make_bits(json);
-        case Shape::time:
+        case Notation::time:
             return make_time(kind, json);
         default:
             return text_of(json) != nullptr ? make_from_text(kind, json) : nullptr;
@@ -332,20 +332,21 @@ private:
     static kovra_asn1_value *make_from_text(const JsonKind &kind, const kovra_json *json) {
         const char *text = kovra_json_getstring(json);
         const int32_t length = kovra_json_getstringlength(json);
-        switch (kind.shape) {
-        case Shape::oid:
+        switch (kind.notation) {
+        case Notation::oid:
             return kovra_asn1_oid_new(name_of(json));
-        case Shape::numeric:
-        case Shape::printable:
-            if (!is_in_repertoire(kind.shape, reinterpret_cast<const uint8_t *>(text), static_cast<uint32_t>(length)))
+        case Notation::numeric:
+        case Notation::printable:
+            if (!is_in_repertoire(kind.notation, reinterpret_cast<const uint8_t *>(text),
+                                  static_cast<uint32_t>(length)))
                 return nullptr;
             return kovra_asn1_string_new(text, length);
-        case Shape::utf32:
-        case Shape::bmp: {
+        case Notation::utf32:
+        case Notation::bmp: {
             kovra_ustring *string = kovra_ustring_newutf8(text, length);
-            kovra_data_blob *octets = string == nullptr          ? nullptr
-                                      : kind.shape == Shape::bmp ? kovra_ustring_tobmp(string)
-                                                                 : kovra_ustring_toutf32be(string);
+            kovra_data_blob *octets = string == nullptr                ? nullptr
+                                      : kind.notation == Notation::bmp ? kovra_ustring_tobmp(string)
+                                                                       : kovra_ustring_toutf32be(string);
             kovra_ustring_free(string);
             kovra_asn1_value *made = octets != nullptr ? kovra_asn1_string_new(kovra_data_blob_getdata(octets),
                                                                                kovra_data_blob_getlength(octets))
@@ -414,7 +415,7 @@ private:
                                   : kovra_time_newlocaltime(year, month, day, hour, minute, second, ns, is_dst ? 1 : 0);
         if (time == nullptr)
             return nullptr;
-        // A local time is refused here.
+        // Refuses a local time.
         constexpr uint32_t utc_time_flags = 0x00;
         constexpr uint32_t generalized_time_flags = 0x11;
         kovra_asn1_value *made = kovra_asn1_time_newutctime(

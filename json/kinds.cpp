@@ -11,30 +11,30 @@ namespace kovra::asn1 {
 namespace {
 
 constexpr JsonKind kinds[] = {
-    {"BOOLEAN", 1, KOVRA_ASN1_TYPE_BOOLEAN, Shape::boolean, false},
-    {"INTEGER", 2, KOVRA_ASN1_TYPE_INTEGER, Shape::hex, false},
-    {"BITSTRING", 3, KOVRA_ASN1_TYPE_BIT_STRING, Shape::bits, false},
-    {"OCTETSTRING", 4, KOVRA_ASN1_TYPE_OCTET_STRING, Shape::hex, false},
-    {"NULL", 5, KOVRA_ASN1_TYPE_NULL, Shape::none, false},
-    {"OID", 6, KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER, Shape::oid, false},
-    {"ENUM", 10, KOVRA_ASN1_TYPE_ENUMERATED, Shape::hex, false},
-    {"UTF8STRING", 12, KOVRA_ASN1_TYPE_UTF8_STRING, Shape::utf8, false},
-    {"SEQUENCE", 16, KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, Shape::list, false},
-    {"SEQUENCEOF", 16, KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, Shape::list, true},
-    {"SETOF", 17, KOVRA_ASN1_TYPE_SET_OF_ANY, Shape::list, false},
-    {"SET", 17, KOVRA_ASN1_TYPE_SET_OF_ANY, Shape::list, true},
-    {"NUMERICSTRING", 18, KOVRA_ASN1_TYPE_NUMERIC_STRING, Shape::numeric, false},
-    {"PRINTABLESTRING", 19, KOVRA_ASN1_TYPE_PRINTABLE_STRING, Shape::printable, false},
-    {"TELETEXSTRING", 20, KOVRA_ASN1_TYPE_TELETEX_STRING, Shape::octets, false},
-    {"T61STRING", 20, KOVRA_ASN1_TYPE_TELETEX_STRING, Shape::octets, true},
-    {"IA5STRING", 22, KOVRA_ASN1_TYPE_IA5_STRING, Shape::ia5, false},
-    {"UTCTIME", 23, KOVRA_ASN1_TYPE_UTC_TIME, Shape::time, false},
-    {"GENTIME", 24, KOVRA_ASN1_TYPE_GENERALIZED_TIME, Shape::time, false},
-    {"VISIBLESTRING", 26, KOVRA_ASN1_TYPE_VISIBLE_STRING, Shape::visible, false},
-    // Spelled so.
-    {"ISO636STRING", 26, KOVRA_ASN1_TYPE_VISIBLE_STRING, Shape::visible, true},
-    {"UNIVERSALSTRING", 28, KOVRA_ASN1_TYPE_UNIVERSAL_STRING, Shape::utf32, false},
-    {"BMPSTRING", 30, KOVRA_ASN1_TYPE_BMP_STRING, Shape::bmp, false},
+    {"BOOLEAN", 1, KOVRA_ASN1_TYPE_BOOLEAN, Notation::boolean, false},
+    {"INTEGER", 2, KOVRA_ASN1_TYPE_INTEGER, Notation::hex, false},
+    {"BITSTRING", 3, KOVRA_ASN1_TYPE_BIT_STRING, Notation::bits, false},
+    {"OCTETSTRING", 4, KOVRA_ASN1_TYPE_OCTET_STRING, Notation::hex, false},
+    {"NULL", 5, KOVRA_ASN1_TYPE_NULL, Notation::none, false},
+    {"OID", 6, KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER, Notation::oid, false},
+    {"ENUM", 10, KOVRA_ASN1_TYPE_ENUMERATED, Notation::hex, false},
+    {"UTF8STRING", 12, KOVRA_ASN1_TYPE_UTF8_STRING, Notation::utf8, false},
+    {"SEQUENCE", 16, KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, Notation::list, false},
+    {"SEQUENCEOF", 16, KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, Notation::list, true},
+    {"SETOF", 17, KOVRA_ASN1_TYPE_SET_OF_ANY, Notation::list, false},
+    {"SET", 17, KOVRA_ASN1_TYPE_SET_OF_ANY, Notation::list, true},
+    {"NUMERICSTRING", 18, KOVRA_ASN1_TYPE_NUMERIC_STRING, Notation::numeric, false},
+    {"PRINTABLESTRING", 19, KOVRA_ASN1_TYPE_PRINTABLE_STRING, Notation::printable, false},
+    {"TELETEXSTRING", 20, KOVRA_ASN1_TYPE_TELETEX_STRING, Notation::octets, false},
+    {"T61STRING", 20, KOVRA_ASN1_TYPE_TELETEX_STRING, Notation::octets, true},
+    {"IA5STRING", 22, KOVRA_ASN1_TYPE_IA5_STRING, Notation::ia5, false},
+    {"UTCTIME", 23, KOVRA_ASN1_TYPE_UTC_TIME, Notation::time, false},
+    {"GENTIME", 24, KOVRA_ASN1_TYPE_GENERALIZED_TIME, Notation::time, false},
+    {"VISIBLESTRING", 26, KOVRA_ASN1_TYPE_VISIBLE_STRING, Notation::visible, false},
+    // Descriptions in use spell ISO 646 so.
+    {"ISO636STRING", 26, KOVRA_ASN1_TYPE_VISIBLE_STRING, Notation::visible, true},
+    {"UNIVERSALSTRING", 28, KOVRA_ASN1_TYPE_UNIVERSAL_STRING, Notation::utf32, false},
+    {"BMPSTRING", 30, KOVRA_ASN1_TYPE_BMP_STRING, Notation::bmp, false},
 };
 
 // Indices into `kinds` by tag.
@@ -76,15 +76,15 @@ const JsonKind *kind_of_name(const char *name) {
     return found != std::end(kinds) ? found : nullptr;
 }
 
-bool is_in_repertoire(Shape shape, const uint8_t *octets, uint32_t length) {
-    switch (shape) {
-    case Shape::numeric:
+bool is_in_repertoire(Notation notation, const uint8_t *octets, uint32_t length) {
+    switch (notation) {
+    case Notation::numeric:
         return std::all_of(octets, octets + length, is_numeric);
-    case Shape::printable:
+    case Notation::printable:
         return std::all_of(octets, octets + length, is_printable);
-    case Shape::ia5:
+    case Notation::ia5:
         return std::all_of(octets, octets + length, is_ia5);
-    case Shape::visible:
+    case Notation::visible:
         return std::all_of(octets, octets + length, is_visible);
     default:
         return true;

@@ -5,8 +5,8 @@
 
 namespace kovra::asn1 {
 
-// What the "value" member of a kind looks like.
-enum class Shape : uint8_t {
+// How the "value" member of a kind is written.
+enum class Notation : uint8_t {
     boolean,
     hex,
     bits,
@@ -28,7 +28,7 @@ struct JsonKind {
     const char *name;
     uint8_t tag; // universal
     uint8_t type;
-    Shape shape;
+    Notation notation;
     bool is_input_only; // another name of a kind that has one for output
 };
 
@@ -43,6 +43,6 @@ inline constexpr const char *tagged_name = "TAGGEDTYPE";
 inline constexpr const char *any_name = "ANY";
 
 // Do the octets belong to the repertoire of the string kind? Kinds without one accept any.
-bool is_in_repertoire(Shape shape, const uint8_t *octets, uint32_t length);
+bool is_in_repertoire(Notation notation, const uint8_t *octets, uint32_t length);
 
 } // namespace kovra::asn1

@@ -114,7 +114,7 @@ private:
         const uint32_t start = decoder.position();
         Extent extent{};
         if (is_walked) {
-            // Only its header is needed where its inside is walked into; elsewhere it is short to walk again.
+            // An enclosing walk has checked all of it: the header is enough, and what needs the end walks the rest again.
             if (read_identifier(decoder, here(), extent.identifier) != success ||
                 read_length(decoder, here(), extent.length) != success)
                 return false;
@@ -130,7 +130,7 @@ private:
         const JsonKind *kind = kind_of_tag(extent.identifier.tag);
         if (kind == nullptr)
             return step_over(decoder, extent) && whole(decoder, object, any_name, start);
-        if (kind->shape == Shape::list) {
+        if (kind->notation == Notation::list) {
             decoder.rewind(extent.content);
             kovra_json *array = put_type(object, kind->name) ? kovra_json_putarray(object, "value") : nullptr;
             return array != nullptr && open(array, end_of(extent), false);
@@ -191,27 +191,28 @@ private:
     }
 
     bool put_value(Decoder &decoder, kovra_json *object, const JsonKind &kind, Value *value, uint32_t start) {
-        switch (kind.shape) {
-        case Shape::none:
+        switch (kind.notation) {
+        case Notation::none:
             return true;
-        case Shape::boolean:
+        case Notation::boolean:
             return kovra_json_putboolean(object, "value", static_cast<const Boolean *>(value)->word != 0 ? 1 : 0) !=
                    nullptr;
-        case Shape::hex:
+        case Notation::hex:
             return put_hex(object, value->kind == Kind::integer ? static_cast<const Integer *>(value)->octets
                                                                 : static_cast<const String *>(value)->content.octets);
-        case Shape::bits:
+        case Notation::bits:
             return put_bits(object, *static_cast<const BitString *>(value));
-        case Shape::oid: {
+        case Notation::oid: {
             const char *text = kovra_asn1_oid_getstring(value);
             return text != nullptr && kovra_json_putstring(object, "value", text, -1) != nullptr;
         }
-        case Shape::time:
+        case Notation::time:
             return put_time(object, value);
-        case Shape::octets:
+        case Notation::octets:
             return put_whole(decoder, object, start);
         default:
-            return put_string(decoder, object, kind.shape, static_cast<const String *>(value)->content.octets, start);
+            return put_string(decoder, object, kind.notation, static_cast<const String *>(value)->content.octets,
+                              start);
         }
     }
 
@@ -250,21 +251,21 @@ private:
     }
 
     // A string outside its repertoire is written as its whole encoding.
-    bool put_string(Decoder &decoder, kovra_json *object, Shape shape, const Octets &octets, uint32_t start) {
+    bool put_string(Decoder &decoder, kovra_json *object, Notation notation, const Octets &octets, uint32_t start) {
         const uint8_t *data = octets.data(*arena_);
         const auto length = static_cast<int32_t>(octets.length);
-        if (shape != Shape::utf8 && shape != Shape::utf32 && shape != Shape::bmp)
-            return is_in_repertoire(shape, data, octets.length)
+        if (notation != Notation::utf8 && notation != Notation::utf32 && notation != Notation::bmp)
+            return is_in_repertoire(notation, data, octets.length)
                        ? kovra_json_putstring(object, "value", data, length) != nullptr
                        : put_whole(decoder, object, start);
-        kovra_ustring *text = shape == Shape::utf8    ? kovra_ustring_newutf8(data, length)
-                              : shape == Shape::utf32 ? kovra_ustring_newutf32be(data, length)
-                                                      : kovra_ustring_newbmp(data, length);
+        kovra_ustring *text = notation == Notation::utf8    ? kovra_ustring_newutf8(data, length)
+                              : notation == Notation::utf32 ? kovra_ustring_newutf32be(data, length)
+                                                            : kovra_ustring_newbmp(data, length);
         if (text == nullptr)
             return put_whole(decoder, object, start);
-        kovra_data_blob *utf8 = shape == Shape::utf8 ? nullptr : kovra_ustring_toutf8(text);
+        kovra_data_blob *utf8 = notation == Notation::utf8 ? nullptr : kovra_ustring_toutf8(text);
         kovra_ustring_free(text);
-        if (shape == Shape::utf8)
+        if (notation == Notation::utf8)
             return kovra_json_putstring(object, "value", data, length) != nullptr;
         const bool is_put = utf8 != nullptr && kovra_json_putstring(object, "value", kovra_data_blob_getdata(utf8),
                                                                     kovra_data_blob_getlength(utf8)) != nullptr;

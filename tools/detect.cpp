@@ -11,19 +11,19 @@ namespace kovra::tool {
 
 namespace {
 
-// A pattern is a sequence of marks for elements, in parentheses those inside the one before:
+// What an element of a type looks like: a sequence of marks for elements, in parentheses those inside the one before:
 //   S SEQUENCE, T SET, I INTEGER, B BIT STRING, O OCTET STRING, o OBJECT IDENTIFIER, E ENUMERATED, t a time,
 //   0 to 9 constructed and a to d primitive context tags, . anything, * whatever follows at this level,
 //   ? in front of what may be absent.
-struct Shape {
+struct Pattern {
     uint32_t type;
-    std::string_view pattern;
+    std::string_view marks;
     bool is_certain = false; // nothing else looks like this
 };
 
-// From the most specific to the least; a shape that others share comes behind them. Two or three INTEGERs are many
-// things, and none of them here.
-constexpr Shape shapes[] = {
+// From the most specific to the least: the first type that takes an element is it. Two or three INTEGERs have no
+// pattern, since they may be an RSA public key, a signature or parameters.
+constexpr Pattern patterns[] = {
     {KOVRA_ASN1_TYPE_CERTIFICATE, "S(S(?0(I)ISSS(tt)SS(SB)*)S(o*)B)", true},
     {KOVRA_ASN1_TYPE_CERTIFICATE_LIST, "S(S(?ISSt*)S(o*)B)", true},
     {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST, "S(S(ISS(SB)0)S(o*)B)", true},
@@ -120,36 +120,36 @@ bool has_mark(char mark, const Header &header) {
     }
 }
 
-// Reads along a pattern. As deep as the pattern nests, which is a few levels.
+// Compares an element with a pattern, mark by mark. Recurses as deep as the pattern nests, which is a few levels.
 class Matcher {
 public:
-    Matcher(const Item &item, std::string_view pattern) : octets_(item.octets), end_(item.end), pattern_(pattern) {}
+    Matcher(const Item &item, std::string_view marks) : octets_(item.octets), end_(item.end), marks_(marks) {}
 
-    // Has the element the shape, or, where its octets end early, have they begun with it? `least` elements of it have
-    // to be there in any case.
+    // Does the element fit, or, where its octets end early, do those that are there? At least `least` elements have to
+    // be among them.
     bool matches(size_t begin, size_t least) {
         at_ = begin;
         Header header;
-        if (!is_there(nowhere, header) || !has_mark(pattern_[0], header) || !element(header, nowhere))
+        if (!is_there(nowhere, header) || !has_mark(marks_[0], header) || !element(header, nowhere))
             return false;
-        return seen_ >= least && (is_cut_ || (next_ == pattern_.size() && at_ == end_));
+        return seen_ >= least && (is_cut_ || (next_ == marks_.size() && at_ == end_));
     }
 
 private:
-    // Matches up to the end of the pattern's level. As deep as the pattern at most.
+    // Matches the elements up to `end` with the marks up to the closing parenthesis.
     // NOLINTNEXTLINE(misc-no-recursion)
     bool level(size_t end) {
-        while (next_ < pattern_.size() && pattern_[next_] != ')') {
-            if (pattern_[next_] == '*') {
+        while (next_ < marks_.size() && marks_[next_] != ')') {
+            if (marks_[next_] == '*') {
                 ++next_;
                 at_ = end;
                 return true;
             }
-            const bool is_optional = pattern_[next_] == '?';
+            const bool is_optional = marks_[next_] == '?';
             if (is_optional)
                 ++next_;
             Header header;
-            if (is_there(end, header) && has_mark(pattern_[next_], header)) {
+            if (is_there(end, header) && has_mark(marks_[next_], header)) {
                 if (!element(header, end))
                     return false;
                 if (is_cut_)
@@ -174,7 +174,7 @@ private:
     bool read_clipped(Header &header) {
         if (read_header(octets_, at_, end_, header))
             return true;
-        // A length of four octets, and one of its own, is as long as a header of a shape is.
+        // Six octets are the longest header here: one of identifier, a length of five.
         uint8_t head[6] = {};
         const size_t there = std::min<size_t>(sizeof head, end_ - at_);
         std::copy_n(octets_ + at_, there, head);
@@ -197,7 +197,7 @@ private:
         ++next_;
         const size_t content = at_ + header.size;
         const size_t past = header.is_indefinite ? element_end(octets_, at_, end_, Tags::all) : content + header.length;
-        const bool is_entered = next_ < pattern_.size() && pattern_[next_] == '(';
+        const bool is_entered = next_ < marks_.size() && marks_[next_] == '(';
         if (past == nowhere || content > end_)
             return is_cut_ = true;
         if (past > end)
@@ -221,15 +221,15 @@ private:
         size_t open = 0;
         do {
             ++next_;
-            open += next_ < pattern_.size() && pattern_[next_] == '(' ? 1 : 0;
-            open -= pattern_[next_ - 1] == ')' ? 1 : 0;
+            open += next_ < marks_.size() && marks_[next_] == '(' ? 1 : 0;
+            open -= marks_[next_ - 1] == ')' ? 1 : 0;
         } while (open != 0);
     }
 
     const uint8_t *octets_;
     size_t end_;
-    std::string_view pattern_;
-    size_t next_ = 0; // in the pattern
+    std::string_view marks_;
+    size_t next_ = 0; // mark
     size_t at_ = 0;
     size_t seen_ = 0;
     bool is_cut_ = false;
@@ -264,14 +264,14 @@ Detected detect(const Item &item, const Options &options) {
         promised = label->type;
     }
     const bool is_whole = element_end(item.octets, item.begin, item.end, Tags::all) == item.end;
-    for (const Shape &shape : shapes) {
+    for (const Pattern &pattern : patterns) {
         constexpr size_t enough = 3;
-        if (!Matcher(item, shape.pattern).matches(item.begin, is_whole ? 0 : enough))
+        if (!Matcher(item, pattern.marks).matches(item.begin, is_whole ? 0 : enough))
             continue;
-        if (is_whole && shape.type != promised && decode(item, shape.type, result))
+        if (is_whole && pattern.type != promised && decode(item, pattern.type, result))
             return result;
-        if (shape.is_certain && promised == KOVRA_ASN1_TYPE_COUNT)
-            promised = shape.type;
+        if (pattern.is_certain && promised == KOVRA_ASN1_TYPE_COUNT)
+            promised = pattern.type;
     }
     if (promised == KOVRA_ASN1_TYPE_COUNT)
         decode(item, KOVRA_ASN1_TYPE_ANY, result);

@@ -16,8 +16,8 @@ struct Detected {
 };
 
 // Decodes the element as the type that the options name. Without one it is decoded as what the label of its PEM block
-// promises, else as the first type that has the element's shape and takes it, else as ANY. Where the label or an
-// unmistakable shape names a type that does not take the element, that type is told, not ANY.
+// promises, else as the first type whose pattern it fits and that takes it, else as ANY. Where the label or a
+// pattern that nothing else fits names a type that does not take the element, that type is told, not ANY.
 Detected detect(const Item &item, const Options &options);
 
 // Why the element is not of the type.
