@@ -13,7 +13,7 @@ void put_heading(Session &session, const Item &item, const Place &place, uint32_
     const bool is_told = session.options.type != KOVRA_ASN1_TYPE_COUNT;
     if (session.options.is_quiet || (item.is_only && is_told))
         return;
-    // The only element of the only file needs no number.
+    // Where there is only one element, its number [1] is left out.
     session.out.put("# ");
     session.out.put(item.is_only ? place.file + ":" : place.text());
     session.out.put(" ");

@@ -1,5 +1,6 @@
 // What `show` prints with: lines of a label and a value, and tables from type identifiers and object identifiers to the
-// functions that print a structure. A further structure is a function and a row.
+// functions that print a structure. A further structure is a function and a row in the table of its file, which
+// show_fields.hpp lists.
 #pragma once
 
 #include <cstdint>
@@ -45,6 +46,8 @@ public:
     [[nodiscard]] bool has_secrets() const { return session_.options.has_secrets; }
     // A line with octets that are private.
     void secret(Harmless label, std::string_view octets);
+    // What stands in a line for what is private: its size.
+    void hidden(uint64_t size, Harmless unit);
     [[nodiscard]] bool is_full() const { return session_.options.is_full; }
 
     // The type of what stands in content of type data, where that is known: in stores of keys.
@@ -95,8 +98,8 @@ struct OidRow {
     uint32_t type;
     Show show = nullptr; // null: as the type is shown
 };
-const OidRow *find_extension(std::string_view oid);
-const OidRow *find_attribute(std::string_view oid);
+// The row of an object identifier; null when there is none.
+const OidRow *find_row(std::span<const OidRow> rows, std::string_view oid);
 const OidRow *find_parameters(std::string_view algorithm);
 
 // Reading values. Octets of strings and integers; the whole encoding; the name of an object identifier, or its text.
@@ -147,51 +150,18 @@ std::span<const Harmless> crl_reasons();
 // Versions are counted from 0; one that is absent is version 1.
 void show_version(Printer &printer, const kovra_asn1_value *version);
 
-// Structures, as rows of the tables have them.
+// Structures and values that more than one file shows.
 void show_certificate(Printer &printer, kovra_asn1_value *certificate);
-void show_certificate_pair(Printer &printer, kovra_asn1_value *pair);
 void show_crl(Printer &printer, kovra_asn1_value *crl);
-void show_revoked(Printer &printer, kovra_asn1_value *entry);
-void show_request(Printer &printer, kovra_asn1_value *request);
 void show_public_key(Printer &printer, kovra_asn1_value *info);
 void show_algorithm(Printer &printer, kovra_asn1_value *algorithm);
 void show_extension(Printer &printer, kovra_asn1_value *extension);
 void show_extensions(Printer &printer, kovra_asn1_value *extensions);
-void show_attribute(Printer &printer, kovra_asn1_value *attribute);
 void show_attributes(Printer &printer, kovra_asn1_value *attributes);
-void show_name(Printer &printer, kovra_asn1_value *name);
-void show_general_name(Printer &printer, kovra_asn1_value *name);
 void show_general_names(Printer &printer, kovra_asn1_value *names);
-void show_directory_string(Printer &printer, kovra_asn1_value *string);
-void show_postal_address(Printer &printer, kovra_asn1_value *lines);
-void show_telex_number(Printer &printer, kovra_asn1_value *number);
-
-// Extensions. show_extension.cpp: single values and short lists.
-void show_key_usage(Printer &printer, kovra_asn1_value *bits);
-void show_private_key_period(Printer &printer, kovra_asn1_value *period);
-void show_basic_constraints(Printer &printer, kovra_asn1_value *constraints);
-void show_purposes(Printer &printer, kovra_asn1_value *purposes);
-void show_authority_key(Printer &printer, kovra_asn1_value *identifier);
-void show_number(Printer &printer, kovra_asn1_value *integer);
-void show_key_identifier(Printer &printer, kovra_asn1_value *string);
 void show_octets(Printer &printer, kovra_asn1_value *string);
 void show_oid(Printer &printer, kovra_asn1_value *oid);
 void show_moment(Printer &printer, kovra_asn1_value *time);
-void show_string(Printer &printer, kovra_asn1_value *string);
 void show_reason(Printer &printer, kovra_asn1_value *reason);
-void show_features(Printer &printer, kovra_asn1_value *features);
-void show_certificate_type(Printer &printer, kovra_asn1_value *bits);
-void show_statements(Printer &printer, kovra_asn1_value *statements);
-void show_timestamps(Printer &printer, kovra_asn1_value *string);
-// show_policy.cpp
-void show_policies(Printer &printer, kovra_asn1_value *policies);
-void show_policy_mappings(Printer &printer, kovra_asn1_value *mappings);
-void show_policy_constraints(Printer &printer, kovra_asn1_value *constraints);
-void show_name_constraints(Printer &printer, kovra_asn1_value *constraints);
-// show_point.cpp
-void show_distribution_points(Printer &printer, kovra_asn1_value *points);
-void show_issuing_point(Printer &printer, kovra_asn1_value *point);
-void show_attribute_issuing_point(Printer &printer, kovra_asn1_value *point);
-void show_access(Printer &printer, kovra_asn1_value *descriptions);
 
 } // namespace kovra::tool

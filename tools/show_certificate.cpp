@@ -19,14 +19,6 @@ void show_unique_id(Printer &printer, Harmless label, kovra_asn1_value *identifi
         printer.hex(label, bits_of(identifier));
 }
 
-void show_certificate(Printer &printer, Harmless label, kovra_asn1_value *certificate) {
-    if (certificate == nullptr)
-        return;
-    printer.heading(label);
-    const Printer::Deeper deeper(printer);
-    show_certificate(printer, certificate);
-}
-
 // The reason of an entry that has a plain one, which is shown in the entry's line.
 bool put_plain_reason(Printer &printer, kovra_asn1_value *extension) {
     constexpr std::string_view crl_reason = "2.5.29.21";
@@ -42,6 +34,49 @@ bool put_plain_reason(Printer &printer, kovra_asn1_value *extension) {
     printer.out.put(crl_reasons()[reason]);
     return true;
 }
+
+void show_certificate_pair(Printer &printer, kovra_asn1_value *pair) {
+    show_below<KOVRA_ASN1_TYPE_CERTIFICATE>(printer, "issued to this CA", kovra_x509certpair_getissuedtothisca(pair));
+    show_below<KOVRA_ASN1_TYPE_CERTIFICATE>(printer, "issued by this CA", kovra_x509certpair_getissuedbythisca(pair));
+}
+
+void show_revoked(Printer &printer, kovra_asn1_value *entry) {
+    printer.blanks();
+    put_time(printer, kovra_x509revcertinfo_getrevdate(entry));
+    printer.out.put("  ");
+    put_serial(printer, kovra_x509revcertinfo_getserilano(entry));
+    kovra_asn1_value *extensions = kovra_x509revcertinfo_getexts(entry);
+    if (extensions == nullptr)
+        return printer.end();
+    kovra_asn1_value *first = nullptr;
+    kovra_asn1_list_get(extensions, 0, &first);
+    const bool has_reason = first != nullptr && put_plain_reason(printer, first);
+    printer.end();
+    const Printer::Deeper deeper(printer);
+    for_each(extensions, [&](kovra_asn1_value *extension) {
+        if (extension != first || !has_reason)
+            show_extension(printer, extension);
+    });
+}
+
+void show_request(Printer &printer, kovra_asn1_value *request) {
+    show_version(printer, kovra_pkcs10certreq_getversion(request));
+    show_name(printer, "subject", kovra_pkcs10certreq_getsubject(request));
+    show_public_key(printer, kovra_pkcs10certreq_getpubkey(request));
+    show_count(printer, "attributes", kovra_pkcs10certreq_getattrs(request));
+    {
+        const Printer::Deeper deeper(printer);
+        show_attributes(printer, kovra_pkcs10certreq_getattrs(request));
+    }
+    show_signature(printer, nullptr, kovra_pkcs10certreq_getsignalgo(request),
+                   kovra_pkcs10certreq_getsignvalue(request));
+}
+
+constexpr TypeRow rows[] = {
+    {KOVRA_ASN1_TYPE_CERTIFICATE, show_certificate},       {KOVRA_ASN1_TYPE_CERTIFICATE_LIST, show_crl},
+    {KOVRA_ASN1_TYPE_CERTIFICATION_REQUEST, show_request}, {KOVRA_ASN1_TYPE_CERTIFICATE_PAIR, show_certificate_pair},
+    {KOVRA_ASN1_TYPE_REVOKED_CERTIFICATE, show_revoked},
+};
 
 } // namespace
 
@@ -83,30 +118,6 @@ void show_certificate(Printer &printer, kovra_asn1_value *certificate) {
                    kovra_x509pubkeycert_getsignvalue(certificate));
 }
 
-void show_certificate_pair(Printer &printer, kovra_asn1_value *pair) {
-    show_certificate(printer, "issued to this CA", kovra_x509certpair_getissuedtothisca(pair));
-    show_certificate(printer, "issued by this CA", kovra_x509certpair_getissuedbythisca(pair));
-}
-
-void show_revoked(Printer &printer, kovra_asn1_value *entry) {
-    printer.blanks();
-    put_time(printer, kovra_x509revcertinfo_getrevdate(entry));
-    printer.out.put("  ");
-    put_serial(printer, kovra_x509revcertinfo_getserilano(entry));
-    kovra_asn1_value *extensions = kovra_x509revcertinfo_getexts(entry);
-    if (extensions == nullptr)
-        return printer.end();
-    kovra_asn1_value *first = nullptr;
-    kovra_asn1_list_get(extensions, 0, &first);
-    const bool has_reason = first != nullptr && put_plain_reason(printer, first);
-    printer.end();
-    const Printer::Deeper deeper(printer);
-    for_each(extensions, [&](kovra_asn1_value *extension) {
-        if (extension != first || !has_reason)
-            show_extension(printer, extension);
-    });
-}
-
 void show_crl(Printer &printer, kovra_asn1_value *crl) {
     kovra_asn1_value *inner = kovra_x509crl_getinnersignalgo(crl);
     show_version(printer, kovra_x509crl_getversion(crl));
@@ -127,17 +138,8 @@ void show_crl(Printer &printer, kovra_asn1_value *crl) {
     show_signature(printer, inner, kovra_x509crl_getsignalgo(crl), kovra_x509crl_getsignvalue(crl));
 }
 
-void show_request(Printer &printer, kovra_asn1_value *request) {
-    show_version(printer, kovra_pkcs10certreq_getversion(request));
-    show_name(printer, "subject", kovra_pkcs10certreq_getsubject(request));
-    show_public_key(printer, kovra_pkcs10certreq_getpubkey(request));
-    show_count(printer, "attributes", kovra_pkcs10certreq_getattrs(request));
-    {
-        const Printer::Deeper deeper(printer);
-        show_attributes(printer, kovra_pkcs10certreq_getattrs(request));
-    }
-    show_signature(printer, nullptr, kovra_pkcs10certreq_getsignalgo(request),
-                   kovra_pkcs10certreq_getsignvalue(request));
+std::span<const TypeRow> certificate_structures() {
+    return rows;
 }
 
 } // namespace kovra::tool

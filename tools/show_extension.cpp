@@ -3,8 +3,7 @@
 #include <iterator>
 
 #include "oid_names.hpp"
-#include "show.hpp"
-#include "tool_handles.hpp"
+#include "show_fields.hpp"
 #include "value_text.hpp"
 
 namespace kovra::tool {
@@ -13,23 +12,6 @@ namespace {
 
 bool is_true(const kovra_asn1_value *value) {
     return kovra_asn1_boolean_istrue(value) == 1;
-}
-
-// Octets of known meaning, as shown; unknown and malformed ones in hexadecimal.
-void show_extension_value(Printer &printer, const Message &name, kovra_asn1_value *oid, kovra_asn1_value *string) {
-    const OidRow *row = printer.is_deep() ? nullptr : find_extension(text_of_oid(oid));
-    if (row == nullptr) {
-        if (const Message id{Outside(text_of_oid(oid))}; Harmless(id) != name)
-            printer.field("id", id);
-        return printer.hex("value", octets_of(string));
-    }
-    Value value(row->type);
-    if (kovra_asn1_octetstring_getobject(string, row->type, value.place(), nullptr) != 1)
-        printer.malformed(name, row->type, octets_of(string));
-    else if (row->show != nullptr)
-        row->show(printer, value.get());
-    else
-        show_value(printer, row->type, value.get());
 }
 
 // Big-endian numbers and runs of octets, with the lengths in front of them.
@@ -80,29 +62,6 @@ bool show_timestamp(Printer &printer, std::string_view octets) {
     return true;
 }
 
-} // namespace
-
-void show_extension(Printer &printer, kovra_asn1_value *extension) {
-    kovra_asn1_value *oid = kovra_x509extension_getid(extension);
-    const Message name = name_of_oid(oid);
-    if (is_true(kovra_x509extension_getcritical(extension)))
-        printer.field(name, "critical");
-    else
-        printer.heading(name);
-    const Printer::Deeper deeper(printer);
-    show_extension_value(printer, name, oid, kovra_x509extension_getvalue(extension));
-}
-
-void show_extensions(Printer &printer, kovra_asn1_value *extensions) {
-    if (extensions == nullptr)
-        return;
-    printer.begin("extensions");
-    printer.out.put_number(static_cast<uint64_t>(kovra_asn1_list_getsize(extensions)));
-    printer.end();
-    const Printer::Deeper deeper(printer);
-    for_each(extensions, [&](kovra_asn1_value *extension) { show_extension(printer, extension); });
-}
-
 void show_key_usage(Printer &printer, kovra_asn1_value *bits) {
     static constexpr Harmless names[] = {"digitalSignature", "contentCommitment", "keyEncipherment",
                                          "dataEncipherment", "keyAgreement",      "keyCertSign",
@@ -145,27 +104,9 @@ void show_key_identifier(Printer &printer, kovra_asn1_value *string) {
     printer.hex("key id", octets_of(string));
 }
 
-void show_octets(Printer &printer, kovra_asn1_value *string) {
-    printer.hex("octets", octets_of(string));
-}
-
-void show_oid(Printer &printer, kovra_asn1_value *oid) {
-    printer.field("id", name_of_oid(oid));
-}
-
-void show_moment(Printer &printer, kovra_asn1_value *time) {
-    show_time(printer, "time", time);
-}
-
 void show_string(Printer &printer, kovra_asn1_value *string) {
     constexpr uint32_t ia5_string = 22;
     show_text(printer, "text", ia5_string, string);
-}
-
-void show_reason(Printer &printer, kovra_asn1_value *reason) {
-    printer.begin("reason");
-    put_named(printer, reason, crl_reasons());
-    printer.end();
 }
 
 void show_features(Printer &printer, kovra_asn1_value *features) {
@@ -207,6 +148,149 @@ void show_timestamps(Printer &printer, kovra_asn1_value *string) {
         if (!show_timestamp(printer, timestamp))
             printer.hex("time stamp", timestamp);
     }
+}
+
+void show_nothing(Printer &printer, kovra_asn1_value *) {
+    printer.field("content", "NULL");
+}
+
+void show_response_types(Printer &printer, kovra_asn1_value *types) {
+    for_each(types, [&](kovra_asn1_value *type) { show_named_oid(printer, "response type", type); });
+}
+
+// RFC 6960, 4.4.6.
+constexpr Element service_locator[] = {
+    {"issuer", KOVRA_ASN1_TYPE_NAME, show_name},
+    {"locator", KOVRA_ASN1_TYPE_INFORMATION_ACCESS, show_below<KOVRA_ASN1_TYPE_INFORMATION_ACCESS>},
+};
+
+constexpr OidRow values[] = {
+    // RFC 5280 and X.509.
+    {"2.5.29.9", KOVRA_ASN1_TYPE_SUBJECT_DIRECTORY_ATTRIBUTES},
+    {"2.5.29.14", KOVRA_ASN1_TYPE_OCTET_STRING, show_key_identifier},
+    {"2.5.29.15", KOVRA_ASN1_TYPE_BIT_STRING, show_key_usage},
+    {"2.5.29.16", KOVRA_ASN1_TYPE_PRIVATE_KEY_USAGE_PERIOD},
+    {"2.5.29.17", KOVRA_ASN1_TYPE_GENERAL_NAMES},
+    {"2.5.29.18", KOVRA_ASN1_TYPE_GENERAL_NAMES},
+    {"2.5.29.19", KOVRA_ASN1_TYPE_BASIC_CONSTRAINTS},
+    {"2.5.29.20", KOVRA_ASN1_TYPE_INTEGER, show_number},
+    {"2.5.29.21", KOVRA_ASN1_TYPE_ENUMERATED, show_reason},
+    {"2.5.29.23", KOVRA_ASN1_TYPE_OBJECT_IDENTIFIER, show_oid},
+    {"2.5.29.24", KOVRA_ASN1_TYPE_GENERALIZED_TIME, show_moment},
+    {"2.5.29.27", KOVRA_ASN1_TYPE_INTEGER, show_number},
+    {"2.5.29.28", KOVRA_ASN1_TYPE_ISSUING_DISTRIBUTION_POINT},
+    {"2.5.29.29", KOVRA_ASN1_TYPE_GENERAL_NAMES},
+    {"2.5.29.30", KOVRA_ASN1_TYPE_NAME_CONSTRAINTS},
+    {"2.5.29.31", KOVRA_ASN1_TYPE_CRL_DISTRIBUTION_POINTS},
+    {"2.5.29.32", KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES},
+    {"2.5.29.33", KOVRA_ASN1_TYPE_POLICY_MAPPINGS},
+    {"2.5.29.35", KOVRA_ASN1_TYPE_AUTHORITY_KEY_IDENTIFIER},
+    {"2.5.29.36", KOVRA_ASN1_TYPE_POLICY_CONSTRAINTS},
+    {"2.5.29.37", KOVRA_ASN1_TYPE_EXT_KEY_USAGE},
+    {"2.5.29.46", KOVRA_ASN1_TYPE_CRL_DISTRIBUTION_POINTS},
+    {"2.5.29.54", KOVRA_ASN1_TYPE_INTEGER, show_number},
+    {"2.5.29.63", KOVRA_ASN1_TYPE_AA_ISSUING_DISTRIBUTION_POINT},
+    {"1.3.6.1.5.5.7.1.1", KOVRA_ASN1_TYPE_INFORMATION_ACCESS},
+    {"1.3.6.1.5.5.7.1.11", KOVRA_ASN1_TYPE_INFORMATION_ACCESS},
+    // RFC 3739, 7633, 6960, 6962.
+    {"1.3.6.1.5.5.7.1.3", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, show_statements},
+    {"1.3.6.1.5.5.7.1.24", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, show_features},
+    {"1.3.6.1.5.5.7.48.1.2", KOVRA_ASN1_TYPE_OCTET_STRING, show_octets},
+    {"1.3.6.1.5.5.7.48.1.3", KOVRA_ASN1_TYPE_OCSP_CRL_ID},
+    {"1.3.6.1.5.5.7.48.1.4", KOVRA_ASN1_TYPE_EXT_KEY_USAGE, show_response_types},
+    {"1.3.6.1.5.5.7.48.1.5", KOVRA_ASN1_TYPE_NULL, show_nothing},
+    {"1.3.6.1.5.5.7.48.1.6", KOVRA_ASN1_TYPE_GENERALIZED_TIME, show_moment},
+    {"1.3.6.1.5.5.7.48.1.7", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY, show_items<service_locator>},
+    {"1.3.6.1.5.5.7.48.1.9", KOVRA_ASN1_TYPE_NULL, show_nothing},
+    {"1.3.6.1.4.1.11129.2.4.2", KOVRA_ASN1_TYPE_OCTET_STRING, show_timestamps},
+    {"1.3.6.1.4.1.11129.2.4.3", KOVRA_ASN1_TYPE_NULL, show_nothing},
+    {"1.3.6.1.4.1.11129.2.4.5", KOVRA_ASN1_TYPE_OCTET_STRING, show_timestamps},
+    // Of makers of software.
+    {"2.16.840.1.113730.1.1", KOVRA_ASN1_TYPE_BIT_STRING, show_certificate_type},
+    {"2.16.840.1.113730.1.2", KOVRA_ASN1_TYPE_IA5_STRING, show_string},
+    {"2.16.840.1.113730.1.3", KOVRA_ASN1_TYPE_IA5_STRING, show_string},
+    {"2.16.840.1.113730.1.4", KOVRA_ASN1_TYPE_IA5_STRING, show_string},
+    {"2.16.840.1.113730.1.8", KOVRA_ASN1_TYPE_IA5_STRING, show_string},
+    {"2.16.840.1.113730.1.12", KOVRA_ASN1_TYPE_IA5_STRING, show_string},
+    {"2.16.840.1.113730.1.13", KOVRA_ASN1_TYPE_IA5_STRING, show_string},
+    {"1.3.6.1.4.1.311.20.2", KOVRA_ASN1_TYPE_ANY},
+    {"1.3.6.1.4.1.311.21.1", KOVRA_ASN1_TYPE_INTEGER, show_number},
+    {"1.3.6.1.4.1.311.21.2", KOVRA_ASN1_TYPE_OCTET_STRING, show_octets},
+    {"1.3.6.1.4.1.311.21.4", KOVRA_ASN1_TYPE_TIME, show_moment},
+    {"1.3.6.1.4.1.311.21.7", KOVRA_ASN1_TYPE_SEQUENCE_OF_ANY},
+    {"1.3.6.1.4.1.311.21.10", KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES},
+    {"1.3.6.1.4.1.311.21.14", KOVRA_ASN1_TYPE_CRL_DISTRIBUTION_POINTS},
+};
+
+// Octets of known meaning, as shown; unknown and malformed ones in hexadecimal.
+void show_extension_value(Printer &printer, const Message &name, kovra_asn1_value *oid, kovra_asn1_value *string) {
+    const OidRow *row = printer.is_deep() ? nullptr : find_row(values, text_of_oid(oid));
+    if (row == nullptr) {
+        if (const Message id{Outside(text_of_oid(oid))}; Harmless(id) != name)
+            printer.field("id", id);
+        return printer.hex("value", octets_of(string));
+    }
+    Value value(row->type);
+    if (kovra_asn1_octetstring_getobject(string, row->type, value.place(), nullptr) != 1)
+        printer.malformed(name, row->type, octets_of(string));
+    else if (row->show != nullptr)
+        row->show(printer, value.get());
+    else
+        show_value(printer, row->type, value.get());
+}
+
+constexpr TypeRow rows[] = {
+    {KOVRA_ASN1_TYPE_EXTENSION, show_extension},
+    {KOVRA_ASN1_TYPE_EXTENSIONS, show_extensions},
+    {KOVRA_ASN1_TYPE_AUTHORITY_KEY_IDENTIFIER, show_authority_key},
+    {KOVRA_ASN1_TYPE_EXT_KEY_USAGE, show_purposes},
+    {KOVRA_ASN1_TYPE_PRIVATE_KEY_USAGE_PERIOD, show_private_key_period},
+    {KOVRA_ASN1_TYPE_BASIC_CONSTRAINTS, show_basic_constraints},
+};
+
+} // namespace
+
+void show_extension(Printer &printer, kovra_asn1_value *extension) {
+    kovra_asn1_value *oid = kovra_x509extension_getid(extension);
+    const Message name = name_of_oid(oid);
+    if (is_true(kovra_x509extension_getcritical(extension)))
+        printer.field(name, "critical");
+    else
+        printer.heading(name);
+    const Printer::Deeper deeper(printer);
+    show_extension_value(printer, name, oid, kovra_x509extension_getvalue(extension));
+}
+
+void show_extensions(Printer &printer, kovra_asn1_value *extensions) {
+    if (extensions == nullptr)
+        return;
+    printer.begin("extensions");
+    printer.out.put_number(static_cast<uint64_t>(kovra_asn1_list_getsize(extensions)));
+    printer.end();
+    const Printer::Deeper deeper(printer);
+    for_each(extensions, [&](kovra_asn1_value *extension) { show_extension(printer, extension); });
+}
+
+void show_octets(Printer &printer, kovra_asn1_value *string) {
+    printer.hex("octets", octets_of(string));
+}
+
+void show_oid(Printer &printer, kovra_asn1_value *oid) {
+    printer.field("id", name_of_oid(oid));
+}
+
+void show_moment(Printer &printer, kovra_asn1_value *time) {
+    show_time(printer, "time", time);
+}
+
+void show_reason(Printer &printer, kovra_asn1_value *reason) {
+    printer.begin("reason");
+    put_named(printer, reason, crl_reasons());
+    printer.end();
+}
+
+std::span<const TypeRow> extension_structures() {
+    return rows;
 }
 
 } // namespace kovra::tool

@@ -8,23 +8,7 @@ namespace {
 
 constexpr uint32_t utf8_string = 12;
 
-void put_hidden(Printer &printer, uint64_t size, Harmless unit) {
-    printer.out.put("(hidden, ");
-    printer.out.put_number(size);
-    printer.out.put(unit);
-    printer.out.put(")");
-}
-
 } // namespace
-
-void Printer::secret(Harmless label, std::string_view octets) {
-    begin(label);
-    if (has_secrets())
-        hex(octets);
-    else
-        put_hidden(*this, octets.size(), " octets");
-    end();
-}
 
 void show_fields(Printer &printer, std::span<const Field> fields, kovra_asn1_value *value) {
     for (const Field &field : fields)
@@ -87,7 +71,7 @@ void show_secret_number(Printer &printer, Harmless label, kovra_asn1_value *inte
     if (printer.has_secrets())
         return show_integer(printer, label, integer);
     printer.begin(label);
-    put_hidden(printer, bit_length(integer_octets(integer)), " bits");
+    printer.hidden(bit_length(integer_octets(integer)), " bits");
     printer.end();
 }
 

@@ -82,10 +82,17 @@ bool read_any(kovra_asn1_value *any, uint32_t type, Value &out);
 
 uint64_t bit_length(const std::string &octets);
 
-// The rows of each file.
-std::span<const TypeRow> key_structures();
+// The structures that each file shows: show_value looks for a type in all of them.
+std::span<const TypeRow> attribute_structures();
+std::span<const TypeRow> certificate_structures();
+std::span<const TypeRow> extension_structures();
 std::span<const TypeRow> message_structures();
+std::span<const TypeRow> name_structures();
 std::span<const TypeRow> parameter_structures();
+std::span<const TypeRow> point_structures();
+std::span<const TypeRow> policy_structures();
+std::span<const TypeRow> private_key_structures();
+std::span<const TypeRow> public_key_structures();
 std::span<const TypeRow> recipient_structures();
 std::span<const TypeRow> stamp_structures();
 std::span<const TypeRow> status_structures();

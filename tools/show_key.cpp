@@ -93,7 +93,8 @@ bool put_curve(Printer &printer, kovra_asn1_value *parameters) {
     return true;
 }
 
-// Parameters that have a place in the line of the algorithm. False, with nothing printed, when they are something else.
+// How parameters are printed in the line of their algorithm. False, with nothing printed, when they are not of the type
+// that the algorithm wants.
 struct Parameters {
     std::string_view algorithm;
     bool (*put)(Printer &, kovra_asn1_value *);
@@ -103,7 +104,7 @@ constexpr Parameters known_parameters[] = {
     {"1.3.132.1.12", put_curve},        {"1.3.132.1.13", put_curve},
 };
 
-// Prints what of the parameters goes into the line; true when that is all of them.
+// Prints the parameters in the line of the algorithm, if they can be; true when nothing of them is left to print.
 bool put_parameters(Printer &printer, kovra_asn1_value *algorithm) {
     kovra_asn1_value *parameters = kovra_x509algoid_getparam(algorithm);
     if (parameters == nullptr || kovra_x509algoid_isnullparam(algorithm) == 1)
@@ -129,10 +130,11 @@ bool number_at(kovra_asn1_value *list, int32_t index, Value &out) {
            kovra_asn1_any_toobject(element, KOVRA_ASN1_TYPE_INTEGER, out.place(), nullptr) == 1;
 }
 
-// Prints the size of the key to the line and the key below it.
+// Prints the size of a key at the end of the line, and the key below it; false, with nothing printed, for octets that
+// are no such key.
 using ShowKey = bool (*)(Printer &, kovra_asn1_value *algorithm, kovra_asn1_value *key, bool has_all);
 
-// Ends the line of the algorithm, and shows parameters that have no place in it.
+// Ends the line of the algorithm; parameters that were not printed in it follow below.
 void end_line(Printer &printer, kovra_asn1_value *algorithm, bool has_all) {
     printer.end();
     if (has_all)
@@ -242,6 +244,11 @@ constexpr Key keys[] = {
     {"1.3.101.113", show_edwards_key},
 };
 
+constexpr TypeRow rows[] = {
+    {KOVRA_ASN1_TYPE_ALGORITHM_IDENTIFIER, show_algorithm},
+    {KOVRA_ASN1_TYPE_SUBJECT_PUBLIC_KEY_INFO, show_public_key},
+};
+
 } // namespace
 
 void show_algorithm(Printer &printer, Harmless label, kovra_asn1_value *algorithm) {
@@ -266,6 +273,10 @@ void show_public_key(Printer &printer, kovra_asn1_value *info) {
         std::find_if(std::begin(keys), std::end(keys), [&](const Key &row) { return row.algorithm == name; });
     if (found == std::end(keys) || !found->show(printer, algorithm, key, has_all))
         show_plain_key(printer, algorithm, key, has_all);
+}
+
+std::span<const TypeRow> public_key_structures() {
+    return rows;
 }
 
 } // namespace kovra::tool

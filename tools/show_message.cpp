@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "content.hpp"
+#include "inner.hpp"
 #include "show_fields.hpp"
 
 namespace kovra::tool {
@@ -13,7 +13,7 @@ namespace {
 
 constexpr uint32_t utf8_string = 12;
 
-// Lines of text are shown as text.
+// Is it printable ASCII and white space only?
 bool is_text(std::string_view octets) {
     return std::all_of(octets.begin(), octets.end(), [](char c) {
         const auto octet = static_cast<uint8_t>(c);

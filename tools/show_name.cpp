@@ -143,6 +143,47 @@ void put_party_name(Printer &printer, const kovra_asn1_value *name) {
     put_directory_string(printer, kovra_x509edipartyname_getpartyname(name));
 }
 
+void show_name(Printer &printer, kovra_asn1_value *name) {
+    show_name(printer, "name", name);
+}
+
+void show_general_name(Printer &printer, kovra_asn1_value *name) {
+    printer.begin(kind_of_general_name(name));
+    put_general_name(printer, name);
+    printer.end();
+}
+
+void show_directory_string(Printer &printer, kovra_asn1_value *string) {
+    printer.begin("value");
+    put_directory_string(printer, string);
+    printer.end();
+}
+
+void show_postal_address(Printer &printer, kovra_asn1_value *lines) {
+    for_each(lines, [&](kovra_asn1_value *line) {
+        printer.begin("line");
+        put_directory_string(printer, line);
+        printer.end();
+    });
+}
+
+void show_telex_number(Printer &printer, kovra_asn1_value *number) {
+    constexpr uint32_t printable_string = 19;
+    show_text(printer, "number", printable_string, kovra_x500telexnum_gettelexnum(number));
+    show_text(printer, "country", printable_string, kovra_x500telexnum_getcoutrycode(number));
+    show_text(printer, "answerback", printable_string, kovra_x500telexnum_getanswerback(number));
+}
+
+constexpr TypeRow rows[] = {
+    {KOVRA_ASN1_TYPE_NAME, show_name},
+    {KOVRA_ASN1_TYPE_DIRECTORY_STRING, show_directory_string},
+    {KOVRA_ASN1_TYPE_POSTAL_ADDRESS, show_postal_address},
+    {KOVRA_ASN1_TYPE_TELEX_NUMBER, show_telex_number},
+    {KOVRA_ASN1_TYPE_PKCS9_STRING, show_directory_string},
+    {KOVRA_ASN1_TYPE_GENERAL_NAME, show_general_name},
+    {KOVRA_ASN1_TYPE_GENERAL_NAMES, show_general_names},
+};
+
 } // namespace
 
 void put_relative_name(Printer &printer, kovra_asn1_value *rdn) {
@@ -219,16 +260,6 @@ void show_name(Printer &printer, Harmless label, kovra_asn1_value *name) {
     printer.end();
 }
 
-void show_name(Printer &printer, kovra_asn1_value *name) {
-    show_name(printer, "name", name);
-}
-
-void show_general_name(Printer &printer, kovra_asn1_value *name) {
-    printer.begin(kind_of_general_name(name));
-    put_general_name(printer, name);
-    printer.end();
-}
-
 void show_general_names(Printer &printer, kovra_asn1_value *names) {
     for_each(names, [&](kovra_asn1_value *name) { show_general_name(printer, name); });
 }
@@ -241,25 +272,8 @@ void show_general_names(Printer &printer, Harmless label, kovra_asn1_value *name
     show_general_names(printer, names);
 }
 
-void show_directory_string(Printer &printer, kovra_asn1_value *string) {
-    printer.begin("value");
-    put_directory_string(printer, string);
-    printer.end();
-}
-
-void show_postal_address(Printer &printer, kovra_asn1_value *lines) {
-    for_each(lines, [&](kovra_asn1_value *line) {
-        printer.begin("line");
-        put_directory_string(printer, line);
-        printer.end();
-    });
-}
-
-void show_telex_number(Printer &printer, kovra_asn1_value *number) {
-    constexpr uint32_t printable_string = 19;
-    show_text(printer, "number", printable_string, kovra_x500telexnum_gettelexnum(number));
-    show_text(printer, "country", printable_string, kovra_x500telexnum_getcoutrycode(number));
-    show_text(printer, "answerback", printable_string, kovra_x500telexnum_getanswerback(number));
+std::span<const TypeRow> name_structures() {
+    return rows;
 }
 
 } // namespace kovra::tool

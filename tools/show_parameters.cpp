@@ -231,9 +231,7 @@ constexpr OidRow parameters[] = {
 } // namespace
 
 const OidRow *find_parameters(std::string_view algorithm) {
-    const auto *found = std::find_if(std::begin(parameters), std::end(parameters),
-                                     [&](const OidRow &row) { return row.oid == algorithm; });
-    return found != std::end(parameters) ? found : nullptr;
+    return find_row(parameters, algorithm);
 }
 
 std::span<const TypeRow> parameter_structures() {

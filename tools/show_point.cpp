@@ -15,15 +15,6 @@ void show_point_name(Printer &printer, kovra_asn1_value *name) {
     }
 }
 
-} // namespace
-
-std::span<const Harmless> reason_flags() {
-    static constexpr Harmless names[] = {"unused",      "keyCompromise",        "cACompromise",    "affiliationChanged",
-                                         "superseded",  "cessationOfOperation", "certificateHold", "privilegeWithdrawn",
-                                         "aACompromise"};
-    return names;
-}
-
 void show_distribution_points(Printer &printer, kovra_asn1_value *points) {
     for_each(points, [&](kovra_asn1_value *point) {
         printer.heading("point");
@@ -61,6 +52,26 @@ void show_access(Printer &printer, kovra_asn1_value *descriptions) {
         put_general_name(printer, location);
         printer.end();
     });
+}
+
+constexpr TypeRow rows[] = {
+    {KOVRA_ASN1_TYPE_CRL_DISTRIBUTION_POINTS, show_distribution_points},
+    {KOVRA_ASN1_TYPE_INFORMATION_ACCESS, show_access},
+    {KOVRA_ASN1_TYPE_ISSUING_DISTRIBUTION_POINT, show_issuing_point},
+    {KOVRA_ASN1_TYPE_AA_ISSUING_DISTRIBUTION_POINT, show_attribute_issuing_point},
+};
+
+} // namespace
+
+std::span<const Harmless> reason_flags() {
+    static constexpr Harmless names[] = {"unused",      "keyCompromise",        "cACompromise",    "affiliationChanged",
+                                         "superseded",  "cessationOfOperation", "certificateHold", "privilegeWithdrawn",
+                                         "aACompromise"};
+    return names;
+}
+
+std::span<const TypeRow> point_structures() {
+    return rows;
 }
 
 } // namespace kovra::tool

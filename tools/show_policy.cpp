@@ -1,7 +1,6 @@
 // Extensions about policies, and name constraints.
 
-#include "show.hpp"
-#include "tool_handles.hpp"
+#include "show_fields.hpp"
 
 namespace kovra::tool {
 
@@ -83,8 +82,6 @@ void show_subtrees(Printer &printer, Harmless label, kovra_asn1_value *subtrees)
     });
 }
 
-} // namespace
-
 void show_policies(Printer &printer, kovra_asn1_value *policies) {
     for_each(policies, [&](kovra_asn1_value *policy) {
         printer.field("policy", name_of_oid(kovra_x509policyinfo_getid(policy)));
@@ -123,6 +120,21 @@ void show_name_constraints(Printer &printer, kovra_asn1_value *constraints) {
     show_bits(printer, "basic", kovra_x509nameforms_getbasic(forms), basic);
     for_each(kovra_x509nameforms_getother(forms),
              [&](const kovra_asn1_value *oid) { printer.field("other", name_of_oid(oid)); });
+}
+
+constexpr TypeRow rows[] = {
+    {KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES, show_policies},
+    {KOVRA_ASN1_TYPE_POLICY_MAPPINGS, show_policy_mappings},
+    {KOVRA_ASN1_TYPE_NAME_CONSTRAINTS, show_name_constraints},
+    {KOVRA_ASN1_TYPE_PKIX_NAME_CONSTRAINTS, show_name_constraints},
+    {KOVRA_ASN1_TYPE_POLICY_CONSTRAINTS, show_policy_constraints},
+    {KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES_1, show_policies},
+};
+
+} // namespace
+
+std::span<const TypeRow> policy_structures() {
+    return rows;
 }
 
 } // namespace kovra::tool

@@ -96,6 +96,22 @@ void Printer::malformed_secret(Harmless what, uint32_t type, std::string_view oc
     report(what, type, octets);
 }
 
+void Printer::secret(Harmless label, std::string_view octets) {
+    begin(label);
+    if (has_secrets())
+        hex(octets);
+    else
+        hidden(octets.size(), " octets");
+    end();
+}
+
+void Printer::hidden(uint64_t size, Harmless unit) {
+    out.put("(hidden, ");
+    out.put_number(size);
+    out.put(unit);
+    out.put(")");
+}
+
 void Printer::report(Harmless what, uint32_t type, std::string_view octets) {
     session_.report(place_ + " " + what, explain({octets_in(octets), 0, octets.size(), true}, {type}));
 }

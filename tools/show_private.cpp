@@ -1,6 +1,6 @@
 // Keys: RSA, DSA, elliptic curves, PKCS #8, SM2 and enveloped pairs. What is private is shown by its size.
 
-#include "content.hpp"
+#include "inner.hpp"
 #include "show_fields.hpp"
 #include "show_message.hpp"
 
@@ -169,7 +169,7 @@ void show_private_octets(Printer &printer, kovra_asn1_value *octet_string) {
     show_secret_octets(printer, private_label, octet_string);
 }
 
-std::span<const TypeRow> key_structures() {
+std::span<const TypeRow> private_key_structures() {
     return rows;
 }
 

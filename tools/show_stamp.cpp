@@ -126,7 +126,6 @@ constexpr TypeRow rows[] = {
     {KOVRA_ASN1_TYPE_ESS_CERT_ID_V2, show_fields<certificate_id_2>},
     {KOVRA_ASN1_TYPE_SIGNING_CERTIFICATE, show_fields<signing_certificate>},
     {KOVRA_ASN1_TYPE_SIGNING_CERTIFICATE_V2, show_fields<signing_certificate_2>},
-    {KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES_1, show_policies},
 };
 
 } // namespace

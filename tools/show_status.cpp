@@ -1,6 +1,6 @@
 // Requests and responses about the status of certificates (OCSP).
 
-#include "content.hpp"
+#include "inner.hpp"
 #include "show_fields.hpp"
 #include "show_message.hpp"
 

@@ -1,6 +1,6 @@
 // Stores of keys and certificates (PKCS #12), and the records of a certificate store.
 
-#include "content.hpp"
+#include "inner.hpp"
 #include "show_fields.hpp"
 
 namespace kovra::tool {

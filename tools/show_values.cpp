@@ -13,7 +13,7 @@ namespace kovra::tool {
 
 namespace {
 
-// Copies what a pair of functions measures and gives; nothing where the length cannot be had.
+// Octets of a value by the two functions that give their number and copy them; empty when there is no length.
 template <class T> std::string copied(T *value, int32_t (*measure)(const T *), int32_t (*copy)(T *, void *)) {
     const int32_t length = measure(value);
     std::string octets(length > 0 ? static_cast<size_t>(length) : 0, '\0');
@@ -106,7 +106,7 @@ void put_quoted(Printer &printer, uint32_t tag, std::string_view octets) {
 void put_bits(Printer &printer, kovra_asn1_value *bit_string, std::span<const Harmless> names) {
     const std::string octets = bits_of(bit_string);
     const int64_t count = static_cast<int64_t>(octets.size()) * 8 - kovra_asn1_bitstring_getunusedbits(bit_string);
-    // Of a long string of no known use the octets say more.
+    // A long string is no list of flags: its octets are shown.
     constexpr int32_t most = 64;
     if (count > most)
         return printer.hex(octets);

@@ -1,4 +1,4 @@
-#include "content.hpp"
+#include "inner.hpp"
 
 #include <algorithm>
 #include <iterator>
@@ -55,14 +55,9 @@ constexpr OidRow bag_contents[] = {
 
 constexpr OidRow basic_response = {basic_response_oid, KOVRA_ASN1_TYPE_OCSP_BASIC_RESPONSE};
 constexpr OidRow token = {"", KOVRA_ASN1_TYPE_CONTENT_INFO};
-// Data in data is an AuthenticatedSafe first, then SafeContents.
+// In a PFX, content of type data is an AuthenticatedSafe, and in that SafeContents.
 constexpr OidRow authenticated_safe = {"", KOVRA_ASN1_TYPE_AUTHENTICATED_SAFE};
 constexpr OidRow safe_contents = {"", KOVRA_ASN1_TYPE_SAFE_CONTENTS};
-
-const OidRow *find(std::span<const OidRow> rows, std::string_view oid) {
-    const auto found = std::find_if(rows.begin(), rows.end(), [&](const OidRow &row) { return row.oid == oid; });
-    return found != rows.end() ? &*found : nullptr;
-}
 
 std::span<const OidRow> one(const OidRow *row) {
     return row != nullptr ? std::span(row, 1) : std::span<const OidRow>();
@@ -76,7 +71,7 @@ std::span<const OidRow> rows_of(std::string_view oid, uint32_t type_of_data) {
     return type_of_data == KOVRA_ASN1_TYPE_SAFE_CONTENTS ? one(&safe_contents) : std::span<const OidRow>();
 }
 
-// The octets of an OCTET STRING, as PKCS #12 and CMS hold structures; else the element itself.
+// The encoding of a structure that stands in an OCTET STRING, as in PKCS #12 and CMS, or by itself.
 std::string unwrapped(kovra_asn1_value *any) {
     Value string(KOVRA_ASN1_TYPE_OCTET_STRING);
     return read_any(any, KOVRA_ASN1_TYPE_OCTET_STRING, string) ? octets_of(string.get())
@@ -92,15 +87,15 @@ std::span<const OidRow> find_content(std::string_view oid) {
 }
 
 const OidRow *find_private_key(std::string_view algorithm) {
-    return find(private_keys, algorithm);
+    return find_row(private_keys, algorithm);
 }
 
 const OidRow *find_bag(std::string_view id) {
-    return find(bags, id);
+    return find_row(bags, id);
 }
 
 const OidRow *find_bag_content(std::string_view id) {
-    return find(bag_contents, id);
+    return find_row(bag_contents, id);
 }
 
 void for_each_inner(uint32_t type, kovra_asn1_value *value, uint32_t type_of_data,

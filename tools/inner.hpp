@@ -1,4 +1,4 @@
-// What stands in content whose type an object identifier names.
+// The structures within structures: content and keys whose type an object identifier names.
 #pragma once
 
 #include <functional>
@@ -21,14 +21,14 @@ const OidRow *find_private_key(std::string_view algorithm);
 const OidRow *find_bag(std::string_view id);
 const OidRow *find_bag_content(std::string_view id);
 
-// Calls the function with every structure in the value that stands there as octets or as an element of no type: the
-// content of messages, responses, tokens, keys and stores. `octets` are its encoding, which may be of any of the types;
-// `type_of_data` is what content of type data is in there, when that is known.
+// A structure that another holds as octets or as an element of any type: the content of messages, responses, tokens,
+// keys and stores.
 struct Inner {
-    std::string octets;
-    std::span<const OidRow> rows;
-    uint32_t type_of_data = KOVRA_ASN1_TYPE_COUNT;
+    std::string octets;                            // its encoding
+    std::span<const OidRow> rows;                  // the types that it may be of; none when they are not known
+    uint32_t type_of_data = KOVRA_ASN1_TYPE_COUNT; // of content of type data inside it, where that is known
 };
+// Calls the function with every structure that the value holds so.
 void for_each_inner(uint32_t type, kovra_asn1_value *value, uint32_t type_of_data,
                     const std::function<void(Inner)> &function);
 
