@@ -7,7 +7,7 @@ namespace kovra::tool {
 
 namespace {
 
-// Takes the text over, which is null for octets that are none.
+// The text in UTF-8; it is freed. False for null, which the library gives for octets that are no characters.
 bool take_utf8(kovra_ustring *text, std::string &out) {
     const Blob utf8(kovra_ustring_toutf8(text));
     kovra_ustring_free(text);

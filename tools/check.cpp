@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "content.hpp"
 #include "detect.hpp"
+#include "inner.hpp"
 #include "paths.hpp"
 #include "progress.hpp"
 #include "show_fields.hpp"
@@ -14,7 +14,7 @@ namespace kovra::tool {
 
 namespace {
 
-// Types whose encoding comes back as it was, whatever its form. Of others only DER does.
+// Types that keep the octets they were decoded from and write these again, BER or DER. Others write DER.
 bool keeps_encoding(uint32_t type) {
     constexpr uint32_t types[] = {KOVRA_ASN1_TYPE_ANY,
                                   KOVRA_ASN1_TYPE_ATTRIBUTE_TYPE_AND_DISTINGUISHED_VALUE,
@@ -26,16 +26,16 @@ bool keeps_encoding(uint32_t type) {
     return std::find(std::begin(types), std::end(types), type) != std::end(types);
 }
 
-// Does the value of the octets have these octets as its encoding?
+// Is the encoding what decoding and encoding it again gives?
 bool is_stable(uint32_t type, std::string_view encoding) {
     Value value(type);
     return read_octets(encoding, type, value) && encoding_of(type, value.get()) == encoding;
 }
 
-// From the best to the worst; of an element and the structures in it the worst counts.
+// From the best to the worst: an element has the worst outcome among its own and those of the structures in it.
 enum class Outcome { identical, reencoded, malformed, different };
 
-// How the value of the octets comes back, and at which octet it is the first time another.
+// Compares the encoding of a value with the octets it was decoded from; `difference` is the first octet that differs.
 Outcome compare(uint32_t type, const kovra_asn1_value *value, std::string_view octets, size_t &difference) {
     const std::string again = encoding_of(type, value);
     difference = static_cast<size_t>(std::mismatch(octets.begin(), octets.end(), again.begin(), again.end()).first -
@@ -45,7 +45,7 @@ Outcome compare(uint32_t type, const kovra_asn1_value *value, std::string_view o
     return !keeps_encoding(type) && is_stable(type, again) ? Outcome::reencoded : Outcome::different;
 }
 
-// Is there an encoding that there is no memory for?
+// Has the value a length, but memory is too short for its encoding?
 bool lacks_memory(uint32_t type, const kovra_asn1_value *value) {
     return kovra_asn1_length(type, value) > 0 && encoding_of(type, value).empty();
 }
@@ -137,7 +137,8 @@ private:
         kovra_asn1_value_free(detected.type, detected.value);
     }
 
-    // Checks what stands in a value as octets, and what stands in that, as far as a message is nested in earnest.
+    // Checks the structures that stand in a value as octets, those in these, and so on, up to a depth that no real
+    // message has.
     Outcome check_inner(uint32_t type, kovra_asn1_value *value, const Inner &outer, const Message &place,
                         size_t level) {
         constexpr size_t deepest = 32;

@@ -67,7 +67,7 @@ Trouble no_memory(size_t octet) {
 
 void Session::report(const Message &place, const Trouble &trouble) {
     out.flush();
-    // Want of memory says nothing about the input.
+    // Where memory is short, the input may be good: it does not count as malformed.
     const bool is_short = trouble.chain.front().code == KOVRA_ERR_NO_MEMORY;
     status_ = std::max(status_, is_short ? Status::io : Status::malformed);
     is_incomplete_ = is_incomplete_ || is_short;

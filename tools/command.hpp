@@ -1,4 +1,9 @@
 // What the commands of kovra-asn1 share.
+//
+// The tool uses the public headers only, as any program does, and works on large files with little memory: it walks
+// over the octets and prints while it walks. Some of what the library does is therefore here once more: headers are
+// read in place (element.cpp), JSON is printed without a tree (json.cpp), types have their names (types.cpp), and what
+// an element may be is told by patterns before anything is decoded (detect.cpp). Tests compare these with the library.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,4 @@
-// Headers of BER elements, read in place: the library's functions for this work on streams, an octet a call. The limits
-// are those of kovra/asn1_lib.h.
+// Headers of BER elements, read in place, with the limits of kovra/asn1_lib.h.
 #pragma once
 
 #include <cstddef>

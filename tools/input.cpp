@@ -31,12 +31,12 @@ bool is_space(uint8_t octet) {
     return octet == ' ' || (octet >= '\t' && octet <= '\r');
 }
 
-// Octets that no text has; UTF-8 is text.
+// Octets that mark a file as BER: control characters but white space. Octets of 80 and above may be UTF-8.
 bool is_control(uint8_t octet) {
     return (octet < 0x20 && !is_space(octet)) || octet == 0x7F;
 }
 
-// Sizes that a file may claim beforehand; a directory claims more.
+// Room is made for a whole file of at most this size. For a directory, some systems tell the largest number there is.
 constexpr long largest_trusted_size = 0x7FFFFFFE;
 
 constexpr std::string_view armour = "-----BEGIN ";
@@ -50,7 +50,7 @@ size_t find_armour(std::string_view text) {
     return at;
 }
 
-// Frees what the library gave and returns a copy; nothing for null.
+// Copies octets that the library gave, and frees them. False for null.
 bool take(void *octets, int32_t length, std::vector<uint8_t> &out) {
     if (octets == nullptr)
         return false;
@@ -82,7 +82,8 @@ bool from_base64(const std::vector<uint8_t> &text, std::vector<uint8_t> &out) {
     return take(octets, length, out) && !out.empty();
 }
 
-// Are the first octets those of BER, whatever follows? Reads until that is known or unlikely.
+// Reads until a control character shows that the input is BER. False when PEM armour comes first, or neither among the
+// first octets.
 bool begins_as_ber(StandardInput &input, std::vector<uint8_t> &octets) {
     constexpr auto enough = threshold<size_t>(1 << 16, 1);
     size_t seen = 0;
@@ -113,8 +114,8 @@ std::string read_file(const std::string &path, std::vector<uint8_t> &out) {
     const std::unique_ptr<FILE, decltype(close)> file(is_standard_input ? stdin : open_to_read(path), close);
     if (file == nullptr)
         return std::strerror(errno);
-    // Room for the whole file and an octet more, which shows that it ends; what cannot be positioned grows, and so does
-    // what has become longer meanwhile.
+    // With room for an octet more than the file has, one call reads it and sees the end. For a pipe, whose size is not
+    // known, and a file that has grown meanwhile, the room is doubled.
     constexpr auto first_piece = threshold<size_t>(1 << 16, 1);
     size_t room = first_piece;
     if (!is_standard_input && std::fseek(file.get(), 0, SEEK_END) == 0) {
@@ -184,7 +185,7 @@ Items::Chunk Items::next_block() {
     return block;
 }
 
-// False when the input ends before.
+// Reads until the chunk has `end` octets; false when the input ends before.
 bool Items::await_octets(size_t end) {
     while (chunk_.octets.size() < end)
         if (!input_->read(chunk_.octets))
@@ -192,8 +193,8 @@ bool Items::await_octets(size_t end) {
     return true;
 }
 
-// Reads on until the element at the position is there, as far as it is one that the library takes in pieces. False when
-// it has to be looked for without.
+// Reads until the element at the position is complete, which the library's functions for elements in pieces tell. False
+// when they do not take it: the caller has to find its end by itself.
 bool Items::await_content() {
     const std::vector<uint8_t> &octets = chunk_.octets;
     const std::unique_ptr<kovra_asn1_decode_any_ctx, Free> ctx(kovra_asn1_decode_any_ctx_new());
@@ -212,7 +213,7 @@ bool Items::await_content() {
         const int32_t count = piece();
         result = kovra_asn1_decode_any_identifier_length(ctx.get(), 0, octets.data() + taken, count, &tag_class, &form,
                                                          &tag, &length, &left);
-        // Tag numbers of several octets are not read as in files.
+        // These functions read tag numbers of several octets in another way than X.690 writes them.
         if (result == 0 || (octets[position_] & 0x1F) == 0x1F)
             return false;
         taken += static_cast<size_t>(count - left);
@@ -235,7 +236,7 @@ bool Items::await_content() {
 
 void Items::await_element() {
     std::vector<uint8_t> &octets = chunk_.octets;
-    // What was given goes, but for an octet: position 0 says that nothing was.
+    // Octets of items that were given are dropped. One is left, since position 0 means that none was given yet.
     constexpr auto worth_dropping = threshold<size_t>(1 << 20, 1);
     if (position_ > worth_dropping && position_ > octets.size() / 2) {
         const size_t dropped = position_ - 1;
@@ -245,7 +246,8 @@ void Items::await_element() {
     }
     if (await_content())
         return;
-    // Looking again only each time that the octets have doubled keeps the time linear where there are many.
+    // Each look starts at the beginning of the element: from `many` octets on, one is taken only when twice as many
+    // have come, so that the time stays linear.
     constexpr auto many = threshold<size_t>(4096, 1);
     for (size_t more = 1; element_end(octets.data(), position_, octets.size(), Tags::all) == nowhere;) {
         if (!await_octets(octets.size() + more))
@@ -266,16 +268,17 @@ bool Items::next(Item &out) {
         return false;
     const std::vector<uint8_t> &octets = chunk_.octets;
     size_t end = element_end(octets.data(), position_, octets.size(), Tags::all);
-    // What follows octets that are no element has no beginning of its own.
+    // Where no element is, or 00, the rest is one item: nothing tells where the next element would begin.
     if (end == nowhere || octets[position_] == 0) {
         end = octets.size();
         input_ = nullptr;
     }
-    // Whether the first is the only one shows with the next octet. Where nothing comes for a while, it is given first.
+    // The first item is the only one if no octet follows. When none comes for a while, the item is given without
+    // waiting for one, as not the only one.
     const bool may_be_only = count_ == 0 && end == octets.size() && !ahead_.exists;
     const bool has_more = may_be_only && input_ != nullptr && (StandardInput::pauses() || input_->read(chunk_.octets));
     out = {octets.data(), origin_, position_, end, ++count_, false, chunk_.is_bad_armour, chunk_.label};
-    // A chunk without octets has been given, too.
+    // Not 0 for an empty chunk either: position 0 means that none was given yet.
     position_ = std::max<size_t>(end, 1);
     out.is_only = may_be_only && !has_more;
     return true;

@@ -16,7 +16,7 @@ std::string read_file(const std::string &path, std::vector<uint8_t> &out);
 // One element, or what cannot be told apart into elements.
 struct Item {
     const uint8_t *octets = nullptr; // the decoded block or file; positions count from here
-    size_t origin = 0;               // octets of the input in front of these, gone already
+    size_t origin = 0;               // octets of the input that stood before these and were dropped
     size_t begin = 0;
     size_t end = 0;
     size_t number = 0; // in the file, from 1 on
@@ -37,7 +37,7 @@ public:
     // The next item, valid until the next call; false behind the last one.
     bool next(Item &out);
 
-    // The file is text of none of these forms, which is hardly meant to be one element.
+    // The file is text of none of these forms. In a directory it is passed over; where it is named it is malformed.
     [[nodiscard]] bool is_other_text() const { return is_other_text_; }
 
 private:

@@ -18,7 +18,7 @@ namespace {
 constexpr uint32_t sequence = 16;
 constexpr uint32_t set = 17;
 
-// Prints nothing: a description is printed only when there is one, which a first walk finds out.
+// For a first walk, which finds out whether there is a description at all: half of one is never printed.
 struct NoWriter {
     static constexpr bool prints = false;
 };
@@ -51,7 +51,7 @@ public:
             new_line();
         out_.put("]");
     }
-    // The name is given as it is printed on one line.
+    // The name of a member, with its quotation marks.
     void first_name(Harmless quoted) {
         new_line();
         out_.put(quoted);
@@ -76,7 +76,7 @@ public:
         out_.put_hex(octets, length);
         out_.put("\"");
     }
-    // Text that was printed from level 0 with the same indent.
+    // What the library printed with the same indent: its lines are moved to the level where they stand here.
     void printed(std::string_view text) {
         if (indent_ == 0)
             return text_of_json(text);
@@ -95,7 +95,7 @@ public:
         }
     }
 
-    // What JSON text leaves to its strings and a terminal would act on is escaped.
+    // JSON may have characters in its strings that a terminal would act on; these are escaped.
     void text_of_json(std::string_view text) { out_.put(Outside(text, Form::json)); }
 
 private:
@@ -141,7 +141,7 @@ constexpr auto leaf_types = []() {
     return of;
 }();
 
-// What of a string can be printed between quotation marks as it is.
+// Can a string of the tag be printed between quotation marks without a change?
 bool is_plain_text(const uint8_t *octets, size_t length, uint32_t tag) {
     constexpr auto plain = []() {
         // Bits: 1 for PrintableString, 2 for the others.
@@ -185,7 +185,7 @@ bool read_plain_time(const uint8_t *text, size_t length, bool is_short, Moment &
     out.hour = rest[2];
     out.minute = rest[3];
     out.second = rest[4];
-    // What is rarer is left to the library.
+    // The library decides about days from 29 on, second 60 and early years, which are rare.
     return out.year >= 1583 && out.month - 1 < 12 && out.day - 1 < 28 && out.hour < 24 && out.minute < 60 &&
            out.second < 60;
 }
@@ -318,7 +318,7 @@ private:
         return true;
     }
 
-    // Values in the form that DER gives them; false, with nothing printed, for what is not so plain.
+    // Prints what is simple and frequent; false, with nothing printed, for the rest, which the library describes.
     bool plain(const Header &header) {
         const uint8_t *content = octets_ + at_ + header.size;
         const size_t length = header.length;
@@ -411,7 +411,7 @@ private:
     }
 
     bool oid(const uint8_t *content, size_t length) {
-        // Arcs of four octets or less; rarer ones are the library's.
+        // Longer encodings and arcs of more than four octets are left to the library.
         constexpr auto longest = threshold<size_t>(64, 2);
         char text[longest * 4];
         char *end = text;
@@ -510,7 +510,7 @@ void json(Session &session) {
         Writer writer(session.out, session.options.indent);
         const bool is_whole = Description(item, writer).run();
         session.out.put("\n");
-        // What can be described once lacks only memory the second time.
+        // The first walk found a description, so the second can only have run out of memory.
         if (!is_whole)
             session.report(place.text(), no_memory(item.begin));
     });

@@ -81,7 +81,7 @@ bool is_colored(const Arguments &arguments, const Output &out, const Terminal &t
            (arguments.color == "auto" && !is_unwanted && out.is_terminal() && terminal.takes_escapes());
 }
 
-// What the parser says, a value in it on one line.
+// The parser's message with the line feeds in values escaped, so that it stays one line.
 std::string one_line(const CLI::App *app, const CLI::Error &error) {
     const Message text{Outside(error.what())};
     return CLI::FailureMessage::simple(
@@ -118,7 +118,7 @@ int run(std::vector<std::string> given) {
     CLI::App app("Looks into files of ASN.1 values in BER and DER.", "kovra-asn1");
     describe(app, session, arguments, chosen);
     try {
-        // Without the name of the program, the last one first.
+        // The parser takes the arguments in reverse, without the name of the program.
         if (!given.empty())
             given.erase(given.begin());
         std::reverse(given.begin(), given.end());
@@ -145,13 +145,13 @@ int run(std::vector<std::string> given) {
 
 int main(int argc, char **argv) {
 #if defined(SIGPIPE)
-    // Nobody reading any more shows when writing.
+    // A closed pipe is to be a failed write, not a signal.
     std::signal(SIGPIPE, SIG_IGN);
 #endif
     try {
         return run(utf8_arguments(argc, argv));
     } catch (const std::exception &) {
-        // No memory for it, or more than a vector can hold where addresses have 32 bits: nothing else is thrown.
+        // bad_alloc, or length_error where addresses have 32 bits: nothing else is thrown.
         put_error("kovra-asn1: memory is short\n");
         return static_cast<int>(Status::io);
     }

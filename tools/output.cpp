@@ -12,7 +12,7 @@ namespace {
 
 constexpr size_t number_digits = 20;
 
-// Text that is not known to be harmless is printed through Outside only.
+// A plain string cannot be printed: only Outside, which escapes it, can.
 template <class Text>
 concept printable = requires(Output &out, Text text) {
     out.put(text);
@@ -23,7 +23,7 @@ static_assert(!printable<std::string> && !printable<std::string_view>);
 } // namespace
 
 void put_error(Harmless text) {
-    // Nowhere is left to tell a failure.
+    // A failure is ignored: there is nowhere left to report it.
     static_cast<void>(std::fwrite(text.view().data(), 1, text.size(), stderr));
 }
 
@@ -132,7 +132,7 @@ void Output::write(const char *octets, size_t size) {
 void Output::fail(std::error_code error) {
     is_over_ = true;
 #if defined(_WIN32)
-    // A pipe that nobody reads any more reports this.
+    // Writing to a closed pipe may give either.
     const bool is_closed_pipe = error.value() == EPIPE || error.value() == EINVAL;
 #else
     const bool is_closed_pipe = error.value() == EPIPE;

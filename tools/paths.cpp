@@ -33,7 +33,7 @@ private:
         files.push_back({utf8_text(path), error ? 0 : size, is_named});
     }
 
-    // As deep as directories nest, which the length of a path limits.
+    // Recurses as deep as directories nest, which the longest possible path limits.
     // NOLINTNEXTLINE(misc-no-recursion)
     void directory(const fs::path &path) {
         std::error_code error;
@@ -49,7 +49,7 @@ private:
             if (fs::is_directory(status) && !is_link)
                 directory(entry.path());
             else if (fs::is_regular_file(status) || !fs::exists(status))
-                file(entry.path(), false); // a link to nothing is told when it is read
+                file(entry.path(), false); // reading a link to nothing reports it
         }
     }
 

@@ -51,7 +51,7 @@ std::string utf8_of(const wchar_t *wide) {
     return text;
 }
 
-// How many octets at the end begin a character that goes on behind them.
+// The number of octets at the end of the text that are the beginning of a character in UTF-8.
 size_t unfinished(std::string_view text) {
     for (size_t count = 1; count <= std::min<size_t>(3, text.size()); ++count) {
         const auto octet = static_cast<unsigned char>(text[text.size() - count]);
@@ -116,7 +116,7 @@ bool is_file(int file) {
 }
 
 bool is_terminal(int file) {
-    // Other devices than the console are a terminal to _isatty.
+    // _isatty alone also answers yes for devices that are no console, such as NUL.
     DWORD mode = 0;
     return _isatty(file) != 0 && GetConsoleMode(reinterpret_cast<HANDLE>(_get_osfhandle(file)), &mode) != 0;
 }
@@ -142,7 +142,7 @@ Terminal::~Terminal() {
 }
 
 long write_to_terminal(const char *octets, size_t size) {
-    static std::string begun; // of the character that the last piece ended in
+    static std::string begun; // octets of a character that the last piece did not end
     constexpr auto largest_piece = threshold<size_t>(8192, 1);
     const size_t taken = std::min(size, largest_piece);
     std::string text = begun + std::string(octets, taken);

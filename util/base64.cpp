@@ -13,7 +13,7 @@ namespace {
 constexpr const char *module = "UTIL_Base64";
 constexpr char alphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
-// What a character means, where it is none of the alphabet.
+// The meanings of characters that are not in the alphabet; those in it mean 0 to 63.
 constexpr uint8_t space = 0x40;
 constexpr uint8_t padding = 0x41;
 constexpr uint8_t invalid = 0x42;

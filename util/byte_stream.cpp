@@ -26,7 +26,7 @@ Outcome check_handle(const kovra_stream *stream) {
     return is_valid(stream) ? Outcome{} : failed(KOVRA_ERR_BAD_ARGUMENT);
 }
 
-// Nothing to move needs no buffer.
+// The buffer may be null where the size is 0.
 Outcome check_transfer(const kovra_stream *stream, const void *buffer, int32_t size) {
     if (const Outcome outcome = check_handle(stream); !outcome.ok())
         return outcome;

@@ -102,7 +102,7 @@ Outcome seek_callback(kovra_stream &stream, int64_t offset) {
     return {};
 }
 
-// Where the size is known nothing is read: reading ahead could wait for octets that will never come.
+// Reads an octet ahead only where the size is not known: reading might wait for an octet that never comes.
 Outcome all_consumed_callback(kovra_stream &stream, bool &consumed) {
     auto &callback = as_callback(stream);
     int64_t size = -1;

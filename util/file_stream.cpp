@@ -86,7 +86,7 @@ Outcome write_to_file(kovra_stream &stream, const uint8_t *data, size_t size) {
 
 Outcome position_file(FileStream &stream, int64_t offset, int32_t code) {
     const int64_t buffer_start = stream.fetched - static_cast<int64_t>(stream.buffered);
-    // A pipe can only stay where it is.
+    // A pipe cannot be positioned; asking for the present position is no failure.
     if (!stream.file.positioned && offset != buffer_start + static_cast<int64_t>(stream.next))
         return failed(code);
     if (offset >= buffer_start && offset <= stream.fetched) {

@@ -16,14 +16,14 @@ constexpr size_t alignment = 8;
 constexpr auto first_slab = threshold<uint32_t>(512, 64);
 constexpr auto largest_slab = threshold<uint32_t>(32 * 1024 * 1024, 128);
 constexpr auto name_slots = threshold<size_t>(64, 2);
-// A document of fewer members copies their names.
+// From so many members on, equal names are kept once.
 constexpr auto names_shared_from = threshold<uint32_t>(8, 2);
 
 constexpr size_t aligned(size_t size) {
     return rounded_up(size, alignment);
 }
 
-// Cheap, and without a collision between the names in descriptions of encodings.
+// Cheap to compute; the names in descriptions of encodings all have different slots.
 size_t name_slot(const char *name, size_t length) {
     const auto octet = [name](size_t i) { return size_t{static_cast<uint8_t>(name[i])}; };
     return length == 0 ? 0 : (length + 2 * octet(0) + 3 * octet(length - 1)) % name_slots;
@@ -49,7 +49,7 @@ Document *Document::of_root(kovra_json *root) {
 
 void Document::destroy(Document *document) {
     while (document != nullptr) {
-        // The adopted go in front of what is left to do.
+        // Without recursion: the documents inside this one are put in front of those that are still to be destroyed.
         Document *rest = document->sibling_;
         if (Document *first = document->adopted_; first != nullptr) {
             Document *last = first;
@@ -70,7 +70,7 @@ void Document::destroy(Document *document) {
             kovra_free(index);
             index = next;
         }
-        // Its root is no value any more, for one who uses it after this.
+        // A handle of the root that is used after this is refused, as long as the memory is not used anew.
         std::memset(reinterpret_cast<uint8_t *>(document) + aligned(sizeof(Document)), 0, sizeof(uint32_t));
         kovra_free(document);
         document = rest;
@@ -97,7 +97,7 @@ void *Document::allocate_in_new_slab(size_t size) {
     slabs_ = slab;
     slab_size_ = std::min(slab_size_ * 2, largest_slab);
     auto *memory = reinterpret_cast<uint8_t *>(slab) + head;
-    // Behind a large piece the rest of the current slab may be the larger one.
+    // Goes on in the slab that has more room left: after a large piece that may be the old one.
     if (whole - head - size > static_cast<size_t>(end_ - next_)) {
         next_ = memory + size;
         end_ = reinterpret_cast<uint8_t *>(slab) + whole;
@@ -161,7 +161,7 @@ const char *Document::intern(const char *name, size_t length) {
     return copy;
 }
 
-// The links are shortened on the way, so that a chain built from the outside is not walked again and again.
+// Each link that is followed is shortened, so that asking n documents inside one another takes no n^2 steps.
 Document *Document::outermost() {
     Document *document = this;
     while (document->owner_ != nullptr) {

@@ -13,10 +13,10 @@ constexpr const char *module = "UTIL_JSON";
 // Shorter containers are searched from the beginning.
 constexpr auto indexed_from = threshold<uint32_t>(16, 1);
 constexpr auto first_slots = threshold<size_t>(64, 2);
-// A new table has this many slots for each name; one that has no more than two is replaced.
+// Slots for each name in a new table; when names have come until only two are left for each, a new table is made.
 constexpr auto slots_for_name = threshold<size_t>(4, 2);
 
-// Mixed with the address of the document, which no author of a text knows.
+// The address of the document is mixed in: whoever writes a text does not know it and cannot make names collide.
 uint32_t hash_of(const char *name, const Document *document) {
     uint64_t hash = 0x9E3779B97F4A7C15U ^ reinterpret_cast<uintptr_t>(document);
     for (; *name != '\0'; ++name) {

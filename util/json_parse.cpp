@@ -56,7 +56,7 @@ private:
             ++at_;
     }
 
-    // A container is still empty.
+    // The value that the text begins with; of a container only the opening bracket is read.
     kovra_json *first_value() {
         if (skip('{'))
             return kovra_json_newobject();
@@ -168,7 +168,7 @@ private:
         return true;
     }
 
-    // One digit at least.
+    // Skips digits; false when there is none.
     bool skip_digits() {
         const uint8_t *begin = at_;
         while (at_ != end_ && *at_ >= '0' && *at_ <= '9')

@@ -82,7 +82,7 @@ private:
     bool failed_ = false;
 };
 
-// Behind the octets that stand in a JSON string as they are: ASCII without controls, quotes and backslashes.
+// Skips octets that stand in a JSON string as they are: ASCII without controls, quotation marks and backslashes.
 inline const uint8_t *skip_plain(const uint8_t *at, const uint8_t *end) {
     while (at != end && *at >= 0x20 && *at < 0x80 && *at != '"' && *at != '\\')
         ++at;

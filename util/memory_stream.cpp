@@ -9,10 +9,10 @@ namespace kovra::util {
 namespace {
 
 constexpr auto smallest_buffer = threshold<size_t>(64, 1);
-// An initial size beyond this is not believed: the octets may never come.
+// An initial size beyond this is not allocated at once: so many octets may never come.
 constexpr auto largest_first_buffer = threshold<size_t>(65536, 3);
 
-// What an empty stream shows in place of a null pointer.
+// A peek into an empty stream gives this place, never null.
 constexpr uint8_t no_octets[1] = {};
 
 Outcome read_memory(kovra_stream &stream, uint8_t *buffer, size_t size, size_t &count) {
@@ -28,7 +28,8 @@ bool grow(MemoryStream &memory, size_t needed) {
     size_t capacity = memory.capacity == 0 ? std::max(memory.first_capacity, smallest_buffer)
                                            : next_capacity(memory.capacity, memory.capacity / 2);
     capacity = std::max(capacity, needed);
-    if (capacity > PTRDIFF_MAX) // a third more than half of the memory: what is needed may still be had
+    // No allocation is larger than PTRDIFF_MAX, but what is needed may fit.
+    if (capacity > PTRDIFF_MAX)
         capacity = needed;
     void *grown = kovra_realloc(memory.octets, capacity, stream_module, __LINE__);
     if (grown == nullptr)
@@ -47,7 +48,7 @@ Outcome write_memory(kovra_stream &stream, const uint8_t *data, size_t size) {
     if (size > memory.capacity - memory.size) {
         if (size > static_cast<size_t>(PTRDIFF_MAX) - memory.size)
             return failed(KOVRA_ERR_NO_MEMORY);
-        // Octets of the stream itself (seen through a peek) move with the buffer.
+        // The octets to write may be in this buffer, where the caller got them by a peek: then they move with it.
         const std::less<> before;
         const bool own =
             memory.capacity != 0 && !before(data, memory.octets) && before(data, memory.octets + memory.size);

@@ -102,7 +102,7 @@ private:
                         block.body.length = static_cast<size_t>(text_ + line_begin - block.body.data);
                     return Found::block;
                 }
-                // A block that begins inside this one is not lost.
+                // Another block begins here: the next call finds it.
                 if (label_of(line, begin_mark, label))
                     position_ = line_begin;
                 return Found::malformed;

@@ -24,8 +24,8 @@ struct Decimal {
     static constexpr size_t per_other = 10704;
 };
 
-// Up to here the plain methods are faster. What a chunk converts to is multiplied plainly, so that all longer factors
-// are such lengths, doubled.
+// Digits up to which the plain methods are faster. A converted chunk is short enough for a plain product, and all
+// longer factors are such a length doubled several times.
 constexpr auto plain_conversion = threshold<size_t>(28, 1);
 constexpr auto plain_product = threshold<size_t>(32, 2);
 // Between these a product is made by transforms.
@@ -87,7 +87,8 @@ void multiply_plainly(uint32_t *product, const uint32_t *left, const uint32_t *r
     }
 }
 
-// Division by 10^9 is what costs here: whole columns are summed before it, which 64 bits hold with one reduction.
+// Dividing by 10^9 is expensive: each column is summed as a whole and divided once. Its sum fits 64 bits when multiples
+// of 10^18 are taken out of it on the way.
 template <>
 void multiply_plainly<Decimal>(uint32_t *product, const uint32_t *left, const uint32_t *right, size_t count) {
     constexpr uint64_t much = 8 * Decimal::base * Decimal::base; // two products more still fit
@@ -144,7 +145,7 @@ void multiply(uint32_t *product, const uint32_t *left, const uint32_t *right, si
     multiply<Base>(product, left, right, half, scratch + count, room);
     multiply<Base>(product + count, left + half, right + half, half, scratch + count, room);
 
-    // A borrow wraps around, and the carry that follows it brings it back.
+    // A borrow makes `carry` wrap below 0; the carries that are added next bring it back to 0 or above.
     uint32_t carry = left_negative != right_negative ? 0 - subtract<Base>(scratch, product, scratch, count)
                                                      : add<Base>(scratch, product, count);
     carry += add<Base>(scratch, product + count, count);
@@ -202,7 +203,7 @@ template <class From, class To> Digits convert(const uint32_t *values, size_t co
         }
         uint32_t *product = work;
         uint32_t *scratch = product + total;
-        uint32_t *power = scratch + total; // the worth of one unit of an upper half
+        uint32_t *power = scratch + total; // the number that an upper half is multiplied by
         uint32_t *next_power = power + total / 2;
         uint32_t *room = next_power + total / 2;
         uint32_t unit[plain_conversion + 1] = {};

@@ -8,7 +8,7 @@
 using namespace kovra;
 using namespace kovra::util;
 
-// Held as UTF-8, whose octets stand behind the record: what is converted most needs no work at all.
+// Held as UTF-8, in octets behind the record: UTF-8 is asked for most and then needs no conversion.
 struct kovra_ustring {
     static constexpr uint32_t magic_of_type = magic_word("USTR");
     uint32_t magic;

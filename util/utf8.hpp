@@ -54,7 +54,7 @@ inline uint8_t *put_utf8(uint8_t *out, uint32_t character) {
     return out + length;
 }
 
-// Behind the ASCII octets that `at` begins with, give or take the last few.
+// Skips ASCII octets, eight at a time; up to seven may be left.
 inline const uint8_t *skip_ascii(const uint8_t *at, const uint8_t *end) {
     uint64_t word = 0;
     while (static_cast<size_t>(end - at) >= sizeof word) {
