@@ -27,7 +27,7 @@ void run(Draw input) {
     while (!input.is_over() && !machine.is_full()) {
         const Function &function = function_of(static_cast<uint16_t>(input.number(2)));
         if (is_traced)
-            std::fprintf(stderr, "%.*s\n", static_cast<int>(function.name.size()), function.name.data());
+            std::fprintf(stderr, "%.*s\n", static_cast<int>(function.row->name.size()), function.row->name.data());
         function.call(machine, input);
     }
 }

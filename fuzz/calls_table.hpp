@@ -6,19 +6,23 @@
 #include <vector>
 
 #include "fuzz/draw.hpp"
+#include "tests/harness/exports.hpp"
 
 namespace kovra::fuzz {
+
+using test::Export;
 
 class Machine;
 
 struct Function {
-    std::string_view name;
+    const test::Export *row;
     uint16_t selector; // comes from the name, so that inputs mean the same when functions are added
-    bool takes_one_handle;
+
+    [[nodiscard]] bool takes_one_handle() const;
     // Draws the arguments and calls.
-    void (*call)(Machine &machine, Draw &input);
+    void call(Machine &machine, Draw &input) const;
     // Draws the arguments only.
-    void (*skip)(Draw &input);
+    void skip(Draw &input) const;
 };
 
 // In the order of their selectors.

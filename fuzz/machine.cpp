@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "kovra/asn1_types.h"
+
 namespace kovra::fuzz {
 
 size_t Machine::choose(HandleKind kind, uint8_t choice) const {
@@ -56,44 +58,20 @@ void *Machine::large_buffer() {
     return buffer;
 }
 
-void Machine::release(const Entry &entry, size_t index) const {
-    switch (entry.kind) {
-    case HandleKind::value:
-        // A value is released by its real kind, whatever type is named, but for those without a record.
-        return kovra_asn1_value_free(static_cast<uint32_t>(6 + index % (KOVRA_ASN1_TYPE_COUNT - 6)),
-                                     static_cast<kovra_asn1_value *>(entry.handle));
-    case HandleKind::bitset:
-        return kovra_bitset_free(static_cast<kovra_bitset *>(entry.handle));
-    case HandleKind::biginteger:
-        return kovra_biginteger_free(static_cast<kovra_biginteger *>(entry.handle));
-    case HandleKind::blob:
-        return kovra_data_blob_free(static_cast<kovra_data_blob *>(entry.handle));
-    case HandleKind::context:
-        return kovra_err_ctx_free(static_cast<kovra_err_ctx *>(entry.handle));
-    case HandleKind::json:
-        return kovra_json_free(static_cast<kovra_json *>(entry.handle));
-    case HandleKind::stream:
-        return kovra_stream_free(static_cast<kovra_stream *>(entry.handle));
-    case HandleKind::time:
-        return kovra_time_free(static_cast<kovra_time *>(entry.handle));
-    case HandleKind::text:
-        return kovra_ustring_free(static_cast<kovra_ustring *>(entry.handle));
-    case HandleKind::any_context:
-        return kovra_asn1_decode_any_ctx_free(static_cast<kovra_asn1_decode_any_ctx *>(entry.handle));
-    case HandleKind::string_context:
-        return kovra_asn1_decode_octetstring_ctx_free(static_cast<kovra_asn1_decode_octetstring_ctx *>(entry.handle));
-    }
-}
-
 Machine::~Machine() {
+    // A value is released by its real kind, whatever type is named, but for those without a record.
+    const auto release = [&](size_t index) {
+        test::release(entries_[index].kind, entries_[index].handle,
+                      static_cast<uint32_t>(6 + index % (KOVRA_ASN1_TYPE_COUNT - 6)));
+    };
     // Values may use streams. Releasing what is borrowed does nothing as long as its owner is there.
     for (const bool is_owner : {false, true})
         for (size_t i = 0; i < entries_.size(); ++i)
             if (entries_[i].is_owner == is_owner && entries_[i].kind != HandleKind::stream)
-                release(entries_[i], i);
+                release(i);
     for (size_t i = 0; i < entries_.size(); ++i)
         if (entries_[i].kind == HandleKind::stream)
-            release(entries_[i], i);
+            release(i);
 }
 
 } // namespace kovra::fuzz

@@ -7,29 +7,11 @@
 #include <vector>
 
 #include "fuzz/draw.hpp"
-
-// Values get a type of their own here, so that the signatures tell them from octets.
-#define KOVRA_ASN1_VALUE_H
-struct kovra_asn1_value;
-#include "kovra/util.h"
-// In front of the headers of the codec.
-#include "kovra/asn1.h"
+#include "tests/harness/exports.hpp"
 
 namespace kovra::fuzz {
 
-enum class HandleKind : uint8_t {
-    value,
-    bitset,
-    biginteger,
-    blob,
-    context,
-    json,
-    stream,
-    time,
-    text,
-    any_context,
-    string_context,
-};
+using test::HandleKind;
 
 class Machine {
 public:
@@ -67,7 +49,6 @@ private:
         size_t group;
         void *handle;
     };
-    void release(const Entry &entry, size_t index) const;
 
     std::vector<Entry> entries_;
     size_t groups_ = 0;

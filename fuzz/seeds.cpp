@@ -108,8 +108,8 @@ std::string calls_with(uint32_t type, const std::string &octets) {
     calls += '\0';
     for (const Function &function : functions()) {
         constexpr char oldest = 0x40;
-        if (function.takes_one_handle && function.name.find("_free") == function.name.npos)
-            calls += selector(function.name) + oldest;
+        if (function.takes_one_handle() && function.row->name.find("_free") == std::string_view::npos)
+            calls += selector(function.row->name) + oldest;
     }
     return calls;
 }

@@ -1,17 +1,15 @@
 #!/bin/sh
-# exported_names.sh LIBRARY FILE INCLUDE: the names that a shared library, ELF or DLL, exports are those that its headers
-# declare.
+# exported_names.sh LIBRARY FILE LIST INCLUDE: a shared library, ELF or DLL, exports the names in the list, all of them
+# and no others, and its headers declare them.
 set -eu
-library=$1 file=$2 include=$3
-case $library in
-kovra_util) headers=$include/util_*.h ;;
-kovra_asn1) headers=$include/asn1_*.h ;;
-esac
+library=$1 file=$2 list=$3 include=$4
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-# shellcheck disable=SC2086
-cat $headers | tr '\n' ' ' | grep -oE 'KOVRA_(UTIL|ASN1)_API [^;{]*\(' | grep -oE '\bkovra_[A-Za-z0-9_]+ ?\($|\bkovra_[A-Za-z0-9_]+\(' |
-    tr -d ' (' | LC_ALL=C sort -u >"$work/declared"
+sed -n "s/^$library //p" "$list" >"$work/listed"
+[ -s "$work/listed" ] || { echo "no names of $library in $list"; exit 1; }
+LC_ALL=C sort -uc "$work/listed"
+cat "$include/${library#kovra_}"_*.h | tr '\n' ' ' | grep -oE 'KOVRA_(UTIL|ASN1)_API [^;{(]*\(' |
+    grep -oE 'kovra_[A-Za-z0-9_]+ ?\($' | tr -d ' (' | LC_ALL=C sort -u >"$work/declared"
 case $file in
 *.dll)
     # Of the table behind this heading each row is "[ordinal] name".
@@ -23,9 +21,8 @@ case $file in
         LC_ALL=C sort -u >"$work/exported"
     ;;
 esac
-[ -s "$work/declared" ] || { echo "no declarations found"; exit 1; }
-if ! diff "$work/declared" "$work/exported"; then
-    echo "left: declared in the headers; right: exported by $file"
-    exit 1
-fi
-echo "$(wc -l <"$work/declared") names"
+cd "$work"
+for found in declared exported; do
+    diff listed $found || { echo "left: names of $library in $list; right: those that are $found"; exit 1; }
+done
+echo "$(wc -l <listed) names"

@@ -46,74 +46,18 @@ namespace {
 
 constexpr int32_t size_of_room = 1 << 16; // octets of a buffer
 
-template <class T> T argument(Call &call, const char *&letters) {
-    [[maybe_unused]] const char letter = *letters++;
-    if constexpr (std::is_same_v<T, const void *> || std::is_same_v<T, void *>)
-        return letter == 'b' ? call.buffer.data() : call.values[call.next++];
-    else if constexpr (std::is_same_v<T, kovra_asn1_value **>)
-        return &call.made[1];
-    else if constexpr (std::is_same_v<T, int32_t *>)
-        return &call.numbers.at(call.next_number++);
-    else if constexpr (std::is_same_v<T, int32_t>)
-        return call.number;
-    else if constexpr (std::is_same_v<T, uint32_t>)
-        return call.type;
-    else if constexpr (std::is_same_v<T, kovra_stream *>)
-        return call.stream.get();
-    else if constexpr (std::is_same_v<T, kovra_err_ctx *>)
-        return call.errors.get();
-    else {
-        static_assert(std::is_same_v<T, const kovra_asn1_decode_any_ctx *>, "a parameter that there is no value for");
-        return nullptr;
-    }
-}
-
-// The result as a number, by which answers are told apart: what was made is told by its being there.
-int64_t answer(Call &call, kovra_asn1_value *value) {
-    call.made[0] = value;
-    return value != nullptr ? 1 : 0;
-}
-int64_t answer(Call &, int32_t number) {
-    return number;
-}
-int64_t answer(Call &, const char *text) {
-    return text != nullptr ? 1 : 0;
-}
-int64_t answer(Call &, kovra_data_blob *blob) {
-    return Blob(blob) != nullptr ? 1 : 0;
-}
-int64_t answer(Call &, kovra_bitset *set) {
-    return BitSet(set) != nullptr ? 1 : 0;
-}
-int64_t answer(Call &, kovra_biginteger *number) {
-    return BigInteger(number) != nullptr ? 1 : 0;
-}
-int64_t answer(Call &, kovra_time *time) {
-    return std::unique_ptr<kovra_time, Releaser<kovra_time_free>>(time) != nullptr ? 1 : 0;
-}
-
-template <class Result, class... Parameters> int64_t call_of(const Function &function, Call &call) {
-    const auto address = reinterpret_cast<Result (*)(Parameters...) noexcept>(function.address);
-    // Braces have the arguments made in their order.
-    const char *letter = function.letters.data();
-    std::tuple<Parameters...> arguments{argument<Parameters>(call, letter)...};
-    if constexpr (std::is_void_v<Result>) {
-        std::apply(address, arguments);
-        return 0;
-    } else {
-        return answer(call, std::apply(address, arguments));
-    }
-}
-
-template <class Result, class... Parameters>
-Function function(const char *name, std::string_view letters, Result (*address)(Parameters...) noexcept) {
-    return {name, letters, reinterpret_cast<void (*)()>(address), call_of<Result, Parameters...>};
+char letter_of(const Parameter &parameter) {
+    if (parameter.is_handle(HandleKind::value))
+        return parameter.is_constant ? 'v' : 'w';
+    if (parameter.form == Form::place_of_handle && parameter.kind == HandleKind::value)
+        return 'o';
+    return parameter.form == Form::octets || parameter.form == Form::room ? 'b' : '-';
 }
 
 // Has the call released its first value? Beside what is there for that, one constructor does when it fails, unless it
 // is that value that cannot be copied.
 bool released_first(const Function &function, const std::vector<const Kept *> &arguments, int64_t found) {
-    const std::string_view name = function.name;
+    const std::string_view name = function.row->name;
     if (arguments.empty() || arguments[0] == nullptr)
         return false;
     const core::Kind kind = record_of(arguments[0]->value.get())->kind;
@@ -130,16 +74,58 @@ size_t Function::values() const {
         std::count_if(letters.begin(), letters.end(), [](char letter) { return letter == 'v' || letter == 'w'; }));
 }
 
-std::span<const Function> functions() {
-    static const Function all[] = {
-#include "functions.inc"
-    };
+int64_t Function::operator()(Call &call) const {
+    std::vector<Word> words(letters.size());
+    size_t next_value = 0, next_number = 0;
+    for (size_t i = 0; i < words.size(); ++i) {
+        const Parameter &parameter = row->parameters[i];
+        if (letters[i] == 'v' || letters[i] == 'w')
+            words[i].pointer = call.values.at(next_value++);
+        else if (letters[i] == 'o')
+            words[i].pointer = &call.made[1];
+        else if (letters[i] == 'b')
+            words[i].pointer = call.buffer.data();
+        else if (parameter.form == Form::place && parameter.size == sizeof(int32_t))
+            words[i].pointer = &call.numbers.at(next_number++);
+        else if (parameter.form == Form::integer)
+            words[i].integer = call.number;
+        else if (parameter.form == Form::natural)
+            words[i].integer = KOVRA_ASN1_TYPE_OCTET_STRING;
+        else if (parameter.is_handle(HandleKind::stream))
+            words[i].pointer = call.stream.get();
+        else if (parameter.is_handle(HandleKind::context))
+            words[i].pointer = call.errors.get();
+        else
+            EXPECT_TRUE(parameter.is_handle(HandleKind::any_context)) << "no value for parameter " << i << name();
+    }
+    const Word result = row->call(words.data());
+    if (row->result.form == Form::nothing || row->result.form == Form::integer)
+        return row->result.form == Form::integer ? result.integer : 0;
+    if (row->result.is_handle(HandleKind::value))
+        call.made[0] = result.pointer;
+    else if (row->result.form == Form::handle)
+        release(row->result.kind, result.pointer, 0);
+    return result.pointer != nullptr ? 1 : 0;
+}
+
+const std::vector<Function> &functions() {
+    static const std::vector<Function> all = [] {
+        std::vector<Function> found;
+        for (const Export &row : exports()) {
+            Function function = {&row, ""};
+            for (const Parameter &parameter : row.parameters)
+                function.letters += letter_of(parameter);
+            const bool makes_one = row.parameters.empty() && row.result.is_handle(HandleKind::value);
+            if (makes_one || function.letters.find_first_of("vwo") != function.letters.npos)
+                found.push_back(function);
+        }
+        return found;
+    }();
     return all;
 }
 
 bool releases(const Function &function) {
-    return std::string_view(function.name) == "kovra_asn1_value_free" ||
-           std::string_view(function.name) == "kovra_asn1_list_free";
+    return function.row->name == "kovra_asn1_value_free" || function.row->name == "kovra_asn1_list_free";
 }
 
 int64_t call_with(const Function &function, const std::vector<const Kept *> &arguments, int32_t number,
@@ -148,7 +134,6 @@ int64_t call_with(const Function &function, const std::vector<const Kept *> &arg
     call.errors.reset(kovra_err_ctx_new());
     call.stream.reset(kovra_stream_new_mem(0, nullptr));
     call.values.clear();
-    call.next = call.next_number = 0;
     call.number = number;
     call.made = {};
     call.numbers = {size_of_room};
@@ -161,7 +146,7 @@ int64_t call_with(const Function &function, const std::vector<const Kept *> &arg
         }
         call.values.push_back(value);
     }
-    const int64_t found = function.call(function, call);
+    const int64_t found = function(call);
     call.stream.reset();
     call.errors.reset();
     if (released_first(function, arguments, found)) {
@@ -185,7 +170,7 @@ int64_t call_with(const Function &function, const std::vector<const Kept *> &arg
 
 const std::vector<Identity> &kinds_of(const Function &function) {
     static std::map<std::string, std::vector<Identity>> known;
-    const auto [at, is_new] = known.emplace(function.name, std::vector<Identity>());
+    const auto [at, is_new] = known.emplace(function.name(), std::vector<Identity>());
     if (!is_new || function.values() != 1)
         return at->second;
     std::set<Identity> taken;

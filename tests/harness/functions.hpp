@@ -1,17 +1,15 @@
-// Every exported function that takes a value, and calls of it with values of every kind. The list of the functions is
-// made from the public headers, so that none is forgotten.
+// Every exported function that takes a value, and calls of it with values of every kind.
 #pragma once
 
 #include <array>
 #include <functional>
-#include <span>
 #include <string>
-#include <string_view>
 #include <tuple>
 #include <vector>
 
 #include "core/value.hpp"
 #include "tests/asn1_testing.hpp"
+#include "tests/harness/exports.hpp"
 #include "tests/harness/samples.hpp"
 
 namespace kovra::test {
@@ -43,29 +41,28 @@ constexpr int32_t numbers[] = {0, 1, 4, 12, -1};
 // What a call is made with besides the values, and what came of it.
 struct Call {
     std::vector<kovra_asn1_value *> values;
-    size_t next = 0;
     int32_t number = 0;
-    uint32_t type = KOVRA_ASN1_TYPE_OCTET_STRING;
     Stream stream;
     Errors errors;
     std::vector<char> buffer = std::vector<char>(size_t{1} << 16);
-    std::array<kovra_asn1_value *, 2> made = {};
+    std::array<kovra_asn1_value *, 2> made = {}; // the result, and what was put into a place
     std::array<int32_t, 4> numbers = {};
-    size_t next_number = 0;
 };
 
-// A function, and how one of its type is called; each parameter is told by a letter (harness/functions.cmake).
+// A function that takes values or makes one; each parameter is told by a letter: v a value, w one that may be changed,
+// o the place of one, b a buffer, - anything else.
 struct Function {
-    const char *name;
-    std::string_view letters;
-    void (*address)();
-    int64_t (*call)(const Function &, Call &);
+    const Export *row;
+    std::string letters;
 
+    [[nodiscard]] std::string name() const { return std::string(row->name); }
     [[nodiscard]] size_t values() const; // how many values it takes
     [[nodiscard]] bool may_change() const { return letters.find('w') != letters.npos; }
+    // Returns an answer by which success and failure are told apart: that something was made is told by 1.
+    int64_t operator()(Call &call) const;
 };
 
-std::span<const Function> functions();
+const std::vector<Function> &functions();
 bool releases(const Function &function);
 
 // Calls with values of the pool (null: none) and a number, and releases what was made. What may be changed is a

@@ -39,10 +39,10 @@ TEST(Functions, OneValueOfAnyKind) {
     for (const Function &function : functions()) {
         if (function.values() != 1)
             continue;
-        SCOPED_TRACE(function.name);
+        SCOPED_TRACE(function.name());
         const std::vector<Identity> &taken = kinds_of(function);
         if (taken.size() > 1)
-            several[function.name] = taken.size();
+            several[function.name()] = taken.size();
         else
             EXPECT_TRUE(taken.size() == 1 || releases(function)) << "nothing is right for it";
     }
@@ -52,7 +52,7 @@ TEST(Functions, OneValueOfAnyKind) {
 
 // The one constructor that is known to lose a BOOLEAN when it fails.
 bool leaks(const Function &function) {
-    return std::string_view(function.name) == "kovra_x509basicconstraints_new";
+    return function.row->name == "kovra_x509basicconstraints_new";
 }
 
 // Those that do not look whether an open type is an end-of-contents marker, which cannot be read again.
@@ -60,7 +60,7 @@ bool takes_end_of_contents(const Function &function) {
     static const std::set<std::string_view> all = {"kovra_cmsothercertformat_new",    "kovra_cmsotherkeyattr_new",
                                                    "kovra_cmsotherrecipientinfo_new", "kovra_cmsotherrevinfoformat_new",
                                                    "kovra_pkcs7contentinfo_new",      "kovra_x509polqualifierinfo_new"};
-    return all.count(function.name) != 0;
+    return all.count(function.row->name) != 0;
 }
 
 // Without the arguments that may be absent, in every combination: the record has copies of just those that were given,
@@ -120,7 +120,7 @@ TEST(Functions, SeveralValuesOfAnyKind) {
     }
     size_t understood = 0;
     for (const Function &function : functions()) {
-        SCOPED_TRACE(function.name);
+        SCOPED_TRACE(function.name());
         std::vector<const Kept *> all(function.values());
         for (const Kept &kept : pool()) {
             for (size_t place = 0; function.values() > 1 && place < function.values(); ++place) {
@@ -232,7 +232,7 @@ TEST(Functions, EachPartHasItsFunction) {
                 all.insert(part);
             std::map<std::string, bool> given, said;
             for (const Function &function : functions()) {
-                const std::string name = function.name;
+                const std::string name = function.name();
                 if (function.letters != "v")
                     continue;
                 const std::vector<Identity> &kinds = kinds_of(function);
@@ -289,10 +289,10 @@ TEST(Functions, EachAlternativeHasItsConstructor) {
                     found.emplace(static_cast<const core::Choice *>(value)->shape,
                                   static_cast<const core::Choice *>(value)->alternative);
             });
-        EXPECT_LE(found.size(), 1u) << function.name;
+        EXPECT_LE(found.size(), 1u) << function.name();
         for (const auto &one : found) {
-            const auto [at, is_new] = made.emplace(one, function.name);
-            EXPECT_TRUE(is_new) << function.name << " makes what " << at->second << " does";
+            const auto [at, is_new] = made.emplace(one, function.name());
+            EXPECT_TRUE(is_new) << function.name() << " makes what " << at->second << " does";
         }
     }
     EXPECT_GT(made.size(), 30u);
@@ -313,7 +313,7 @@ TEST(Functions, EachAlternativeHasItsFunction) {
                 continue;
             call_with(function, {&kept}, 0, [&](const Call &call) {
                 if (call.made[0] != nullptr && call.made[0] == choice.value)
-                    given[function.name].insert(choice.alternative);
+                    given[function.name()].insert(choice.alternative);
             });
         }
     }
@@ -325,7 +325,7 @@ TEST(Functions, EachAlternativeHasItsFunction) {
 // A function of one value that makes something of it, where memory is short.
 TEST(Functions, EveryAllocationMayFail) {
     for (const Function &function : functions()) {
-        SCOPED_TRACE(function.name);
+        SCOPED_TRACE(function.name());
         if (function.values() != 1 || function.may_change())
             continue;
         for (const Identity &kind : kinds_of(function)) {

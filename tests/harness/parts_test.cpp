@@ -11,8 +11,8 @@ namespace kovra::test {
 namespace {
 
 const Function *function_named(const std::string &name) {
-    const auto all = functions();
-    const auto found = std::find_if(all.begin(), all.end(), [&](const Function &one) { return one.name == name; });
+    const std::vector<Function> &all = functions();
+    const auto found = std::find_if(all.begin(), all.end(), [&](const Function &one) { return one.row->name == name; });
     return found != all.end() ? &*found : nullptr;
 }
 
@@ -28,8 +28,7 @@ Answer ask(const std::string &name, Handle value) {
     call.made = {};
     call.numbers = {-1};
     call.values = {value};
-    call.next = call.next_number = 0;
-    const int64_t result = function != nullptr ? function->call(*function, call) : 0;
+    const int64_t result = function != nullptr ? (*function)(call) : 0;
     const bool is_stored = function != nullptr && function->letters == "v-";
     return {record_of(call.made[0]), is_stored ? call.numbers[0] : result};
 }
