@@ -2,6 +2,7 @@
 // components. Whether the components themselves are right is for the tables of encodings.
 #include <algorithm>
 #include <map>
+#include <set>
 
 #include "core/choice.hpp"
 #include "core/structure.hpp"
@@ -71,8 +72,13 @@ struct Row {
 };
 
 // A constructor of another prefix is told by its whole name.
-const Function *maker_of(const std::string &prefix, const std::string &maker) {
-    return function_named(maker.starts_with("kovra_") ? maker : prefix + "_" + maker);
+std::string whole_name(const std::string &prefix, const std::string &maker) {
+    return maker.starts_with("kovra_") ? maker : prefix + "_" + maker;
+}
+
+// The getter of an alternative.
+std::string getter_of(const std::string &prefix, const std::string &word) {
+    return prefix + (prefix == "kovra_ecpkparameters" ? "_" : "_get") + word;
 }
 
 const core::StructureShape &shape_of(const Row &row) {
@@ -88,15 +94,17 @@ void expect_parts(const Row &row, Handle value) {
         if (row.getters[i] == "-")
             continue;
         const core::Value *slot = record->slot(static_cast<uint8_t>(i));
-        EXPECT_EQ(ask(row.prefix + "_get" + row.getters[i], value).value, slot) << row.getters[i];
-        if (function_named(row.prefix + "_has" + row.getters[i]) != nullptr) {
-            EXPECT_EQ(ask(row.prefix + "_has" + row.getters[i], value).number, slot != nullptr) << row.getters[i];
+        const std::string get = row.prefix + "_get" + row.getters[i], has = row.prefix + "_has" + row.getters[i];
+        EXPECT_EQ(ask(get, value).value, slot) << get;
+        if (function_named(has) != nullptr) {
+            EXPECT_EQ(ask(has, value).number, slot != nullptr) << has;
         }
     }
 }
 
 // Is the record made of these, none of them (-1) or one besides those that are required?
 bool expect_made(const Row &row, const std::vector<Kept> &values, bool with_all, size_t one) {
+    SCOPED_TRACE(row.maker);
     const core::StructureShape &shape = shape_of(row);
     std::vector<const Kept *> arguments;
     uint32_t given = 0;
@@ -106,7 +114,7 @@ bool expect_made(const Row &row, const std::vector<Kept> &values, bool with_all,
         given |= static_cast<uint32_t>(is_given) << i;
     }
     bool is_made = false;
-    call_with(*maker_of(row.prefix, row.maker), arguments, 0, [&](const Call &call) {
+    call_with(*function_named(row.maker), arguments, 0, [&](const Call &call) {
         is_made = call.made[0] != nullptr;
         if (!is_made)
             return;
@@ -137,12 +145,12 @@ bool expect_made(const Row &row, const std::vector<Kept> &values, bool with_all,
 
 TEST(Parts, ConstructorsFillAndGettersGiveTheComponentsOfTheirNames) {
     for (const auto &fields : table("parts.txt")) {
-        if (fields[2].starts_with("gettype"))
+        if (fields[2].starts_with("gettype") || fields[0] == "other")
             continue;
         Row row = {static_cast<uint32_t>(std::stoul(fields[0])), "kovra_" + fields[1], {}, {}, words(fields[3])};
         SCOPED_TRACE(fields[0] + " " + row.prefix);
         const std::vector<std::string> maker = words(fields[2]);
-        row.maker = maker[0];
+        row.maker = whole_name(row.prefix, maker[0]);
         if (const size_t inside = fields[0].find(" in "); inside != std::string::npos)
             row.holder = static_cast<uint32_t>(std::stoul(fields[0].substr(inside + 4)));
         ASSERT_EQ(row.getters.size(), shape_of(row).count);
@@ -150,19 +158,26 @@ TEST(Parts, ConstructorsFillAndGettersGiveTheComponentsOfTheirNames) {
         for (const std::string &getter : row.getters)
             for (Handle none : {Handle{nullptr}, boolean.get(), integer.get()})
                 EXPECT_EQ(getter == "-" ? nullptr : ask(row.prefix + "_get" + getter, none).value, nullptr) << getter;
+        // A structure whose content is a list has that always.
+        std::vector<Combination> values_of_type = combinations(row.type);
+        if (values_of_type.empty())
+            values_of_type = {{1, samples(row.type).at(1).octets}};
+        uint32_t present = 0;
         const std::vector<Sample> around = component_values(core::row(row.holder));
-        for (const Combination &combination : combinations(row.type)) {
+        for (const Combination &combination : values_of_type) {
             std::string data = combination.octets;
             if (row.holder != 0)
                 data = element(data[0], data + around.at(1).octets + around.at(2).octets);
             const Value value = decode(row.holder != 0 ? row.holder : row.type, data).value;
             ASSERT_TRUE(value);
             expect_parts(row, value.get());
+            present |= combination.present;
         }
-        if (row.maker == "-")
+        EXPECT_EQ(present, (uint32_t{1} << shape_of(row).count) - 1) << "a component is never there";
+        if (maker[0] == "-")
             continue;
-        const Function *function = maker_of(row.prefix, row.maker);
-        ASSERT_NE(function, nullptr);
+        const Function *function = function_named(row.maker);
+        ASSERT_NE(function, nullptr) << row.maker;
         for (size_t i = 0; i < function->values(); ++i)
             row.order.push_back(maker.size() > 1 ? std::stoul(maker[i + 1]) : i);
         std::vector<Kept> values;
@@ -175,17 +190,16 @@ TEST(Parts, ConstructorsFillAndGettersGiveTheComponentsOfTheirNames) {
         int made = expect_made(row, values, true, SIZE_MAX);
         for (size_t i = 0; i < values.size(); ++i)
             made += expect_made(row, values, false, i);
-        EXPECT_GE(made, shape_of(row).allows == nullptr ? static_cast<int>(row.order.size()) : 1);
+        EXPECT_GE(made, shape_of(row).allows == nullptr ? static_cast<int>(row.order.size()) : 1) << row.maker;
     }
 }
 
 // A getter of a choice gives the value of its own alternative; `*` says that it gives that of any.
 TEST(Parts, ChoicesTellTheirNumberAndGiveTheirValue) {
     for (const auto &fields : table("parts.txt")) {
-        const std::string prefix = "kovra_" + fields[1],
-                          getter = prefix + (fields[1] == "ecpkparameters" ? "_" : "_get");
+        const std::string prefix = "kovra_" + fields[1];
         const std::vector<std::string> teller = words(fields[2]);
-        if (teller[0] != "gettype")
+        if (teller[0] != "gettype" || fields[0] == "other")
             continue;
         const auto type = static_cast<uint32_t>(std::stoul(fields[0]));
         SCOPED_TRACE(fields[0] + " " + prefix);
@@ -206,9 +220,9 @@ TEST(Parts, ChoicesTellTheirNumberAndGiveTheirValue) {
             EXPECT_EQ(ask(prefix + "_gettype", value.get()).number, std::stoi(own[0]));
             for (const std::vector<std::string> &other : rows)
                 if (other[1] != "-") {
-                    EXPECT_EQ(ask(getter + other[1], value.get()).value,
+                    EXPECT_EQ(ask(getter_of(prefix, other[1]), value.get()).value,
                               other[1] == own[1] || teller.size() > 2 ? choice->value : nullptr)
-                        << other[1];
+                        << getter_of(prefix, other[1]);
                 }
             if (own[2] == "-")
                 continue;
@@ -217,14 +231,48 @@ TEST(Parts, ChoicesTellTheirNumberAndGiveTheirValue) {
             kept.value = decode(kept.type, kept.octets).value;
             if (!kept.value && !is_written_as_read(*of))
                 continue;
-            call_with(*function_named(prefix + "_" + own[2]), {&kept}, 0, [&](const Call &call) {
-                ASSERT_NE(call.made[0], nullptr);
-                EXPECT_EQ(ask(prefix + "_gettype", call.made[0]).number, std::stoi(own[0]));
-                EXPECT_EQ(encode(type, call.made[0]).octets, encode(type, value.get()).octets);
+            const std::string maker = prefix + "_" + own[2];
+            const Function *function = function_named(maker);
+            ASSERT_NE(function, nullptr) << maker;
+            const std::vector<const Kept *> arguments(function->values(), &kept); // none for a NULL
+            call_with(*function, arguments, 0, [&](const Call &call) {
+                ASSERT_NE(call.made[0], nullptr) << maker;
+                EXPECT_EQ(ask(prefix + "_gettype", call.made[0]).number, std::stoi(own[0])) << maker;
+                EXPECT_EQ(encode(type, call.made[0]).octets, encode(type, value.get()).octets) << maker;
             });
         }
         EXPECT_EQ(std::count(seen.begin(), seen.end(), false), 0);
     }
+}
+
+// Whatever is exported and takes or gives a value is walked by the tests above, or said to do something else.
+TEST(Parts, EachFunctionIsInTheTable) {
+    std::set<std::string> walked, others;
+    for (const auto &fields : table("parts.txt")) {
+        const std::string prefix = "kovra_" + fields[1];
+        if (fields[0] == "other") {
+            others.insert(fields[1]);
+        } else if (fields[2].starts_with("gettype")) {
+            walked.insert(prefix + "_gettype");
+            for (size_t i = 3; i < fields.size(); ++i)
+                walked.insert({getter_of(prefix, words(fields[i])[1]), prefix + "_" + words(fields[i])[2]});
+        } else {
+            walked.insert(whole_name(prefix, words(fields[2])[0]));
+            for (const std::string &word : words(fields[3]))
+                walked.insert({prefix + "_get" + word, prefix + "_has" + word});
+        }
+    }
+    const auto is_of_value = [](const Parameter &one) {
+        return one.kind == HandleKind::value && (one.form == Form::handle || one.form == Form::place_of_handle);
+    };
+    for (const Export &row : exports()) {
+        const std::string name(row.name);
+        const bool is_other = others.erase(name) != 0;
+        if (is_of_value(row.result) || std::any_of(row.parameters.begin(), row.parameters.end(), is_of_value)) {
+            EXPECT_NE(walked.count(name) != 0 || name.starts_with("kovra_asn1_"), is_other) << name;
+        }
+    }
+    EXPECT_EQ(others, std::set<std::string>()) << "there is no such function";
 }
 
 } // namespace
