@@ -19,37 +19,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 
 namespace kovra::fuzz {
 
-using test::Blob;
-using test::Errors;
-using test::Memory;
-using test::Releaser;
 using test::size_of;
-using test::Stream;
 using test::text_of;
-using Json = std::unique_ptr<kovra_json, Releaser<kovra_json_free>>;
 
 // What a target defines when its inputs hold elements: the offset where they begin, or the size when there are none.
 size_t elements_begin(const uint8_t *data, size_t size);
-
-class Value {
-public:
-    Value() = default;
-    Value(uint32_t type, kovra_asn1_value *handle) : type_(type), handle_(handle) {}
-    Value(Value &&other) noexcept : type_(other.type_), handle_(std::exchange(other.handle_, nullptr)) {}
-    Value &operator=(Value &&other) noexcept {
-        std::swap(type_, other.type_);
-        std::swap(handle_, other.handle_);
-        return *this;
-    }
-    ~Value() { kovra_asn1_value_free(type_, handle_); }
-    kovra_asn1_value *get() const { return handle_; }
-    kovra_asn1_value **place() { return &handle_; }
-    uint32_t type() const { return type_; }
-
-private:
-    uint32_t type_ = 0;
-    kovra_asn1_value *handle_ = nullptr;
-};
 
 // The entries of a context as text, a line each: source, code and message. Whose line of the source found it is not
 // part of what is promised.

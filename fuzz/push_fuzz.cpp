@@ -9,10 +9,6 @@ namespace kovra::fuzz {
 
 namespace {
 
-using AnyContext = std::unique_ptr<kovra_asn1_decode_any_ctx, Releaser<kovra_asn1_decode_any_ctx_free>>;
-using StringContext =
-    std::unique_ptr<kovra_asn1_decode_octetstring_ctx, Releaser<kovra_asn1_decode_octetstring_ctx_free>>;
-
 // Cuts octets into pieces.
 class Pieces {
 public:
@@ -80,7 +76,7 @@ void ask_for_object(const kovra_asn1_decode_any_ctx *ctx, uint32_t type, Outcome
 
 Outcome push_any(std::string_view octets, uint8_t how, uint32_t type) {
     Outcome outcome;
-    const AnyContext ctx(kovra_asn1_decode_any_ctx_new());
+    const AnyCtx ctx(kovra_asn1_decode_any_ctx_new());
     feed(
         Pieces(octets, how), outcome,
         [&](const Exact &piece, int32_t *left) {
@@ -93,7 +89,7 @@ Outcome push_any(std::string_view octets, uint8_t how, uint32_t type) {
 
 // The same with identifier and length octets asked for; what they say is what reading them whole says.
 void check_header(std::string_view octets, uint8_t how, const Outcome &expected) {
-    const AnyContext ctx(kovra_asn1_decode_any_ctx_new());
+    const AnyCtx ctx(kovra_asn1_decode_any_ctx_new());
     Pieces pieces(octets, how);
     size_t taken = 0;
     int32_t result = -100;
@@ -158,7 +154,7 @@ struct StringPush : Outcome {
     int64_t length = 0;
 };
 
-StringPush push_string(StringContext ctx, std::string_view octets, uint8_t how, bool is_content) {
+StringPush push_string(StringCtx ctx, std::string_view octets, uint8_t how, bool is_content) {
     StringPush outcome;
     const Stream stream(kovra_stream_new_mem(0, nullptr));
     const auto update =
@@ -189,8 +185,7 @@ void check_string(std::string_view octets, uint8_t how) {
     const Exact exact(octets);
     const Decoded pulled = decode_from_memory(exact, KOVRA_ASN1_TYPE_OCTET_STRING);
     for (const uint8_t cut : {uint8_t{0}, uint8_t{1}, how}) {
-        const StringPush pushed =
-            push_string(StringContext(kovra_asn1_decode_octetstring_ctx_new()), octets, cut, false);
+        const StringPush pushed = push_string(StringCtx(kovra_asn1_decode_octetstring_ctx_new()), octets, cut, false);
         check_same(pulled, pushed);
         check(!pushed.is_complete || pushed.length == static_cast<int64_t>(pushed.taken),
               "the encoding is as long as what was taken");
@@ -208,7 +203,7 @@ void check_string(std::string_view octets, uint8_t how) {
     content.result = kovra_asn1_decode_content(stream.get(), KOVRA_ASN1_TYPE_OCTET_STRING, content.value.place(), form,
                                                length, &read, nullptr);
     content.taken = static_cast<size_t>(read);
-    StringContext ctx(kovra_asn1_decode_octetstring_ctx_new());
+    StringCtx ctx(kovra_asn1_decode_octetstring_ctx_new());
     if (kovra_asn1_decode_octetstring_ctx_setstate(ctx.get(), form, length) != 1) {
         check(content.result != 1, "decoding refuses what no context can be in");
         return;

@@ -10,8 +10,6 @@ namespace {
 
 using BigInteger = test::BigInteger;
 using BitSet = test::BitSet;
-using Time = std::unique_ptr<kovra_time, Releaser<kovra_time_free>>;
-using Text = std::unique_ptr<kovra_ustring, Releaser<kovra_ustring_free>>;
 
 // Content octets of a primitive value.
 Value decode_content(uint32_t type, const Exact &octets) {

@@ -99,27 +99,6 @@ inline void PrintTo(const Codes &codes, std::ostream *out) {
     *out << codes;
 }
 
-class Value {
-public:
-    Value() = default;
-    Value(uint32_t type, kovra_asn1_value *handle) : type_(type), handle_(handle) {}
-    Value(Value &&other) noexcept : type_(other.type_), handle_(other.release()) {}
-    Value &operator=(Value &&other) noexcept {
-        std::swap(type_, other.type_);
-        std::swap(handle_, other.handle_);
-        return *this;
-    }
-    ~Value() { kovra_asn1_value_free(type_, handle_); }
-    kovra_asn1_value *get() const { return handle_; }
-    uint32_t type() const { return type_; }
-    explicit operator bool() const { return handle_ != nullptr; }
-    kovra_asn1_value *release() { return std::exchange(handle_, nullptr); }
-
-private:
-    uint32_t type_ = 0;
-    kovra_asn1_value *handle_ = nullptr;
-};
-
 // A place for a value that shows when it was not written.
 inline kovra_asn1_value *unwritten() {
     static char mark;

@@ -13,7 +13,7 @@ TEST(Memory, EveryAllocationOfConstructorsAndAccessorsMayFail) {
     Value time = decoded(22, "18 0B 32303132313132303038 5A");
     BigInteger number(kovra_asn1_integer_getbigintger(integer.get()));
     BitSet set(kovra_asn1_bitstring_getbitset(bits.get()));
-    std::unique_ptr<kovra_time, Releaser<kovra_time_free>> moment(kovra_asn1_time_getutctime(time.get()));
+    Time moment(kovra_asn1_time_getutctime(time.get()));
     const int32_t positions[] = {3, 70};
     const std::string large = noise(100000);
     Input file(large, Feed::trickle);

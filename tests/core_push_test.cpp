@@ -11,8 +11,6 @@ namespace kovra::test {
 namespace {
 
 namespace fs = std::filesystem;
-using AnyCtx = std::unique_ptr<kovra_asn1_decode_any_ctx, Releaser<kovra_asn1_decode_any_ctx_free>>;
-using StringCtx = std::unique_ptr<kovra_asn1_decode_octetstring_ctx, Releaser<kovra_asn1_decode_octetstring_ctx_free>>;
 
 constexpr size_t waiting = SIZE_MAX; // for more octets
 constexpr size_t refused = SIZE_MAX - 1;

@@ -9,7 +9,6 @@ namespace kovra::test {
 namespace {
 
 namespace fs = std::filesystem;
-using Json = std::unique_ptr<kovra_json, Releaser<kovra_json_free>>;
 
 std::string contents(const fs::path &path) {
     std::ifstream file(path, std::ios::binary);

@@ -3,7 +3,6 @@
 
 namespace kovra::test {
 namespace {
-using Json = std::unique_ptr<kovra_json, Releaser<kovra_json_free>>;
 
 std::string description_of(const std::string &octets) {
     const std::vector<char> exact(octets.begin(), octets.end());

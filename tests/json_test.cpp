@@ -5,7 +5,6 @@
 namespace kovra::test {
 namespace {
 
-using Json = std::unique_ptr<kovra_json, Releaser<kovra_json_free>>;
 
 std::string tagged(const std::string &tag, const std::string &value) {
     return R"({"type":"TAGGEDTYPE",)" + tag + R"(,"value":)" + value + "}";

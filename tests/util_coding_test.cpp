@@ -6,6 +6,7 @@
 
 #include "util_handles.hpp"
 
+using namespace kovra;
 using namespace kovra::test;
 
 namespace {

@@ -1,25 +1,16 @@
-// Owning pointers to the companion's handles and memory, and test data.
+// What the tests of both libraries share: octets of handles, and test data.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <random>
 #include <string>
+#include <string_view>
 
-#include "kovra/util.h"
+#include "base/owners.hpp"
 
 namespace kovra::test {
-
-template <auto release> struct Releaser {
-    template <class T> void operator()(T *handle) const { release(handle); }
-};
-
-using Blob = std::unique_ptr<kovra_data_blob, Releaser<kovra_data_blob_free>>;
-using Errors = std::unique_ptr<kovra_err_ctx, Releaser<kovra_err_ctx_free>>;
-using Stream = std::unique_ptr<kovra_stream, Releaser<kovra_stream_free>>;
-using BigInteger = std::unique_ptr<kovra_biginteger, Releaser<kovra_biginteger_free>>;
-using BitSet = std::unique_ptr<kovra_bitset, Releaser<kovra_bitset_free>>;
-template <class T> using Memory = std::unique_ptr<T, Releaser<kovra_free>>;
 
 inline std::string text_of(const kovra_data_blob *blob) {
     return {reinterpret_cast<const char *>(kovra_data_blob_getdata(blob)),
@@ -29,6 +20,20 @@ inline std::string text_of(const kovra_data_blob *blob) {
 inline int32_t size_of(const std::string &octets) {
     return static_cast<int32_t>(octets.size());
 }
+
+// A copy that ends where its memory ends, so that reading behind it shows.
+class Exact {
+public:
+    explicit Exact(std::string_view octets) : copy_(new char[octets.size()]), size_(octets.size()) {
+        std::copy(octets.begin(), octets.end(), copy_.get());
+    }
+    [[nodiscard]] const char *begin() const { return copy_.get(); }
+    [[nodiscard]] int32_t length() const { return static_cast<int32_t>(size_); }
+
+private:
+    std::unique_ptr<char[]> copy_;
+    size_t size_;
+};
 
 // Octets without a pattern, always the same for a size.
 inline std::string noise(size_t size) {

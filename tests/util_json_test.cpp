@@ -12,11 +12,11 @@
 #include "tests/small_stack.hpp"
 #include "tests/util_handles.hpp"
 
+using namespace kovra;
 using namespace kovra::test;
 
 namespace {
 
-using Json = std::unique_ptr<kovra_json, Releaser<kovra_json_free>>;
 
 std::string print(const Json &value, int32_t indent = 0) {
     int64_t length = 0;

@@ -5,6 +5,7 @@
 
 #include "util_handles.hpp"
 
+using namespace kovra;
 using namespace kovra::test;
 
 namespace {

@@ -10,6 +10,7 @@
 
 #include "util_handles.hpp"
 
+using namespace kovra;
 using namespace kovra::test;
 
 namespace {

@@ -7,11 +7,11 @@
 #include "tests/failing_memory.hpp"
 #include "tests/util_handles.hpp"
 
+using namespace kovra;
 using namespace kovra::test;
 
 namespace {
 
-using Time = std::unique_ptr<kovra_time, Releaser<kovra_time_free>>;
 
 std::string fields_of(const kovra_time *time) {
     char text[64];

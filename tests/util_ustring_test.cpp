@@ -5,11 +5,11 @@
 #include "tests/failing_memory.hpp"
 #include "tests/util_handles.hpp"
 
+using namespace kovra;
 using namespace kovra::test;
 
 namespace {
 
-using Text = std::unique_ptr<kovra_ustring, Releaser<kovra_ustring_free>>;
 
 std::string take(kovra_data_blob *blob) {
     if (blob == nullptr)

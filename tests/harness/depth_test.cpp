@@ -8,9 +8,6 @@
 namespace kovra::test {
 namespace {
 
-using Json = std::unique_ptr<kovra_json, Releaser<kovra_json_free>>;
-using AnyCtx = std::unique_ptr<kovra_asn1_decode_any_ctx, Releaser<kovra_asn1_decode_any_ctx_free>>;
-
 std::string open_nest(std::string_view identifier, size_t depth, const std::string &innermost) {
     return repeated(std::string(identifier) + '\x80', depth) + innermost + std::string(2 * depth, '\0');
 }

@@ -7,7 +7,6 @@
 namespace kovra::test {
 namespace {
 
-using Json = std::unique_ptr<kovra_json, Releaser<kovra_json_free>>;
 
 std::string printed(const Json &json) {
     int64_t length = 0;

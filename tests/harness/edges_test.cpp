@@ -238,8 +238,7 @@ TEST(Edges, TagsOfEverySize) {
                 int32_t found = -1;
                 EXPECT_EQ(kovra_asn1_any_gettagnumber(read.value.get(), &found), 1);
                 EXPECT_EQ(found, tag);
-                const std::unique_ptr<kovra_json, Releaser<kovra_json_free>> json(
-                    kovra_asn1_tojson(data.data(), size_of(data)));
+                const Json json(kovra_asn1_tojson(data.data(), size_of(data)));
                 const Blob back(kovra_asn1_encodejson(json.get()));
                 ASSERT_NE(back, nullptr);
                 EXPECT_EQ(hex(text_of(back.get())), hex(data));

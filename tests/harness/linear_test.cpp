@@ -12,7 +12,6 @@ namespace kovra::test {
 namespace {
 
 using Handle = kovra_asn1_value *;
-using Json = std::unique_ptr<kovra_json, Releaser<kovra_json_free>>;
 
 constexpr int64_t allowance = int64_t{64} * 1024;
 constexpr int64_t memory_factor = 8; // of an input, to decode it
