@@ -85,8 +85,9 @@ uint8_t find(const ChoiceShape &shape, const Identifier &identifier) {
         const Component &component = shape.alternatives[i];
         const Type &type = row_of(component);
         if (component.tag.tagging == Tagging::none) {
-            if (shape.any_form == AnyForm::of_untagged ? identifier.is(Class::universal, type.tag)
-                                                       : begins(type, identifier))
+            if (shape.any_form == AnyForm::of_untagged_leaves && type.form == Form::primitive
+                    ? identifier.is(Class::universal, type.tag)
+                    : begins(type, identifier))
                 break;
             continue;
         }

@@ -8,7 +8,7 @@ namespace kovra::asn1 {
 
 // Which alternatives are told apart by class and tag number alone, so that a form that does not fit is found when the
 // content is read. Of a primitive type under an implicit tag that is so always.
-enum class AnyForm : uint8_t { no, of_tagged, of_untagged };
+enum class AnyForm : uint8_t { no, of_tagged, of_untagged_leaves };
 
 struct ChoiceShape {
     const char *source; // module that the entries of failures name

@@ -24,7 +24,7 @@ constexpr Component parameters_alternatives[] = {
 
 } // namespace
 
-constexpr ChoiceShape ecpk_parameters = choice(source, parameters_alternatives);
+constexpr ChoiceShape ecpk_parameters = choice(source, parameters_alternatives, AnyForm::of_untagged_leaves);
 
 } // namespace kovra::asn1
 
