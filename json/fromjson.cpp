@@ -1,11 +1,10 @@
 // From a JSON description to DER: one pass over the tree that gathers the octets of the leaves and the lengths of what
 // holds them, and one that writes.
 
-#include <algorithm>
 #include <cmath>
 #include <cstring>
 
-#include "base/sizes.hpp"
+#include "base/stack.hpp"
 #include "base/thresholds.hpp"
 #include "core/any.hpp"
 #include "core/codec.hpp"
@@ -26,41 +25,11 @@ namespace kovra::asn1 {
 
 namespace {
 
+constexpr char source[] = "ASN1_JSON";
+
 Site here(int32_t line = __builtin_LINE()) {
-    return {"ASN1_JSON", line};
+    return {source, line};
 }
-
-// An array over kovra_malloc.
-template <class T> class Stack {
-public:
-    Stack() = default;
-    ~Stack() { kovra_free(items_); }
-    Stack(const Stack &) = delete;
-    Stack &operator=(const Stack &) = delete;
-
-    bool push(const T &item) {
-        if (count_ == capacity_) {
-            constexpr auto first_capacity = threshold<size_t>(16, 1);
-            const size_t capacity = next_capacity(capacity_, std::max(first_capacity, capacity_));
-            auto *grown = static_cast<T *>(kovra_realloc(items_, product(capacity, sizeof(T)), "ASN1_JSON", __LINE__));
-            if (grown == nullptr)
-                return false;
-            items_ = grown;
-            capacity_ = capacity;
-        }
-        items_[count_++] = item;
-        return true;
-    }
-    void pop() { --count_; }
-    [[nodiscard]] size_t size() const { return count_; }
-    T &operator[](size_t index) { return items_[index]; }
-    T &top() { return items_[count_ - 1]; }
-
-private:
-    T *items_ = nullptr;
-    size_t count_ = 0;
-    size_t capacity_ = 0;
-};
 
 // The identifier that an implicit tag puts in the place of another; the form stays that of the value.
 struct Override {
@@ -446,8 +415,9 @@ private:
     }
 
     Encoder leaves_;
-    Stack<Part> parts_;
-    Stack<Open> open_;
+    static constexpr auto first_items = threshold<size_t>(16, 1);
+    Stack<Part, first_items> parts_{source};
+    Stack<Open, first_items> open_{source};
     int64_t total_ = 0;
 };
 

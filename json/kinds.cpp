@@ -31,7 +31,7 @@ constexpr JsonKind kinds[] = {
     {"UTCTIME", 23, KOVRA_ASN1_TYPE_UTC_TIME, Notation::time, false},
     {"GENTIME", 24, KOVRA_ASN1_TYPE_GENERALIZED_TIME, Notation::time, false},
     {"VISIBLESTRING", 26, KOVRA_ASN1_TYPE_VISIBLE_STRING, Notation::visible, false},
-    // Descriptions in use spell ISO 646 so.
+    // Existing documents have this spelling of ISO646STRING.
     {"ISO636STRING", 26, KOVRA_ASN1_TYPE_VISIBLE_STRING, Notation::visible, true},
     {"UNIVERSALSTRING", 28, KOVRA_ASN1_TYPE_UNIVERSAL_STRING, Notation::utf32, false},
     {"BMPSTRING", 30, KOVRA_ASN1_TYPE_BMP_STRING, Notation::bmp, false},

@@ -1,10 +1,7 @@
 // From an encoding to its JSON description: one pass over the octets, with a stack of the constructed values that are
 // open.
 
-#include <algorithm>
-#include <cstring>
-
-#include "base/sizes.hpp"
+#include "base/stack.hpp"
 #include "base/thresholds.hpp"
 #include "core/any.hpp"
 #include "core/codec.hpp"
@@ -12,7 +9,6 @@
 #include "kovra/asn1_json.h"
 #include "kovra/asn1_oid.h"
 #include "kovra/asn1_time.h"
-#include "kovra/util_memory.h"
 #include "kovra/util_ustring.h"
 #include "json/kinds.hpp"
 
@@ -20,8 +16,10 @@ namespace kovra::asn1 {
 
 namespace {
 
+constexpr char source[] = "ASN1_JSON";
+
 Site here(int32_t line = __builtin_LINE()) {
-    return {"ASN1_JSON", line};
+    return {source, line};
 }
 
 // A constructed value whose members are being converted.
@@ -35,10 +33,7 @@ struct Frame {
 class Converter {
 public:
     Converter(const uint8_t *octets, uint32_t length) : octets_(octets), length_(length) {}
-    ~Converter() {
-        kovra_free(frames_);
-        Arena::destroy(arena_);
-    }
+    ~Converter() { Arena::destroy(arena_); }
     Converter(const Converter &) = delete;
     Converter &operator=(const Converter &) = delete;
 
@@ -64,17 +59,17 @@ public:
 private:
     // Converts members of open frames until all are closed.
     bool members(Decoder &decoder) {
-        while (count_ != 0) {
-            const Frame frame = frames_[count_ - 1];
+        while (frames_.size() != 0) {
+            const Frame frame = frames_.top();
             const int64_t position = decoder.position();
             if (frame.end >= 0 && position == frame.end) {
-                --count_;
+                frames_.pop();
                 continue;
             }
             if (frame.end >= 0 && position > frame.end)
                 return false;
             if (frame.end < 0 && is_end_of_contents(decoder)) {
-                --count_;
+                frames_.pop();
                 continue;
             }
             kovra_json *object = kovra_json_putobject(frame.members, frame.is_tagged ? "value" : nullptr);
@@ -94,18 +89,7 @@ private:
     }
 
     bool open(kovra_json *members, int64_t end, bool is_tagged) {
-        if (count_ == capacity_) {
-            constexpr auto first_capacity = threshold<size_t>(32, 1);
-            const size_t capacity = next_capacity(capacity_, std::max(first_capacity, capacity_));
-            auto *grown =
-                static_cast<Frame *>(kovra_realloc(frames_, product(capacity, sizeof(Frame)), "ASN1_JSON", __LINE__));
-            if (grown == nullptr)
-                return false;
-            frames_ = grown;
-            capacity_ = capacity;
-        }
-        frames_[count_++] = {members, end, is_tagged, end < 0};
-        return true;
+        return frames_.push({members, end, is_tagged, end < 0});
     }
 
     // Fills an object with the description of the element at the decoder's position, and steps over it, or into it
@@ -114,7 +98,8 @@ private:
         const uint32_t start = decoder.position();
         Extent extent{};
         if (is_walked) {
-            // An enclosing walk has checked all of it: the header is enough, and what needs the end walks the rest again.
+            // An enclosing walk has checked all of it: the header is enough, and what needs the end walks the rest
+            // again.
             if (read_identifier(decoder, here(), extent.identifier) != success ||
                 read_length(decoder, here(), extent.length) != success)
                 return false;
@@ -276,9 +261,7 @@ private:
     const uint8_t *octets_;
     uint32_t length_;
     Arena *arena_ = nullptr;
-    Frame *frames_ = nullptr;
-    size_t count_ = 0;
-    size_t capacity_ = 0;
+    Stack<Frame, threshold<size_t>(32, 1)> frames_{source};
 };
 
 } // namespace

@@ -2,10 +2,6 @@
 
 #include <algorithm>
 
-#include "base/sizes.hpp"
-#include "base/thresholds.hpp"
-#include "kovra/util_memory.h"
-
 namespace kovra::asn1 {
 
 size_t PushedHeader::take(const uint8_t *octets, size_t count) {
@@ -90,25 +86,11 @@ size_t PushedHeader::take_long_length(const uint8_t *octets, size_t count) {
     return taken;
 }
 
-void OpenElements::release() {
-    kovra_free(outer_);
-    outer_ = nullptr;
-    count_ = capacity_ = 0;
-}
-
 bool OpenElements::enter(int64_t end) {
     if (end == inner_.end && inner_.indefinite == 0)
         return true;
-    if (count_ == capacity_) {
-        constexpr size_t first_capacity = threshold<size_t>(8, 1);
-        const size_t capacity = capacity_ == 0 ? first_capacity : next_capacity(capacity_, capacity_);
-        void *grown = kovra_realloc(outer_, product(capacity, sizeof(Level)), "ASN1_Decode", __LINE__);
-        if (grown == nullptr)
-            return false;
-        outer_ = static_cast<Level *>(grown);
-        capacity_ = capacity;
-    }
-    outer_[count_++] = inner_;
+    if (!outer_.push(inner_))
+        return false;
     inner_ = {end, 0};
     return true;
 }

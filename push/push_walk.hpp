@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "base/stack.hpp"
+#include "base/thresholds.hpp"
 #include "core/octets.hpp"
 #include "kovra/util_stream.h"
 
@@ -44,7 +46,8 @@ class OpenElements {
 public:
     static constexpr int64_t unlimited = INT64_MAX;
 
-    void release();
+    // Before a record that holds one is released.
+    void release() { outer_.clear_memory(); }
 
     // False when memory is short.
     bool enter(int64_t end);
@@ -52,8 +55,10 @@ public:
     void leave_indefinite() { --inner_.indefinite; }
     // Leaves the definite ones that end here.
     void leave_ended(int64_t position) {
-        while (inner_.end == position && inner_.indefinite == 0)
-            inner_ = outer_[--count_];
+        while (inner_.end == position && inner_.indefinite == 0) {
+            inner_ = outer_.top();
+            outer_.pop();
+        }
     }
 
     [[nodiscard]] bool is_none() const { return inner_.end == unlimited && inner_.indefinite == 0; }
@@ -69,9 +74,7 @@ private:
     };
 
     Level inner_ = {unlimited, 0};
-    Level *outer_ = nullptr; // those around it, the outermost first
-    size_t count_ = 0;
-    size_t capacity_ = 0;
+    HeldStack<Level, threshold<size_t>(8, 1)> outer_{"ASN1_Decode"}; // those around it, the outermost first
 };
 
 enum class Elements : uint8_t { all, octet_strings };

@@ -2,26 +2,7 @@
 
 #include <cstring>
 
-#include "base/sizes.hpp"
-
 namespace kovra::asn1 {
-
-bool OpenStrings::open(int64_t end) {
-    if (count_ == capacity_) {
-        const size_t capacity = next_capacity(capacity_, capacity_);
-        Level *on_heap = levels_ == first_ ? nullptr : levels_;
-        auto *grown = static_cast<Level *>(
-            kovra_realloc(on_heap, product(capacity, sizeof(Level)), "ASN1_OctetString", __LINE__));
-        if (grown == nullptr)
-            return false;
-        if (on_heap == nullptr)
-            std::memcpy(grown, first_, sizeof first_);
-        levels_ = grown;
-        capacity_ = capacity;
-    }
-    levels_[count_++] = {end, 0};
-    return true;
-}
 
 template <bool of_bits>
 Result decode_segments(Decoder &decoder, Site site, const Element &element, Content &out, uint32_t &unused_bits) {

@@ -4,12 +4,12 @@
 
 #include <cstdint>
 
+#include "base/stack.hpp"
 #include "base/thresholds.hpp"
 #include "core/codes.hpp"
 #include "core/decoder.hpp"
 #include "core/failure.hpp"
 #include "core/octets.hpp"
-#include "kovra/util_memory.h"
 
 namespace kovra::asn1 {
 
@@ -22,26 +22,28 @@ public:
         uint32_t unused_bits; // of the last segment of a BIT STRING
     };
 
-    OpenStrings() = default;
-    ~OpenStrings() {
-        if (levels_ != first_)
-            kovra_free(levels_);
-    }
-    OpenStrings(const OpenStrings &) = delete;
-    OpenStrings &operator=(const OpenStrings &) = delete;
-
     // False when memory is short.
-    bool open(int64_t end);
-    void close() { --count_; }
+    bool open(int64_t end) {
+        if (count_ < outer_count)
+            outer_[count_] = {end, 0};
+        else if (!inner_.push({end, 0}))
+            return false;
+        ++count_;
+        return true;
+    }
+    void close() {
+        if (count_ > outer_count)
+            inner_.pop();
+        --count_;
+    }
     [[nodiscard]] bool empty() const { return count_ == 0; }
-    [[nodiscard]] Level &top() { return levels_[count_ - 1]; }
+    [[nodiscard]] Level &top() { return count_ > outer_count ? inner_.top() : outer_[count_ - 1]; }
 
 private:
-    static constexpr auto first_capacity = threshold<size_t>(8, 1);
-    Level first_[first_capacity];
-    Level *levels_ = first_;
+    static constexpr auto outer_count = threshold<size_t>(8, 1);
+    Level outer_[outer_count]; // as deep as strings are mostly; they take no allocation
+    Stack<Level, outer_count> inner_{"ASN1_OctetString"};
     size_t count_ = 0;
-    size_t capacity_ = first_capacity;
 };
 
 // Reads a segment's identifier and length. An end-of-contents marker that stands there was read to its end.

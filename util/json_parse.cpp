@@ -80,7 +80,7 @@ private:
     // Reads items until every open container is closed.
     bool items() {
         while (open_.size() != 0) {
-            Container &container = *open_.last();
+            Container &container = *open_.top();
             const bool is_object = container.kind() == KOVRA_JSON_OBJECT;
             skip_space();
             if (skip(is_object ? '}' : ']')) {
@@ -310,7 +310,7 @@ private:
 
     const uint8_t *at_;
     const uint8_t *end_;
-    GrowingArray<Container *> open_;
+    Stack<Container *, first_json_items<Container *>> open_{"UTIL_JSON"};
     GrowingArray<uint8_t> unescaped_;
 };
 

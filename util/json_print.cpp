@@ -25,13 +25,13 @@ public:
                 scalar(*value);
             else if (!open(*container))
                 return false;
-            while (open_.size() != 0 && open_.last().next == nullptr)
+            while (open_.size() != 0 && open_.top().next == nullptr)
                 close();
             if (open_.size() == 0) {
                 out_.push('\0');
                 return out_.is_complete();
             }
-            Level &level = open_.last();
+            Level &level = open_.top();
             value = level.next;
             if (value != level.container->first)
                 out_.push(',');
@@ -64,7 +64,7 @@ private:
     }
 
     void close() {
-        const Container &container = *open_.last().container;
+        const Container &container = *open_.top().container;
         open_.pop();
         new_line();
         out_.push(closing(container));
@@ -141,7 +141,7 @@ private:
 
     size_t indent_;
     GrowingArray<char> out_;
-    GrowingArray<Level> open_;
+    Stack<Level, first_json_items<Level>> open_{"UTIL_JSON"};
 };
 
 } // namespace

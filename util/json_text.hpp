@@ -7,78 +7,52 @@
 #include <cstring>
 #include <type_traits>
 
-#include "base/sizes.hpp"
+#include "base/stack.hpp"
 #include "base/thresholds.hpp"
-#include "kovra/util_memory.h"
 
 namespace kovra::util {
 
-// Items that are put behind one another; what does not fit for want of memory is dropped and remembered.
+// The first room of what grows while JSON is read and printed.
+template <class Item> inline constexpr auto first_json_items = threshold<size_t>(256 / sizeof(Item), 1);
+
+// Items that are put behind one another. What finds no memory is left out, and is_complete() tells.
 template <class Item> class GrowingArray {
     static_assert(std::is_trivially_copyable_v<Item>);
 
 public:
-    GrowingArray() = default;
-    ~GrowingArray() { kovra_free(items_); }
-    GrowingArray(const GrowingArray &) = delete;
-    GrowingArray &operator=(const GrowingArray &) = delete;
-
     [[nodiscard]] bool is_complete() const { return !failed_; }
-    [[nodiscard]] size_t size() const { return size_; }
-    [[nodiscard]] const Item *data() const { return items_; }
-    Item &last() { return items_[size_ - 1]; }
+    [[nodiscard]] size_t size() const { return items_.size(); }
+    [[nodiscard]] const Item *data() const { return items_.data(); }
 
     bool push(const Item &item) {
-        if (size_ == capacity_ && !grow(1))
+        if (!has_room(1))
             return false;
-        items_[size_++] = item;
+        *items_.add(1) = item;
         return true;
     }
-    void pop() { --size_; }
-    void clear() { size_ = 0; }
+    void clear() { items_.clear(); }
 
     void put(const Item *items, size_t count) {
-        if (count == 0 || (count > capacity_ - size_ && !grow(count)))
-            return;
-        std::memcpy(items_ + size_, items, count * sizeof(Item));
-        size_ += count;
+        if (count != 0 && has_room(count))
+            std::memcpy(items_.add(count), items, count * sizeof(Item));
     }
     void fill(const Item &item, size_t count) {
-        if (count > capacity_ - size_ && !grow(count))
-            return;
-        std::fill_n(items_ + size_, count, item);
-        size_ += count;
+        if (has_room(count))
+            std::fill_n(items_.add(count), count, item);
     }
 
-    // Hands the items over, for kovra_free.
-    Item *release() {
-        Item *items = items_;
-        items_ = nullptr;
-        size_ = capacity_ = 0;
-        return items;
-    }
+    // Hands the items over, to be released with kovra_free.
+    Item *release() { return items_.take(); }
 
 private:
-    bool grow(size_t more) {
-        constexpr auto first_capacity = threshold<size_t>(256 / sizeof(Item), 1);
-        const size_t capacity =
-            std::max(next_capacity(capacity_, std::max(first_capacity, capacity_)), sum(size_, more));
-        const size_t size = product(capacity, sizeof(Item));
-        auto *grown = failed_ || size > PTRDIFF_MAX
-                          ? nullptr
-                          : static_cast<Item *>(kovra_realloc(items_, size, "UTIL_JSON", __LINE__));
-        if (grown == nullptr) {
-            failed_ = true;
-            return false;
-        }
-        items_ = grown;
-        capacity_ = capacity;
-        return true;
+    bool has_room(size_t count) {
+        if (items_.has_room(count))
+            return true;
+        failed_ = failed_ || !items_.make_room(count);
+        return !failed_;
     }
 
-    Item *items_ = nullptr;
-    size_t size_ = 0;
-    size_t capacity_ = 0;
+    Stack<Item, first_json_items<Item>> items_{"UTIL_JSON"};
     bool failed_ = false;
 };
 
