@@ -329,6 +329,41 @@ Next read_element(Decoder &decoder, const ListShape &shape, bool is_indefinite, 
     return fault(shape.reading == ListReading::inlined ? decoded : fail_decode(decoder, in(shape), element, decoded));
 }
 
+// Lists of open-type values have codes of their own for what goes wrong.
+Result decode_any_list(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
+    if (const Result result = check_source_and_place(decoder, here()); result != success)
+        return result;
+    if (element.form == Form::primitive)
+        return decoder.fail(here(), code::form_error);
+    if (element.length < indefinite)
+        return decoder.fail(here(), code::bad_length);
+    const bool is_indefinite = element.length == indefinite;
+    const uint32_t end = is_indefinite ? no_end : decoder.position() + static_cast<uint32_t>(element.length);
+    Collector collector(decoder);
+    const auto read = [&](Value *&value, Result &result) {
+        const auto fault = [&](int32_t code, Result given = failure) {
+            result = decoder.fail(here(), code, given);
+            return Next::fault;
+        };
+        if (decoder.position() >= end)
+            return decoder.position() == end ? Next::end : fault(code::incorrect_length);
+        Extent extent;
+        if (const Result walked = walk_element(decoder, extent); walked != success)
+            return fault(code::decode_any, walked);
+        if (extent.identifier.is_end_of_contents())
+            return is_indefinite ? Next::end : fault(code::misplaced_end_of_contents);
+        value = new_any(decoder, extent);
+        return value != nullptr ? Next::element : fault(code::no_memory);
+    };
+    return collect(decoder, shape_of(type), collector, read, out);
+}
+
+Result encode_any_list_content(Encoder &encoder, const Type &type, Value *value, int32_t length) {
+    return encode_elements(encoder, row(shape_of(type).element), static_cast<List *>(value), length, true);
+}
+
+} // namespace
+
 Result decode_list(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
     const ListShape &shape = shape_of(type);
     const Type &member = row(shape.element);
@@ -383,35 +418,6 @@ Result decode_list(Decoder &decoder, const Type &type, const Element &element, V
     return collect(decoder, shape, collector, read, out);
 }
 
-// Lists of open-type values have codes of their own for what goes wrong.
-Result decode_any_list(Decoder &decoder, const Type &type, const Element &element, Value *&out) {
-    if (const Result result = check_source_and_place(decoder, here()); result != success)
-        return result;
-    if (element.form == Form::primitive)
-        return decoder.fail(here(), code::form_error);
-    if (element.length < indefinite)
-        return decoder.fail(here(), code::bad_length);
-    const bool is_indefinite = element.length == indefinite;
-    const uint32_t end = is_indefinite ? no_end : decoder.position() + static_cast<uint32_t>(element.length);
-    Collector collector(decoder);
-    const auto read = [&](Value *&value, Result &result) {
-        const auto fault = [&](int32_t code, Result given = failure) {
-            result = decoder.fail(here(), code, given);
-            return Next::fault;
-        };
-        if (decoder.position() >= end)
-            return decoder.position() == end ? Next::end : fault(code::incorrect_length);
-        Extent extent;
-        if (const Result walked = walk_element(decoder, extent); walked != success)
-            return fault(code::decode_any, walked);
-        if (extent.identifier.is_end_of_contents())
-            return is_indefinite ? Next::end : fault(code::misplaced_end_of_contents);
-        value = new_any(decoder, extent);
-        return value != nullptr ? Next::element : fault(code::no_memory);
-    };
-    return collect(decoder, shape_of(type), collector, read, out);
-}
-
 int32_t list_content_length(const Type &type, Value *value, Measure measure) {
     if (measure == Measure::known && value != nullptr)
         return value->measured;
@@ -422,15 +428,9 @@ Result encode_list_content(Encoder &encoder, const Type &type, Value *value, int
     return encode_elements(encoder, row(shape_of(type).element), static_cast<List *>(value), length, false);
 }
 
-Result encode_any_list_content(Encoder &encoder, const Type &type, Value *value, int32_t length) {
-    return encode_elements(encoder, row(shape_of(type).element), static_cast<List *>(value), length, true);
-}
-
 size_t list_reserve(size_t octets) {
     return 256 + 3 * octets;
 }
-
-} // namespace
 
 constexpr Operations list_operations = {
     .holds = holds_kind<List>,

@@ -22,6 +22,12 @@ struct ListShape {
     const char *source = "ASN1_List";
 };
 
+// The operations of lists, for types that have others beside them.
+int32_t list_content_length(const Type &type, Value *value, Measure measure);
+Result encode_list_content(Encoder &encoder, const Type &type, Value *value, int32_t length);
+Result decode_list(Decoder &decoder, const Type &type, const Element &element, Value *&out);
+size_t list_reserve(size_t octets);
+
 // An empty list in the arena; null when memory is short.
 List *new_list(Arena &arena);
 
