@@ -273,7 +273,8 @@ int32_t kovra_asn1_any_getcontent(kovra_asn1_value *any, int32_t mode, void *buf
         *out_count = 0;
     if (element == nullptr || buffer == nullptr)
         return refuse(ctx, fault_of(any, buffer));
-    return read_piece(element->content, *element->arena, here(), mode, buffer, size, out_count, ctx);
+    return read_piece(element->content, *element->arena, here(), static_cast<Piece>(mode), buffer, size, out_count,
+                      ctx);
 }
 
 int32_t kovra_asn1_any_getobject(kovra_asn1_value *any, uint32_t type, kovra_asn1_value **out_value,

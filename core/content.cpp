@@ -92,10 +92,8 @@ Result put_content(Encoder &encoder, Site site, const Content &content, const Ar
     return encoder.put(site, content.octets.data(arena), content.octets.length);
 }
 
-Result read_piece(Content &content, const Arena &arena, Site site, int32_t mode, void *buffer, int32_t size,
+Result read_piece(Content &content, const Arena &arena, Site site, Piece wanted, void *buffer, int32_t size,
                   int32_t *out_count, kovra_err_ctx *ctx) {
-    constexpr int32_t from_start = 1;
-    constexpr int32_t go_on = 2;
     if (out_count != nullptr)
         *out_count = 0;
     const auto refuse = [&](int32_t code) {
@@ -104,14 +102,14 @@ Result read_piece(Content &content, const Arena &arena, Site site, int32_t mode,
     };
     if (size < 0)
         return refuse(code::bad_argument);
-    if (mode != from_start && mode != go_on)
+    if (wanted != Piece::first && wanted != Piece::next)
         return refuse(code::stream_read);
     if (content.stream != nullptr) {
-        if (mode == from_start && kovra_stream_ctrl(content.stream, KOVRA_STREAM_REWIND, 0, nullptr) != success)
+        if (wanted == Piece::first && kovra_stream_ctrl(content.stream, KOVRA_STREAM_REWIND, 0, nullptr) != success)
             return refuse(code::stream_control);
         return size == 0 ? success : kovra_stream_read(content.stream, buffer, size, out_count, ctx);
     }
-    if (mode == from_start)
+    if (wanted == Piece::first)
         content.position = 0;
     const uint32_t count = std::min(static_cast<uint32_t>(size), content.octets.length - content.position);
     if (count != 0)

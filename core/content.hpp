@@ -44,8 +44,10 @@ bool copy_told(const Content &content, const Arena &arena, void *buffer);
 Result put_content(Encoder &encoder, Site site, const Content &content, const Arena &arena, int64_t most,
                    int64_t &out_count);
 
-// Piecewise reading: mode 1 from the start, mode 2 from where the last piece ended.
-Result read_piece(Content &content, const Arena &arena, Site site, int32_t mode, void *buffer, int32_t size,
+// Which piece of a content is read, as public functions number it: the one at the start, or the one behind that which
+// was read last. Callers may give any number.
+enum class Piece : int32_t { first = 1, next = 2 };
+Result read_piece(Content &content, const Arena &arena, Site site, Piece wanted, void *buffer, int32_t size,
                   int32_t *out_count, kovra_err_ctx *ctx);
 
 // Decodes a value of the type with this number, whole or as the content of `element`, from content octets, all of which

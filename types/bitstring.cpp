@@ -49,15 +49,13 @@ Result write_segment(Encoder &encoder, uint8_t unused_bits, const uint8_t *octet
 
 // Content of any length, as segments; one piece is held back because only the last segment has unused bits.
 Result write_segments(Encoder &encoder, const BitString &bits) {
-    constexpr int32_t from_start = 1;
-    constexpr int32_t go_on = 2;
     Content content = bits.content;
     uint8_t octets[2][segment];
     int32_t held = 0;
-    int32_t mode = from_start;
-    for (int current = 0;; current ^= 1, mode = go_on) {
+    auto piece = Piece::first;
+    for (int current = 0;; current ^= 1, piece = Piece::next) {
         int32_t got = 0;
-        Result result = read_piece(content, *bits.arena, here(), mode, octets[current], segment, &got, encoder.ctx());
+        Result result = read_piece(content, *bits.arena, here(), piece, octets[current], segment, &got, encoder.ctx());
         if (result != success)
             return result;
         if (held > 0) {
@@ -69,11 +67,7 @@ Result write_segments(Encoder &encoder, const BitString &bits) {
             break;
         held = got;
     }
-    if (content.stream != nullptr &&
-        kovra_stream_ctrl(content.stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) != success)
-        return encoder.fail(here(), code::stream_control);
-    const Result result = encoder.end_of_contents(here());
-    return result == success ? success : encoder.fail(here(), code::write_end_of_contents, result);
+    return end_segments(encoder, here(), content);
 }
 
 Result encode_bit_string_content(Encoder &encoder, const Type &, Value *value, int32_t length) {
@@ -96,15 +90,7 @@ Result encode_bit_string_content(Encoder &encoder, const Type &, Value *value, i
 
 Result encode_bit_string(Encoder &encoder, const Type &type, Value *value) {
     const int32_t length = bit_string_content_length(type, value, Measure::known);
-    if (length == unknown)
-        return encoder.fail(here(), code::bad_length);
-    const Form form = length == indefinite ? Form::constructed : Form::primitive;
-    Result result = encoder.identifier(here(), Class::universal, form, tag::bit_string);
-    if (result != success)
-        return result;
-    if (result = encoder.length(here(), length); result != success)
-        return encoder.fail(here(), code::write_length, result);
-    return encode_bit_string_content(encoder, type, value, length);
+    return encode_string<tag::bit_string, encode_bit_string_content>(encoder, here(), type, value, length);
 }
 
 Result decode_bit_string_content(Decoder &decoder, const Type &, const Element &element, Value *&out) {
@@ -133,22 +119,6 @@ Result decode_bit_string(Decoder &decoder, const Type &type, Value *&out) {
 Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE()) {
     report(ctx, here(line), code);
     return failure;
-}
-
-Result decode_into(StreamSource &source, kovra_stream *content_stream, const Element &element,
-                   kovra_asn1_value **out_bitstring, kovra_err_ctx *ctx) {
-    auto *bits = new_root<BitString>();
-    if (bits == nullptr)
-        return refuse(ctx, code::no_memory);
-    const auto copy = [&](uint32_t count) { return source.copy(here(), count, content_stream); };
-    const Result result = SegmentWalk<true>::run(source, here(), element, copy, bits->unused_bits);
-    if (result != success) {
-        Arena::destroy(bits->arena);
-        return result;
-    }
-    use_stream(bits->content, *bits->arena, content_stream);
-    *out_bitstring = bits;
-    return success;
 }
 
 } // namespace
@@ -270,7 +240,7 @@ int32_t kovra_asn1_bitstring_get(kovra_asn1_value *bitstring, int32_t mode, void
     auto *bits = as<BitString>(bitstring);
     if (bits == nullptr || buffer == nullptr)
         return refuse(ctx, fault_of(bitstring, buffer));
-    return read_piece(bits->content, *bits->arena, here(), mode, buffer, size, out_count, ctx);
+    return read_piece(bits->content, *bits->arena, here(), static_cast<Piece>(mode), buffer, size, out_count, ctx);
 }
 
 int32_t kovra_asn1_bitstring_getobject(kovra_asn1_value *bitstring, uint32_t type, kovra_asn1_value **out_value,
@@ -284,34 +254,12 @@ int32_t kovra_asn1_bitstring_getobject(kovra_asn1_value *bitstring, uint32_t typ
 int32_t kovra_asn1_decode_bitstring_ex(kovra_stream *stream, kovra_stream *content_stream,
                                        kovra_asn1_value **out_bitstring, int32_t *out_read,
                                        kovra_err_ctx *ctx) noexcept {
-    if (out_bitstring != nullptr)
-        *out_bitstring = nullptr;
-    if (stream == nullptr || content_stream == nullptr || out_bitstring == nullptr)
-        return refuse(ctx, code::null_argument);
-    StreamSource source(stream, ctx);
-    Identifier identifier;
-    int32_t length = 0;
-    Result result = read_segment(source, here(), tag::bit_string, identifier, length);
-    if (result == success && identifier.is_end_of_contents())
-        result = refuse(ctx, code::decode_bit_string);
-    if (result == success)
-        result = decode_into(source, content_stream, {identifier.form, length}, out_bitstring, ctx);
-    if (result == success && out_read != nullptr)
-        *out_read = static_cast<int32_t>(source.position());
-    return result;
+    return decode_to_stream<BitString>(stream, content_stream, here(), nullptr, out_bitstring, out_read, ctx);
 }
 
 int32_t kovra_asn1_decode_bitstring_content_ex(kovra_stream *stream, kovra_stream *content_stream,
                                                kovra_asn1_value **out_bitstring, int32_t form, int32_t length,
                                                int32_t *out_read, kovra_err_ctx *ctx) noexcept {
-    if (out_bitstring != nullptr)
-        *out_bitstring = nullptr;
-    if (stream == nullptr || content_stream == nullptr || out_bitstring == nullptr)
-        return refuse(ctx, code::null_argument);
-    StreamSource source(stream, ctx);
     const Element element{form == 0 ? Form::constructed : Form::primitive, length};
-    const Result result = decode_into(source, content_stream, element, out_bitstring, ctx);
-    if (result == success && out_read != nullptr)
-        *out_read = static_cast<int32_t>(source.position());
-    return result;
+    return decode_to_stream<BitString>(stream, content_stream, here(), &element, out_bitstring, out_read, ctx);
 }

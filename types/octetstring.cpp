@@ -55,18 +55,16 @@ Result write_segment(Encoder &encoder, const uint8_t *octets, int32_t length) {
 
 // Content of any length, as the segments of a constructed string.
 Result write_segments(Encoder &encoder, const String &string) {
-    constexpr int32_t from_start = 1;
-    constexpr int32_t go_on = 2;
     Content content = string.content;
     if (content.stream != nullptr && encoder.leaves_streams()) {
         const Result result = encoder.note(here(), content.stream);
         return result == success ? encoder.end_of_contents(here()) : result;
     }
-    for (int32_t mode = from_start;; mode = go_on) {
+    for (auto piece = Piece::first;; piece = Piece::next) {
         uint8_t octets[segment_octets];
         int32_t got = 0;
         if (const Result result =
-                read_piece(content, *string.arena, here(), mode, octets, segment_octets, &got, encoder.ctx());
+                read_piece(content, *string.arena, here(), piece, octets, segment_octets, &got, encoder.ctx());
             result != success)
             return result;
         if (got <= 0)
@@ -74,11 +72,7 @@ Result write_segments(Encoder &encoder, const String &string) {
         if (const Result result = write_segment(encoder, octets, got); result != success)
             return result;
     }
-    if (content.stream != nullptr &&
-        kovra_stream_ctrl(content.stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) != success)
-        return encoder.fail(here(), code::stream_control);
-    const Result result = encoder.end_of_contents(here());
-    return result == success ? success : encoder.fail(here(), code::write_end_of_contents, result);
+    return end_segments(encoder, here(), content);
 }
 
 Result encode_string_content(Encoder &encoder, const Type &, Value *value, int32_t length) {
@@ -96,20 +90,9 @@ Result encode_string_content(Encoder &encoder, const Type &, Value *value, int32
     return copied == length ? success : encoder.fail(here(), code::short_copy);
 }
 
-Form form_of(int32_t length) {
-    return length == indefinite ? Form::constructed : Form::primitive;
-}
-
 Result encode_octet_string(Encoder &encoder, const Type &type, Value *value) {
     const int32_t length = string_content_length(type, value, Measure::known);
-    if (length == unknown)
-        return encoder.fail(here(), code::bad_length);
-    Result result = encoder.identifier(here(), Class::universal, form_of(length), tag::octet_string);
-    if (result != success)
-        return result;
-    if (result = encoder.length(here(), length); result != success)
-        return encoder.fail(here(), code::write_length, result);
-    return encode_string_content(encoder, type, value, length);
+    return encode_string<tag::octet_string, encode_string_content>(encoder, here(), type, value, length);
 }
 
 // The texts of these codes tell of other failures; callers know the codes.
@@ -175,24 +158,6 @@ Result refuse_decode(Decoder &decoder, const Type &, Value *&) {
 Result refuse(kovra_err_ctx *ctx, int32_t code, int32_t line = __builtin_LINE()) {
     report(ctx, here(line), code);
     return failure;
-}
-
-// Appends the content octets of a string whose identifier and length were read to a stream that the record then uses.
-Result decode_into(StreamSource &source, kovra_stream *content_stream, const Element &element,
-                   kovra_asn1_value **out_string, kovra_err_ctx *ctx) {
-    auto *string = new_root<String>();
-    if (string == nullptr)
-        return refuse(ctx, code::no_memory);
-    const auto copy = [&](uint32_t count) { return source.copy(here(), count, content_stream); };
-    uint32_t unused_bits = 0;
-    const Result result = SegmentWalk<false>::run(source, here(), element, copy, unused_bits);
-    if (result != success) {
-        Arena::destroy(string->arena);
-        return result;
-    }
-    use_stream(string->content, *string->arena, content_stream);
-    *out_string = string;
-    return success;
 }
 
 } // namespace
@@ -289,7 +254,7 @@ int32_t kovra_asn1_octetstring_get(kovra_asn1_value *string, int32_t mode, void 
     auto *record = as<String>(string);
     if (record == nullptr || buffer == nullptr)
         return refuse(ctx, fault_of(string, buffer));
-    return read_piece(record->content, *record->arena, here(), mode, buffer, size, out_count, ctx);
+    return read_piece(record->content, *record->arena, here(), static_cast<Piece>(mode), buffer, size, out_count, ctx);
 }
 
 int32_t kovra_asn1_octetstring_getobject(kovra_asn1_value *string, uint32_t type, kovra_asn1_value **out_value,
@@ -303,36 +268,14 @@ int32_t kovra_asn1_octetstring_getobject(kovra_asn1_value *string, uint32_t type
 int32_t kovra_asn1_decode_octetstring_ex(kovra_stream *stream, kovra_stream *content_stream,
                                          kovra_asn1_value **out_string, int32_t *out_read,
                                          kovra_err_ctx *ctx) noexcept {
-    if (out_string != nullptr)
-        *out_string = nullptr;
-    if (stream == nullptr || content_stream == nullptr || out_string == nullptr)
-        return refuse(ctx, code::null_argument);
-    StreamSource source(stream, ctx);
-    Identifier identifier;
-    int32_t length = 0;
-    Result result = read_segment(source, here(), tag::octet_string, identifier, length);
-    if (result == success && identifier.is_end_of_contents())
-        result = refuse(ctx, code::decode_octet_string);
-    if (result == success)
-        result = decode_into(source, content_stream, {identifier.form, length}, out_string, ctx);
-    if (result == success && out_read != nullptr)
-        *out_read = static_cast<int32_t>(source.position());
-    return result;
+    return decode_to_stream<String>(stream, content_stream, here(), nullptr, out_string, out_read, ctx);
 }
 
 int32_t kovra_asn1_decode_octetstring_content_ex(kovra_stream *stream, kovra_stream *content_stream,
                                                  kovra_asn1_value **out_string, int32_t form, int32_t length,
                                                  int32_t *out_read, kovra_err_ctx *ctx) noexcept {
-    if (out_string != nullptr)
-        *out_string = nullptr;
-    if (stream == nullptr || content_stream == nullptr || out_string == nullptr)
-        return refuse(ctx, code::null_argument);
-    StreamSource source(stream, ctx);
     const Element element{form == 0 ? Form::constructed : Form::primitive, length};
-    const Result result = decode_into(source, content_stream, element, out_string, ctx);
-    if (result == success && out_read != nullptr)
-        *out_read = static_cast<int32_t>(source.position());
-    return result;
+    return decode_to_stream<String>(stream, content_stream, here(), &element, out_string, out_read, ctx);
 }
 
 int32_t kovra_asn1_encode_octetstring_init(kovra_stream *stream) noexcept {

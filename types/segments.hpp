@@ -3,11 +3,14 @@
 #pragma once
 
 #include <cstdint>
+#include <type_traits>
 
 #include "base/stack.hpp"
 #include "base/thresholds.hpp"
 #include "core/codes.hpp"
+#include "core/content.hpp"
 #include "core/decoder.hpp"
+#include "core/encoder.hpp"
 #include "core/failure.hpp"
 #include "core/octets.hpp"
 
@@ -176,5 +179,79 @@ private:
 // Decodes the content of a string into a record's content: a slice of the octets, or the segments put together.
 template <bool of_bits>
 Result decode_segments(Decoder &decoder, Site site, const Element &element, Content &out, uint32_t &unused_bits);
+
+// A string whose length cannot be told beforehand is written as segments.
+constexpr Form form_of(int32_t length) {
+    return length == indefinite ? Form::constructed : Form::primitive;
+}
+
+// Writes a whole OCTET STRING or BIT STRING of this content length. Identifier octets that cannot be written leave no
+// entry of their own.
+template <int32_t tag_number, auto encode_content>
+Result encode_string(Encoder &encoder, Site site, const Type &type, Value *value, int32_t length) {
+    if (length == unknown)
+        return encoder.fail(site, code::bad_length);
+    Result result = encoder.identifier(site, Class::universal, form_of(length), tag_number);
+    if (result != success)
+        return result;
+    if (result = encoder.length(site, length); result != success)
+        return encoder.fail(site, code::write_length, result);
+    return encode_content(encoder, type, value, length);
+}
+
+// Ends the segments of a content that was written to its end.
+inline Result end_segments(Encoder &encoder, Site site, const Content &content) {
+    if (content.stream != nullptr &&
+        kovra_stream_ctrl(content.stream, KOVRA_STREAM_ALL_CONSUMED, 0, nullptr) != success)
+        return encoder.fail(site, code::stream_control);
+    const Result result = encoder.end_of_contents(site);
+    return result == success ? success : encoder.fail(site, code::write_end_of_contents, result);
+}
+
+// Reads a string from a stream and appends its content octets to another, which the value then uses. With an element,
+// its identifier and length were read; else they are read here.
+template <class Record>
+Result decode_to_stream(kovra_stream *stream, kovra_stream *content_stream, Site site, const Element *element,
+                        kovra_asn1_value **out_string, int32_t *out_read, kovra_err_ctx *ctx) {
+    constexpr bool of_bits = std::is_same_v<Record, BitString>;
+    if (out_string != nullptr)
+        *out_string = nullptr;
+    const auto refuse = [&](int32_t code) {
+        report(ctx, site, code);
+        return failure;
+    };
+    if (stream == nullptr || content_stream == nullptr || out_string == nullptr)
+        return refuse(code::null_argument);
+    StreamSource source(stream, ctx);
+    Element own{};
+    if (element == nullptr) {
+        Identifier identifier;
+        const Result result =
+            read_segment(source, site, of_bits ? tag::bit_string : tag::octet_string, identifier, own.length);
+        if (result != success)
+            return result;
+        if (identifier.is_end_of_contents())
+            return refuse(of_bits ? code::decode_bit_string : code::decode_octet_string);
+        own.form = identifier.form;
+        element = &own;
+    }
+    auto *string = new_root<Record>();
+    if (string == nullptr)
+        return refuse(code::no_memory);
+    const auto copy = [&](uint32_t count) { return source.copy(site, count, content_stream); };
+    uint32_t unused_bits = 0;
+    const Result result = SegmentWalk<of_bits>::run(source, site, *element, copy, unused_bits);
+    if (result != success) {
+        Arena::destroy(string->arena);
+        return result;
+    }
+    if constexpr (of_bits)
+        string->unused_bits = unused_bits;
+    use_stream(string->content, *string->arena, content_stream);
+    *out_string = string;
+    if (out_read != nullptr)
+        *out_read = static_cast<int32_t>(source.position());
+    return success;
+}
 
 } // namespace kovra::asn1
