@@ -1,0 +1,22 @@
+# Completion of kovra-asn1 for fish. Written by tools/share/generate.cpp.
+complete -c kovra-asn1 -l help -d 'Print this help message and exit'
+complete -c kovra-asn1 -l help-all -d 'Print this help and that of every command'
+complete -c kovra-asn1 -l out -r -F -d 'Write to this file instead of standard output'
+complete -c kovra-asn1 -l color -x -a 'auto always never' -d 'auto, always or never; NO_COLOR in the environment turns auto off'
+complete -c kovra-asn1 -l quiet -d 'No headings, summary and progress bar, and only the first line of an error'
+complete -c kovra-asn1 -n __fish_use_subcommand -f -a dump -d 'Print the tree of any BER or DER: offset, header length, length, tag, value'
+complete -c kovra-asn1 -n '__fish_seen_subcommand_from dump' -l full -d 'Print long values whole'
+complete -c kovra-asn1 -n __fish_use_subcommand -f -a show -d 'Print certificates, messages, time stamps, keys and other structures in words'
+complete -c kovra-asn1 -n '__fish_seen_subcommand_from show' -l type -x -a '(kovra-asn1 types 2>/dev/null | string replace -r ".* " "")' -d 'Name or number of the type; recognised when not given'
+complete -c kovra-asn1 -n '__fish_seen_subcommand_from show' -l secrets -d 'Print private keys too, not only their sizes'
+complete -c kovra-asn1 -n '__fish_seen_subcommand_from show' -l full -d 'Print long values whole'
+complete -c kovra-asn1 -n __fish_use_subcommand -f -a json -d 'Print the JSON description of any BER or DER'
+complete -c kovra-asn1 -n '__fish_seen_subcommand_from json' -l indent -x -d 'Blanks a level; 0 prints on one line'
+complete -c kovra-asn1 -n '__fish_seen_subcommand_from json' -l compact -d 'Print on one line'
+complete -c kovra-asn1 -n __fish_use_subcommand -f -a der -d 'Write the octets of JSON descriptions'
+complete -c kovra-asn1 -n __fish_use_subcommand -f -a check -d 'Decode, encode again and compare: one line for each bad element, a summary at the end'
+complete -c kovra-asn1 -n '__fish_seen_subcommand_from check' -l type -x -a '(kovra-asn1 types 2>/dev/null | string replace -r ".* " "")' -d 'Name or number of the type; recognised when not given'
+complete -c kovra-asn1 -n __fish_use_subcommand -f -a types -d 'List the type identifiers with tag, form and name'
+complete -c kovra-asn1 -n '__fish_seen_subcommand_from types' -f
+complete -c kovra-asn1 -n __fish_use_subcommand -f -a version -d 'Print the version of the library'
+complete -c kovra-asn1 -n '__fish_seen_subcommand_from version' -f
