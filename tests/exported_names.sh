@@ -17,7 +17,8 @@ case $file in
         LC_ALL=C sort -u >"$work/exported"
     ;;
 *)
-    nm -D --defined-only "$file" | awk '$2 ~ /[TW]/ {print $3}' | grep -v -e '^_init$' -e '^_fini$' | grep -v '^_Z' |
+    # Absolute is the name of the version itself; without it no name is the library's.
+    nm -D --defined-only "$file" | awk '$2 != "A" {print $3}' | sed 's/@@KOVRA_1\.2$//; t; s/^/not of KOVRA_1.2: /' |
         LC_ALL=C sort -u >"$work/exported"
     ;;
 esac
