@@ -4,108 +4,67 @@
 namespace kovra::test {
 namespace {
 
-constexpr uint32_t classes[] = {KOVRA_ASN1_UNIVERSAL, KOVRA_ASN1_APPLICATION, KOVRA_ASN1_CONTEXT, KOVRA_ASN1_PRIVATE};
+// Numbers around those that one octet more is for, of so many bits an octet.
+std::vector<int32_t> edges_of(int bits) {
+    std::vector<int32_t> found = {0, 1, 30, 31, 32, 0x7FFFFFFE, 0x7FFFFFFF};
+    for (int shift = bits; shift < 31; shift += bits)
+        for (const int32_t more : {-1, 0})
+            found.push_back((1 << shift) + more);
+    return found;
+}
 
-struct Tag {
-    int32_t number;
-    const char *universal_primitive;
-};
-constexpr Tag tags[] = {{0, "00"},
-                        {1, "01"},
-                        {30, "1E"},
-                        {31, "1F 1F"},
-                        {32, "1F 20"},
-                        {127, "1F 7F"},
-                        {128, "1F 81 00"},
-                        {16383, "1F FF 7F"},
-                        {16384, "1F 81 80 00"},
-                        {2097151, "1F FF FF 7F"},
-                        {2097152, "1F 81 80 80 00"},
-                        {268435455, "1F FF FF FF 7F"},
-                        {268435456, "1F 81 80 80 80 00"},
-                        {2147483646, "1F 87 FF FF FF 7E"},
-                        {2147483647, "1F 87 FF FF FF 7F"}};
-
-struct Length {
-    int32_t length;
-    const char *octets;
-};
-constexpr Length lengths[] = {{0, "00"},
-                              {1, "01"},
-                              {127, "7F"},
-                              {128, "81 80"},
-                              {255, "81 FF"},
-                              {256, "82 01 00"},
-                              {65535, "82 FF FF"},
-                              {65536, "83 01 00 00"},
-                              {16777215, "83 FF FF FF"},
-                              {16777216, "84 01 00 00 00"},
-                              {2147483646, "84 7F FF FF FE"},
-                              {2147483647, "84 7F FF FF FF"},
-                              {-1, "80"}};
-
-struct Identifier {
-    int32_t result = 0;
-    uint32_t tag_class = 1;
-    int32_t form = 7;
-    int32_t tag = -7;
-    int32_t read = -7;
-    Codes codes;
-};
-
-Identifier decode_identifier(const Input &input) {
-    Identifier found;
-    Errors ctx(kovra_err_ctx_new());
-    found.result =
-        kovra_asn1_decode_identifier(input.stream(), &found.tag_class, &found.form, &found.tag, &found.read, ctx.get());
-    found.codes = ctx.get();
+// The digits of a number to the base of so many bits, the highest first.
+std::string digits(int32_t number, int bits) {
+    std::string found;
+    for (; number != 0 || found.empty(); number >>= bits)
+        found.insert(found.begin(), static_cast<char>(number & ((1 << bits) - 1)));
     return found;
 }
 
 TEST(Identifier, EveryClassFormAndTagIsWrittenInTheFewestOctetsAndReadBack) {
-    for (const Tag &tag : tags) {
-        for (uint32_t tag_class : classes) {
-            for (int32_t form : {0, 1}) {
-                std::string expected = octets(tag.universal_primitive);
-                expected[0] = static_cast<char>(static_cast<uint32_t>(expected[0]) | tag_class | (form ? 0u : 0x20u));
-                Encoded encoded = encode_with([&](auto *stream, auto *written, auto *ctx) {
-                    return kovra_asn1_encode_identifier(stream, tag_class, form, tag.number, written, ctx);
+    for (const int32_t tag : edges_of(7))
+        for (const uint32_t tag_class : {0x00U, 0x40U, 0x80U, 0xC0U})
+            for (const int32_t form : {0, 1, 2, -1}) { // any but 0 is primitive
+                std::string expected = tag < 31 ? "" : digits(tag, 7);
+                for (size_t i = 0; i + 1 < expected.size(); ++i)
+                    expected[i] = static_cast<char>(expected[i] | 0x80);
+                const uint32_t first = tag_class | (form == 0 ? 0x20U : 0U) | static_cast<uint32_t>(std::min(tag, 31));
+                expected.insert(expected.begin(), static_cast<char>(first));
+                const Encoded encoded = encode_with([=](auto *stream, auto *written, auto *ctx) {
+                    return kovra_asn1_encode_identifier(stream, tag_class, form, tag, written, ctx);
                 });
-                EXPECT_EQ(hex(encoded.octets), hex(expected)) << tag.number;
-                EXPECT_EQ(kovra_asn1_identifier_length(tag.number), size_of(expected));
-                for (Feed feed : {Feed::memory, Feed::trickle}) {
-                    Input input(expected + "x", feed);
-                    Identifier found = decode_identifier(input);
-                    EXPECT_EQ(found.result, 1);
-                    EXPECT_EQ(found.tag_class, tag_class);
-                    EXPECT_EQ(found.form, form);
-                    EXPECT_EQ(found.tag, tag.number);
-                    EXPECT_EQ(found.read, size_of(expected));
+                EXPECT_EQ(hex(encoded.octets), hex(expected)) << tag;
+                EXPECT_EQ(kovra_asn1_identifier_length(tag), size_of(expected));
+                for (const Feed feed : {Feed::memory, Feed::trickle}) {
+                    const Input input(expected + "x", feed);
+                    uint32_t found_class = 1;
+                    int32_t found_form = 7, found_tag = -7, read = -7;
+                    EXPECT_EQ(kovra_asn1_decode_identifier(input.stream(), &found_class, &found_form, &found_tag, &read,
+                                                           nullptr),
+                              1);
+                    EXPECT_EQ(std::tuple(found_class, found_form, found_tag, read),
+                              std::tuple(tag_class, form == 0 ? 0 : 1, tag, size_of(expected)));
                     EXPECT_EQ(input.consumed(), expected.size());
                 }
             }
-        }
-    }
-    for (int32_t form : {2, -1, 0x20}) // any form but 0 is primitive
-        EXPECT_EQ(encode_with([=](auto *stream, auto *written, auto *ctx) {
-                      return kovra_asn1_encode_identifier(stream, 0x80, form, 1, written, ctx);
-                  }).octets,
-                  octets("81"));
 }
 
 TEST(Length, EveryLengthIsWrittenInTheFewestOctetsAndReadBack) {
-    for (const Length &length : lengths) {
-        std::string expected = octets(length.octets);
-        Encoded encoded = encode_with([&](auto *stream, auto *written, auto *ctx) {
-            return kovra_asn1_encode_length(stream, length.length, written, ctx);
+    std::vector<int32_t> lengths = edges_of(8);
+    lengths.insert(lengths.end(), {-1, 127, 128});
+    for (const int32_t length : lengths) {
+        std::string expected = length < 0 ? "\x80" : digits(length, 8);
+        if (length > 127)
+            expected.insert(expected.begin(), static_cast<char>(0x80 + expected.size()));
+        const Encoded encoded = encode_with([=](auto *stream, auto *written, auto *ctx) {
+            return kovra_asn1_encode_length(stream, length, written, ctx);
         });
         EXPECT_EQ(hex(encoded.octets), hex(expected));
-        EXPECT_EQ(kovra_asn1_length_length(length.length), size_of(expected));
+        EXPECT_EQ(kovra_asn1_length_length(length), size_of(expected));
         int32_t found = -7, read = -7;
-        Input input(expected + "x");
+        const Input input(expected + "x");
         EXPECT_EQ(kovra_asn1_decode_length(input.stream(), &found, &read, nullptr), 1);
-        EXPECT_EQ(found, length.length);
-        EXPECT_EQ(read, size_of(expected));
+        EXPECT_EQ(std::pair(found, read), std::pair(length, size_of(expected)));
     }
 }
 

@@ -1,6 +1,4 @@
-// The tables in tests/data: what decoding gives, and what single functions give.
-#include <functional>
-#include <map>
+// The tables of encodings in tests/data: what decoding gives, and what is written.
 #include <set>
 
 #include "tests/notation.hpp"
@@ -68,167 +66,38 @@ TEST(Tables, Decodings) {
         EXPECT_TRUE(accepted.count(type) == 1 || decode(type, "").codes == Codes({0x1026d})) << type;
 }
 
-std::string text_of(const Codes &codes) {
-    std::ostringstream text;
-    for (int32_t code : codes)
-        text << ' ' << std::hex << code;
-    return text.str();
-}
-
-std::string content_of(const Value &integer) {
-    if (!integer)
+// A time as read: "2012-11-20 08:30:00", then nanoseconds where there are any, then "local" where it is.
+std::string moment_of(const Value &value) {
+    const Time time(kovra_asn1_time_getutctime(value.get()));
+    if (time == nullptr)
         return "-";
-    std::string data(static_cast<size_t>(kovra_asn1_integer_getlength(integer.get())), '\0');
-    EXPECT_EQ(kovra_asn1_integer_get(integer.get(), data.data()), 1);
-    Value copy(2, kovra_asn1_integer_newbigint(BigInteger(kovra_asn1_integer_getbigintger(integer.get())).get()));
-    EXPECT_EQ(kovra_asn1_integer_equals(copy.get(), integer.get()), 1);
-    return hex(data);
+    char text[80];
+    snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", kovra_time_getyear(time.get()),
+             kovra_time_getmonth(time.get()), kovra_time_getday(time.get()), kovra_time_gethour(time.get()),
+             kovra_time_getminute(time.get()), kovra_time_getsecond(time.get()));
+    const int32_t ns = kovra_time_getns(time.get());
+    return text + (ns != 0 ? " " + std::to_string(ns) : "") + (kovra_time_isutctime(time.get()) == 1 ? "" : " local");
 }
 
-std::string long_of(const Value &integer) {
-    int32_t number = -7;
-    bool done = kovra_asn1_integer_getlong(integer.get(), &number) == 1;
-    EXPECT_EQ(kovra_asn1_enum_getlong(integer.get(), &number), done);
-    return done ? std::to_string(number) : "-";
-}
-
-std::string oid_of(uint32_t type, kovra_asn1_value *handle) {
-    Value oid(type, handle);
-    return oid ? encoding(oid) + " " + kovra_asn1_oid_getstring(oid.get()) : "-";
-}
-
-// Splits "type octets", and tells what `get(octets, type, out, ctx)` makes of it, twice, since content is rewound.
-template <class Make, class... Get> std::string object_of(const std::string &in, Make make, Get... gets) {
-    size_t digits = in.find_first_not_of("0123456789");
-    auto type = static_cast<uint32_t>(std::stoul(in.substr(0, digits)));
-    std::string data = digits == in.npos ? "" : octets(in.substr(digits)), result;
-    auto ask = [&](auto get) {
-        Value holder = make(get, data);
-        for (int i = 0; i < 2; ++i) {
-            Errors ctx(kovra_err_ctx_new());
-            kovra_asn1_value *out = nullptr;
-            bool done = get(holder.get(), type, &out, ctx.get()) == 1;
-            EXPECT_TRUE(done || out == nullptr);
-            std::string found = (done ? encoding(Value(type, out)) : "-") + text_of(Codes(ctx.get()));
-            EXPECT_TRUE(result.empty() || found == result) << found;
-            result = found;
-        }
-    };
-    (ask(gets), ...);
-    return result;
-}
-
-std::string sources_of(const std::string &in) {
-    size_t digits = in.find_first_not_of("0123456789");
-    std::string results[2];
-    for (Feed feed : {Feed::memory, Feed::trickle}) {
-        Input input(digits == in.npos ? "" : octets(in.substr(digits)), feed);
-        Errors ctx(kovra_err_ctx_new());
-        kovra_asn1_value *out = nullptr;
-        EXPECT_EQ(kovra_asn1_decode(input.stream(), static_cast<uint32_t>(std::stoul(in)), &out, nullptr, ctx.get()),
-                  0);
-        std::string &sources = results[feed == Feed::trickle];
-        const char *source = "", *message = "";
-        for (int32_t i = 0, line = 0; kovra_err_ctx_getentry(ctx.get(), i, &source, &line, nullptr, &message) == 1;
-             ++i) {
-            sources += (i == 0 ? "" : " ") + std::string(source);
-            EXPECT_GT(line, 0);
-            EXPECT_STRNE(message, "");
-        }
-    }
-    EXPECT_EQ(results[0], results[1]);
-    return results[0];
-}
-
-TEST(Tables, Calls) {
-    auto as_any = [](auto, const std::string &data) { return decode(23, data).value; };
-    auto as_string = [](auto get, const std::string &data) {
-        return get == kovra_asn1_bitstring_getobject ? Value(3, kovra_asn1_bitstring_new(0, data.data(), size_of(data)))
-                                                     : Value(4, kovra_asn1_octetstring_new(data.data(), size_of(data)));
-    };
-    auto octets_decoded = [](const std::string &in, auto decoder) {
-        std::string results[2];
-        for (Feed feed : {Feed::memory, Feed::trickle}) {
-            Input input(octets(in), feed);
-            Errors ctx(kovra_err_ctx_new());
-            int32_t read = -7;
-            std::string found = decoder(input.stream(), &read, ctx.get());
-            EXPECT_EQ(read, found.empty() ? -7 : static_cast<int32_t>(input.consumed()));
-            results[feed == Feed::trickle] =
-                (found.empty() ? "-" + text_of(Codes(ctx.get())) : found) + " " + std::to_string(input.consumed());
-        }
-        EXPECT_EQ(results[0], results[1]);
-        return results[0];
-    };
-    auto unquoted = [](const std::string &text) { return text.substr(1, text.size() - 2); };
-    const std::map<std::string, std::function<std::string(const std::string &)>> calls = {
-        {"identifier",
-         [&](const std::string &in) {
-             return octets_decoded(in, [](auto *stream, auto *read, auto *ctx) -> std::string {
-                 uint32_t tag_class = 1;
-                 int32_t form = -7, tag = -7;
-                 if (kovra_asn1_decode_identifier(stream, &tag_class, &form, &tag, read, ctx) != 1)
-                     return "";
-                 return hex(std::string(1, static_cast<char>(tag_class))) + " " + std::to_string(form) + " " +
-                        std::to_string(tag);
-             });
-         }},
-        {"length",
-         [&](const std::string &in) {
-             return octets_decoded(in, [](auto *stream, auto *read, auto *ctx) -> std::string {
-                 int32_t length = -7;
-                 return kovra_asn1_decode_length(stream, &length, read, ctx) == 1 ? std::to_string(length) : "";
-             });
-         }},
-        {"integer_value",
-         [](const std::string &in) {
-             auto number = static_cast<int32_t>(std::stoll(in));
-             Value integer(2, kovra_asn1_integer_value(number)), enumerated(7, kovra_asn1_enum_value(number));
-             EXPECT_EQ(encoding(enumerated), "0A" + encoding(integer).substr(2));
-             return content_of(integer) + " " + long_of(integer);
-         }},
-        {"integer_new",
-         [](const std::string &in) {
-             return content_of(Value(2, kovra_asn1_integer_new(octets(in).data(), size_of(octets(in)))));
-         }},
-        {"unsigned_integer_new",
-         [](const std::string &in) {
-             return content_of(Value(2, kovra_asn1_unsigned_integer_new(octets(in).data(), size_of(octets(in)))));
-         }},
-        {"integer_getlong",
-         [](const std::string &in) { return long_of(decode_content(2, octets(in), 1, size_of(octets(in))).value); }},
-        {"oid_new", [&](const std::string &in) { return oid_of(6, kovra_asn1_oid_new(unquoted(in).c_str())); }},
-        {"relative_oid_new",
-         [&](const std::string &in) { return oid_of(90, kovra_asn1_relative_oid_new(unquoted(in).c_str())); }},
-        {"oid_getstring",
-         [](const std::string &in) -> std::string { return kovra_asn1_oid_getstring(decoded(6, in).get()); }},
-        {"bitstring_newbits",
-         [](const std::string &in) -> std::string {
-             std::vector<int32_t> positions;
-             std::istringstream numbers(in);
-             for (int32_t number; numbers >> number;)
-                 positions.push_back(number);
-             Value bits(3, kovra_asn1_bitstring_newbits(positions.data(), static_cast<int32_t>(positions.size())));
-             return bits ? encoding(bits) : "-";
-         }},
-        {"getobject",
-         [&](const std::string &in) {
-             return object_of(in, as_string, kovra_asn1_octetstring_getobject, kovra_asn1_bitstring_getobject);
-         }},
-        {"any_getobject", [&](const std::string &in) { return object_of(in, as_any, kovra_asn1_any_getobject); }},
-        {"any_contenttoobject",
-         [&](const std::string &in) { return object_of(in, as_any, kovra_asn1_any_contenttoobject); }},
-        {"sources", sources_of},
-        {"any_toobject", [&](const std::string &in) { return object_of(in, as_any, kovra_asn1_any_toobject); }},
-    };
-    for (const std::vector<std::string> &row : table("calls.txt")) {
-        auto call = calls.find(row[0]);
-        ASSERT_NE(call, calls.end()) << row[0];
+TEST(Tables, Times) {
+    for (const auto &row : table("times.txt"))
         for (size_t i = 1; i < row.size(); ++i) {
-            const auto [in, out] = sides_of(row[i]);
-            EXPECT_EQ(call->second(in), out) << row[0] << " of " << in;
+            const auto [text, moment] = sides_of(row[i]);
+            SCOPED_TRACE(text);
+            const bool is_utc = row[0] == "23", is_read = moment != "-";
+            const std::string data = std::string{is_utc ? '\x17' : '\x18', static_cast<char>(text.size())} + text;
+            const uint32_t type = is_utc ? 21 : 22, other = is_utc ? 22 : 21;
+            for (const uint32_t as : {type, 20u}) {
+                const Decoded found = decode(as, data);
+                EXPECT_EQ(moment_of(found.value), moment);
+                EXPECT_EQ(found.codes, is_read ? Codes() : Codes({0x102ec}));
+                EXPECT_EQ(encode(as, found.value.get()).octets, is_read ? data : "") << "kept as it was";
+                if (is_read) {
+                    EXPECT_EQ(encode(other, found.value.get()).codes, Codes({0x10208}));
+                }
+            }
+            EXPECT_EQ(decode(other, data).codes, is_read ? Codes({0x10208}) : Codes({0x102ec}));
         }
-    }
 }
 
 } // namespace

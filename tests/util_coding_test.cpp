@@ -94,20 +94,15 @@ TEST(UtilCoding, Base64Vectors) {
 }
 
 TEST(UtilCoding, Base64Refusals) {
-    const struct {
-        const char *why;
-        std::vector<const char *> texts;
-    } rows[] = {
-        {"padding is missing", {"Z", "Zg", "Zg=", "Zm8", "Zm9vZ", "Zm9vZg=", "Zm9vZm8"}},
-        {"too much or misplaced padding", {"=", "====", "Z===", "Zm9v=", "Zm9v====", "Zg===", "Zm8==", "Zg=a", "Z=g="}},
-        {"something follows", {"Zg==Zg==", "Zm8=Zm9v", "Zg==a"}},
-        {"idle bits are not 0", {"Zh==", "Zm9=", "Zv==", "Zm//Zg/="}},
-        {"not in the alphabet", {"Zm9\xC3", "Zm9-", "Zm9_", "Zm*v", "Zm9v!", "Zm9v\x7F"}},
-    };
-    for (const auto &row : rows)
-        for (const char *text : row.texts)
-            for (const int32_t mode : {KOVRA_BASE64_STRICT, KOVRA_BASE64_IGNORE_SPACE})
-                EXPECT_EQ(std::nullopt, from_base64(text, mode)) << row.why << ": " << text;
+    for (const char *text :
+         {"Z",        "Zg",       "Zg=",   "Zm8",      "Zm9vZ",    "Zm9vZg=", "Zm9vZm8", // padding is missing
+          "=",        "====",     "Z===",  "Zm9v=",    "Zm9v====", "Zg===",   "Zm8==",
+          "Zg=a",     "Z=g=",                                                   // too much or misplaced
+          "Zg==Zg==", "Zm8=Zm9v", "Zg==a",                                      // something follows
+          "Zh==",     "Zm9=",     "Zv==",  "Zm//Zg/=",                          // idle bits are not 0
+          "Zm9\xC3",  "Zm9-",     "Zm9_",  "Zm*v",     "Zm9v!",    "Zm9v\x7F"}) // not in the alphabet
+        for (const int32_t mode : {KOVRA_BASE64_STRICT, KOVRA_BASE64_IGNORE_SPACE})
+            EXPECT_EQ(std::nullopt, from_base64(text, mode)) << text;
     EXPECT_EQ(std::nullopt, from_base64(std::string("Zm9\0", 4), KOVRA_BASE64_IGNORE_SPACE));
     EXPECT_EQ(nullptr, kovra_base64decode(nullptr, 4, 1, nullptr));
     EXPECT_EQ(nullptr, kovra_base64decode("Zm9v", -4, 1, nullptr));
@@ -139,44 +134,6 @@ TEST(UtilCoding, PemText) {
         EXPECT_EQ("(null)", encoded(kovra_pemencode, "a", bad));
     EXPECT_EQ(nullptr, kovra_pemencode("a", 1, nullptr, nullptr));
 
-    const struct {
-        const char *what;
-        std::string text;
-        Result expected;
-    } rows[] = {
-        {"plain", "-----BEGIN T-----\nZm9v\n-----END T-----\n", "foo"},
-        {"no final newline", "-----BEGIN T-----\nZm9v\n-----END T-----", "foo"},
-        {"CR LF", "-----BEGIN T-----\r\nZm9v\r\nYmFy\r\n-----END T-----\r\n", "foobar"},
-        {"blanks at line ends", "-----BEGIN T----- \t\nZm9v \n-----END T-----  ", "foo"},
-        {"empty", "-----BEGIN T-----\n-----END T-----\n", ""},
-        {"blank lines", "-----BEGIN T-----\n\n\nZm9v\n\n-----END T-----\n", "foo"},
-        {"text around", "subject: -----BEGIN T-----\n----\nBEGIN\n-----BEGIN T-----\nZm9v\n-----END T-----\nmore",
-         "foo"},
-        {"byte order mark", "\xEF\xBB\xBF-----BEGIN T-----\nZm9v\n-----END T-----\n", "foo"},
-        {"headers", "-----BEGIN T-----\nProc-Type: 4,ENCRYPTED\nDEK-Info: AES,\n 00FF\n\tAB\n\nZm9v\n-----END T-----\n",
-         "foo"},
-        {"headers, CR LF", "-----BEGIN T-----\r\nA: b\r\n\r\nZm9v\r\n-----END T-----\r\n", "foo"},
-        {"headers, no blank line", "-----BEGIN T-----\nA: b\nZm9v\n-----END T-----\n", "foo"},
-        {"headers only", "-----BEGIN T-----\nA: b\n\n-----END T-----\n", ""},
-        {"header after the body began", "-----BEGIN T-----\nZm9v\nA: b\n-----END T-----\n", std::nullopt},
-        {"first of two", "-----BEGIN T-----\nZm9v\n-----END T-----\n-----BEGIN T-----\nYmFy\n-----END T-----\n", "foo"},
-        {"after others",
-         "-----BEGIN TT-----\n*\n-----END TT-----\n-----BEGIN t-----\nYmFy\n-----END t-----\n"
-         "-----BEGIN T-----\nZm9v\n-----END T-----\n",
-         "foo"},
-        {"after an unfinished other", "-----BEGIN U-----\nYmFy\n-----BEGIN T-----\nZm9v\n-----END T-----\n", "foo"},
-        {"unfinished, then good", "-----BEGIN T-----\nYmFy\n-----BEGIN T-----\nZm9v\n-----END T-----\n", std::nullopt},
-        {"no end", "-----BEGIN T-----\nZm9v\n", std::nullopt},
-        {"end of another", "-----BEGIN T-----\nZm9v\n-----END U-----\n-----END T-----\n", std::nullopt},
-        {"end not at a line start", "-----BEGIN T-----\nZm9v-----END T-----\n", std::nullopt},
-        {"begin not at a line start", " -----BEGIN T-----\nZm9v\n-----END T-----\n", std::nullopt},
-        {"bad base64", "-----BEGIN T-----\nZm9\n-----END T-----\n", std::nullopt},
-        {"four dashes", "-----BEGIN T----\nZm9v\n-----END T----\n", std::nullopt},
-        {"only overlapping dashes", "-----BEGIN -----END -----", std::nullopt},
-        {"nothing", "", std::nullopt},
-    };
-    for (const auto &row : rows)
-        EXPECT_EQ(row.expected, from_pem(row.text, "T")) << row.what;
     EXPECT_EQ(nullptr, kovra_pemdecode(nullptr, 0, "T", nullptr));
     EXPECT_EQ(nullptr, kovra_pemdecode("", -1, "T", nullptr));
     EXPECT_EQ(nullptr, kovra_pemdecode("", 0, nullptr, nullptr));
@@ -209,10 +166,17 @@ TEST(UtilCoding, PemBlocksOneByOne) {
     }
     EXPECT_EQ(size_of(text), position);
 
-    void *data = nullptr;
-    int32_t length = 0;
-    for (int64_t outside : {int64_t{-1}, int64_t{size_of(text)} + 1})
-        EXPECT_EQ(0, kovra_pemnext(text.data(), size_of(text), &outside, nullptr, nullptr, &data, &length));
+    // What is asked for without a place, or outside, finds nothing, and the places say so.
+    char mark = 0;
+    for (int64_t at : {int64_t{-1}, int64_t{size_of(text)} + 1, int64_t{size_of(text)}}) {
+        void *data = &mark;
+        int32_t length = 7, label_length = 7;
+        const char *label = "label";
+        EXPECT_EQ(0, kovra_pemnext(text.data(), size_of(text), &at, &label, &label_length, &data, &length));
+        EXPECT_EQ(std::tuple(nullptr, 0, nullptr, 0), std::tuple(data, length, label, label_length));
+    }
+    position = 0;
+    EXPECT_EQ(0, kovra_pemnext(text.data(), size_of(text), &position, nullptr, nullptr, nullptr, nullptr));
 }
 
 // Would take hours if each block were searched for its end anew.
