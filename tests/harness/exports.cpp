@@ -1,5 +1,6 @@
 #include "tests/harness/exports.hpp"
 
+#include <cstring>
 #include <type_traits>
 #include <utility>
 
@@ -84,6 +85,10 @@ template <class T> Word packed(T result) {
     return word;
 }
 
+template <auto release> void released_by(void *handle) {
+    [handle]<class T>(void (*releaser)(T *) noexcept) { releaser(static_cast<T *>(handle)); }(release);
+}
+
 template <auto function> struct Row;
 template <class R, class... P, R (*function)(P...) noexcept> struct Row<function> {
     static constexpr Parameter parameters[] = {parameter<P>()..., {Form::nothing}};
@@ -103,29 +108,40 @@ template <class R, class... P, R (*function)(P...) noexcept> struct Row<function
 } // namespace
 
 void release(HandleKind kind, void *handle, uint32_t type) {
-    switch (kind) {
-    case HandleKind::value:
-        return kovra_asn1_value_free(type, static_cast<kovra_asn1_value *>(handle));
-    case HandleKind::bitset:
-        return kovra_bitset_free(static_cast<kovra_bitset *>(handle));
-    case HandleKind::biginteger:
-        return kovra_biginteger_free(static_cast<kovra_biginteger *>(handle));
-    case HandleKind::blob:
-        return kovra_data_blob_free(static_cast<kovra_data_blob *>(handle));
-    case HandleKind::context:
-        return kovra_err_ctx_free(static_cast<kovra_err_ctx *>(handle));
-    case HandleKind::json:
-        return kovra_json_free(static_cast<kovra_json *>(handle));
-    case HandleKind::stream:
-        return kovra_stream_free(static_cast<kovra_stream *>(handle));
-    case HandleKind::time:
-        return kovra_time_free(static_cast<kovra_time *>(handle));
-    case HandleKind::text:
-        return kovra_ustring_free(static_cast<kovra_ustring *>(handle));
-    case HandleKind::any_context:
-        return kovra_asn1_decode_any_ctx_free(static_cast<kovra_asn1_decode_any_ctx *>(handle));
-    case HandleKind::string_context:
-        return kovra_asn1_decode_octetstring_ctx_free(static_cast<kovra_asn1_decode_octetstring_ctx *>(handle));
+    // In the order of the kinds, behind values.
+    static constexpr void (*all[])(void *) = {released_by<kovra_bitset_free>,
+                                              released_by<kovra_biginteger_free>,
+                                              released_by<kovra_data_blob_free>,
+                                              released_by<kovra_err_ctx_free>,
+                                              released_by<kovra_json_free>,
+                                              released_by<kovra_stream_free>,
+                                              released_by<kovra_time_free>,
+                                              released_by<kovra_ustring_free>,
+                                              released_by<kovra_asn1_decode_any_ctx_free>,
+                                              released_by<kovra_asn1_decode_octetstring_ctx_free>};
+    if (kind == HandleKind::value)
+        kovra_asn1_value_free(type, static_cast<kovra_asn1_value *>(handle));
+    else
+        all[static_cast<size_t>(kind) - 1](handle);
+}
+
+void release_given(const Export &row, const Word *arguments, const Word &result) {
+    const auto release_one = [](const Parameter &parameter, void *given, bool is_handle, bool is_memory) {
+        if (is_handle)
+            release(parameter.kind, given, KOVRA_ASN1_TYPE_ANY);
+        else if (is_memory)
+            kovra_free(given);
+    };
+    const Form form = row.result.form;
+    release_one(row.result, result.pointer, form == Form::handle, form == Form::new_text || form == Form::room);
+    for (size_t i = 0; i < row.parameters.size(); ++i) {
+        const Parameter &parameter = row.parameters[i];
+        const bool is_handle = parameter.form == Form::place_of_handle;
+        if (is_handle || parameter.form == Form::place_of_memory) {
+            void *stored = nullptr;
+            std::memcpy(&stored, arguments[i].pointer, sizeof stored);
+            release_one(parameter, stored, is_handle, !is_handle);
+        }
     }
 }
 

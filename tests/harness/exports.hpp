@@ -65,6 +65,9 @@ struct Export {
     Word (*call)(const Word *arguments); // a word for each parameter
 };
 
+// Releases what a call gave back and what it put into the places among its arguments; what is borrowed stays.
+void release_given(const Export &row, const Word *arguments, const Word &result);
+
 // In the order of the list.
 std::span<const Export> exports();
 
