@@ -2,7 +2,6 @@
 #pragma once
 
 #include <filesystem>
-#include <map>
 
 #include "tests/notation.hpp"
 
@@ -81,19 +80,6 @@ inline Value load(const Kind &kind, const std::string &data, Codes *codes = null
     if (codes != nullptr)
         *codes = ctx.get();
     return value;
-}
-
-inline uint32_t type_of_extension(const std::string &oid) {
-    static const std::map<std::string, uint32_t> types = {
-        {"2.5.29.9", 75},           {"2.5.29.14", 4},  {"2.5.29.15", 3},          {"2.5.29.16", 67},
-        {"2.5.29.17", 64},          {"2.5.29.18", 64}, {"2.5.29.19", 76},         {"2.5.29.20", 2},
-        {"2.5.29.21", 7},           {"2.5.29.24", 22}, {"2.5.29.27", 2},          {"2.5.29.28", 88},
-        {"2.5.29.29", 64},          {"2.5.29.30", 81}, {"2.5.29.31", 85},         {"2.5.29.32", 70},
-        {"2.5.29.33", 74},          {"2.5.29.35", 65}, {"2.5.29.36", 82},         {"2.5.29.37", 66},
-        {"2.5.29.46", 85},          {"2.5.29.54", 2},  {"1.3.6.1.5.5.7.1.1", 87}, {"1.3.6.1.5.5.7.1.11", 87},
-        {"1.3.6.1.5.5.7.1.24", 138}};
-    auto found = types.find(oid);
-    return found != types.end() ? found->second : 23;
 }
 
 } // namespace kovra::test

@@ -10,14 +10,11 @@ Value as_read(std::string_view hex) {
 }
 
 TEST(Integer, IsNotMadeOfNothing) {
-    for (int32_t length : {0, -1, INT32_MIN}) {
-        EXPECT_EQ(kovra_asn1_integer_new("x", length), nullptr);
-        EXPECT_EQ(kovra_asn1_unsigned_integer_new("x", length), nullptr);
+    for (const auto make : {kovra_asn1_integer_new, kovra_asn1_unsigned_integer_new}) {
+        for (const int32_t length : {0, -1, INT32_MIN})
+            EXPECT_EQ(make("x", length), nullptr);
+        EXPECT_EQ(make(nullptr, 1), nullptr);
     }
-    EXPECT_EQ(kovra_asn1_integer_new(nullptr, 1), nullptr);
-    EXPECT_EQ(kovra_asn1_unsigned_integer_new(nullptr, 1), nullptr);
-    EXPECT_EQ(kovra_asn1_integer_newbigint(nullptr), nullptr);
-    EXPECT_EQ(kovra_asn1_integer_getbigintger(nullptr), nullptr);
     EXPECT_EQ(kovra_asn1_integer_getlong(as_read("01").get(), nullptr), 0);
     EXPECT_EQ(kovra_asn1_integer_get(as_read("01").get(), nullptr), 0);
 }
@@ -33,19 +30,11 @@ TEST(Integer, OrderedByEncoding) {
             EXPECT_EQ(kovra_asn1_integer_encodecmp(values[i].get(), values[j].get()), (i > j) - (i < j));
             EXPECT_EQ(kovra_asn1_integer_equals(values[i].get(), values[j].get()), i == j);
         }
+        // Only integers are compared.
+        const Value string = decoded(4, "04 01 41");
+        EXPECT_EQ(kovra_asn1_integer_equals(values[i].get(), string.get()), 0);
+        EXPECT_EQ(kovra_asn1_integer_encodecmp(string.get(), values[i].get()), i == 0 ? 0 : -1);
     }
-}
-
-TEST(Integer, DecodesWhatBerHas) {
-    EXPECT_EQ(decode_content(2, octets("05"), 0, -1).codes, Codes({0x1026a})) << "form before length";
-    EXPECT_EQ(decode_content(2, octets("05"), 1, -2).codes, Codes({0x10203}));
-    Value five = decoded(2, "02 01 05");
-    EXPECT_EQ(encode_content(2, five.get(), 1).octets, "\x05");
-    for (int32_t length : {0, 2, -1, -2})
-        EXPECT_EQ(encode_content(2, five.get(), length).codes, Codes({0x10203}));
-    std::string large(70000, '\x55');
-    EXPECT_EQ(encode(2, Value(2, kovra_asn1_integer_new(large.data(), size_of(large))).get()).octets,
-              octets("02 83 01 11 70") + large);
 }
 
 } // namespace

@@ -55,31 +55,6 @@ TEST(UtilBigInteger, OrderIsThatOfTheValues) {
         }
 }
 
-// The decimal text of a hexadecimal one, eight digits at a time.
-std::string plain_decimal(const std::string &hex) {
-    constexpr uint64_t base = 1'000'000'000;
-    const bool is_negative = hex[0] == '-';
-    std::vector<uint32_t> digits;
-    for (size_t at = is_negative ? 1 : 0; at < hex.size();) {
-        const size_t count = (hex.size() - at - 1) % 8 + 1;
-        uint64_t carry = std::stoul(hex.substr(at, count), nullptr, 16);
-        for (uint32_t &digit : digits) {
-            carry += uint64_t{digit} << 4 * count;
-            digit = static_cast<uint32_t>(carry % base);
-            carry /= base;
-        }
-        for (; carry != 0; carry /= base)
-            digits.push_back(static_cast<uint32_t>(carry % base));
-        at += count;
-    }
-    std::string text = is_negative ? "-" : "";
-    for (size_t i = digits.size(); i > 0; --i) {
-        const std::string digit = std::to_string(digits[i - 1]);
-        text += (i == digits.size() ? "" : std::string(9 - digit.size(), '0')) + digit;
-    }
-    return text;
-}
-
 // Sizes around every change of method: plain, one level of halves, several, transforms; both carries and borrows all
 // the way.
 TEST(UtilBigInteger, LargeNumbersSurviveDecimalText) {
@@ -95,8 +70,6 @@ TEST(UtilBigInteger, LargeNumbersSurviveDecimalText) {
             const BigInteger number = number_of(octets);
             const std::string decimal = decimal_of(number);
             ASSERT_EQ(octets, octets_of(BigInteger(kovra_biginteger_newdecimal(decimal.c_str())))) << size;
-
-            ASSERT_TRUE(decimal == plain_decimal(hex_of(number))) << size;
         }
     }
     // Powers of ten have texts that are known.
@@ -147,13 +120,13 @@ TEST(UtilBitSet, EdgesAndRefusals) {
     }
     EXPECT_EQ(10, kovra_bitset_getsize(set.get()));
 
-    const BitSet none(kovra_bitset_new(0, nullptr, 0));
-    EXPECT_EQ("", text_of(Blob(kovra_bitset_getdata(none.get(), &unused)).get()));
+    EXPECT_EQ("", text_of(Blob(kovra_bitset_getdata(BitSet(kovra_bitset_new(0, nullptr, 0)).get(), &unused)).get()));
     EXPECT_EQ(0, unused);
     EXPECT_EQ(nullptr, kovra_bitset_new(1, "", 0));
-    EXPECT_EQ(nullptr, kovra_bitset_new(8, "a", 1));
-    EXPECT_EQ(nullptr, kovra_bitset_new(-1, "a", 1));
-    EXPECT_EQ(nullptr, kovra_bitset_new(0, nullptr, 1));
-    EXPECT_EQ(nullptr, kovra_bitset_new(0, "a", -1));
-    EXPECT_EQ(nullptr, kovra_bitset_new(0, "a", 1 << 28)) << "more bits than can be counted; not read";
+    for (const auto &[idle, data, size] : {std::tuple(8, "a", 1),
+                                           {-1, "a", 1},
+                                           {0, static_cast<const char *>(nullptr), 1},
+                                           {0, "a", -1},
+                                           {0, "a", 1 << 28}}) // more bits than can be counted; not read
+        EXPECT_EQ(nullptr, kovra_bitset_new(idle, data, size));
 }

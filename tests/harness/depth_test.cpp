@@ -104,13 +104,19 @@ TEST(Depth, OfDescriptionsAndPieces) {
             EXPECT_EQ(json != nullptr, is_whole);
             EXPECT_EQ(Blob(kovra_asn1_encodejson(json.get())) != nullptr, is_whole);
             const AnyCtx pushed(kovra_asn1_decode_any_ctx_new());
+            const StringCtx string(kovra_asn1_decode_octetstring_ctx_new());
+            const bool is_string = nest.octets[0] == '\x24';
             constexpr size_t piece = 4093;
             for (size_t at = 0; at < nest.octets.size(); at += piece) {
                 const std::string rest = nest.octets.substr(at, piece);
                 int32_t left = 0;
                 ASSERT_EQ(kovra_asn1_decode_any_update(pushed.get(), rest.data(), size_of(rest), &left), 1);
                 ASSERT_EQ(left, 0);
+                ASSERT_EQ(
+                    kovra_asn1_decode_octetstring_update(string.get(), rest.data(), size_of(rest), nullptr, &left),
+                    is_string ? 1 : 0);
             }
+            EXPECT_EQ(kovra_asn1_decode_octetstring_ctx_isfinish(string.get()), is_string && is_whole ? 1 : 0);
             EXPECT_EQ(kovra_asn1_decode_any_isfinish(pushed.get()), is_whole ? 1 : 0);
         });
     }
