@@ -2,7 +2,7 @@
 # names in data/exported.txt.
 set(KOVRA_EXPORTS_LIST ${CMAKE_CURRENT_LIST_DIR}/../data/exported.txt)
 set(KOVRA_EXPORTS_SOURCE ${CMAKE_CURRENT_LIST_DIR}/exports.cpp)
-set(KOVRA_EXPORTS_ROWS ${CMAKE_BINARY_DIR}/exports)
+set(KOVRA_EXPORTS_ROWS ${PROJECT_BINARY_DIR}/exports)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${KOVRA_EXPORTS_LIST})
 file(STRINGS ${KOVRA_EXPORTS_LIST} names REGEX "^kovra_")
 list(TRANSFORM names REPLACE "^.* (kovra_[A-Za-z0-9_]+)$" "    Row<\\1>::named(\"\\1\"),\n")
