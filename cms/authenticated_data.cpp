@@ -1,7 +1,7 @@
 // AuthenticatedData (RFC 5652, 9.1).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 

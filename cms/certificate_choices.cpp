@@ -1,8 +1,8 @@
 // CertificateChoices, CertificateSet and OtherCertificateFormat (RFC 5652, 10.2.2, 10.2.3, 10.2.5).
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 

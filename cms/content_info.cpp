@@ -1,7 +1,7 @@
 // ContentInfo (RFC 5652, 3; PKCS #7, RFC 2315): any content under the name of its type.
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_pkcs7.h"
 #include "kovra/asn1_types.h"
 

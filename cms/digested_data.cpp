@@ -1,7 +1,7 @@
 // DigestedData (RFC 5652, 7; PKCS #7, RFC 2315, 12).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_pkcs7.h"
 #include "kovra/asn1_types.h"
 

@@ -1,7 +1,7 @@
 // EnvelopedData and OriginatorInfo (RFC 5652, 6.1).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 

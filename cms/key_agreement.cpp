@@ -1,8 +1,8 @@
 // KeyAgreeRecipientInfo and its parts (RFC 5652, 6.2.2, 10.2.7).
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 

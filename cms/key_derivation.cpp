@@ -1,7 +1,7 @@
 // KeySpecificInfo and OtherInfo: what Diffie-Hellman key agreement derives keys from (RFC 2631, 2.1.2).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 

@@ -1,8 +1,8 @@
 // RecipientInfo and its kinds (RFC 5652, 6.2), but for key agreement.
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 

@@ -1,8 +1,8 @@
 // RevocationInfoChoice, RevocationInfoChoices and OtherRevocationInfoFormat (RFC 5652, 10.2.1).
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 

@@ -1,9 +1,9 @@
 // SignedData (RFC 5652, 5.1; PKCS #7, RFC 2315, 9.1).
 
 #include "core/any.hpp"
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_pkcs7.h"
 #include "kovra/asn1_types.h"
 

@@ -1,7 +1,7 @@
 // Who signed, or whom a key is encrypted for: IssuerAndSerialNumber and SignerIdentifier (RFC 5652, 10.2.4, 5.3).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_types.h"
 

@@ -7,7 +7,6 @@
 #include "base/sizes.hpp"
 #include "core/codec.hpp"
 #include "core/content.hpp"
-#include "core/descriptors.hpp"
 #include "core/registry.hpp"
 #include "kovra/asn1_any.h"
 #include "kovra/asn1_types.h"

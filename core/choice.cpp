@@ -1,6 +1,6 @@
 #include "core/choice.hpp"
 
-#include "core/descriptors.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {

@@ -5,7 +5,6 @@
 
 #include "core/any.hpp"
 #include "core/codec.hpp"
-#include "core/descriptors.hpp"
 #include "core/registry.hpp"
 #include "kovra/asn1_codec.h"
 #include "kovra/asn1_list.h"

@@ -1,15 +1,227 @@
-// The registry: a row for each type identifier. Tables refer to the rows while they are compiled.
+// The registry: a row for each type identifier, and declarations of what the rows name: the operations of the leaves,
+// and the tables that stand in the rooms of their subjects, where a table refers to rows while it is compiled.
 #pragma once
 
 #include <iterator>
 
-#include "core/descriptors.hpp"
 #include "core/type.hpp"
 #include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {
 
 inline constexpr uint32_t type_count = KOVRA_ASN1_TYPE_COUNT;
+
+struct StructureShape;
+struct ListShape;
+struct ChoiceShape;
+struct StringChoiceShape;
+
+extern const Operations end_of_contents_operations;
+extern const Operations boolean_operations;
+extern const Operations null_operations;
+extern const Operations any_operations;
+extern const Operations any_list_operations;
+extern const Operations list_operations;
+extern const Operations structure_operations;
+extern const Operations kept_structure_operations;
+extern const Operations integer_operations;
+extern const Operations bit_string_operations;
+extern const Operations octet_string_operations;
+extern const Operations untagged_string_operations;
+extern const Operations character_string_operations;
+extern const Operations object_identifier_operations;
+extern const Operations any_time_operations;
+extern const Operations time_operations;
+extern const Operations choice_operations;
+extern const Operations string_choice_operations;
+
+extern const ListShape list_of_any;
+extern const ListShape list_of_any_1;
+
+// keys/
+extern const StructureShape cert_bag;
+extern const StructureShape cert_with_attributes;
+extern const StructureShape crl_bag;
+extern const StructureShape dh_parameter;
+extern const StructureShape digest_info;
+extern const StructureShape dss_parms;
+extern const StructureShape dss_sig_value;
+extern const StructureShape ec_private_key;
+extern const StructureShape ecdsa_sig_value;
+extern const StructureShape encrypted_private_key_info;
+extern const StructureShape enveloped_key_pair;
+extern const StructureShape mac_data;
+extern const StructureShape other_prime_info;
+extern const StructureShape pbe_parameter;
+extern const StructureShape pbes2_params;
+extern const StructureShape pbkdf2_params;
+extern const StructureShape pbmac1_params;
+extern const StructureShape pfx;
+extern const StructureShape pkcs12_pbe_params;
+extern const StructureShape private_key_attribute;
+extern const StructureShape private_key_info;
+extern const StructureShape rc2_cbc_parameter;
+extern const StructureShape rc5_cbc_parameters;
+extern const StructureShape rsa_enveloped_key_pair;
+extern const StructureShape rsa_private_key;
+extern const StructureShape rsa_public_key;
+extern const StructureShape rsaes_oaep_params;
+extern const StructureShape rsassa_pss_params;
+extern const StructureShape safe_bag;
+extern const StructureShape secret_bag;
+extern const StructureShape sm2_cipher;
+extern const StructureShape sm2_enveloped_key;
+extern const StructureShape store_attribute;
+extern const ListShape authenticated_safe;
+extern const ListShape cert_store;
+extern const ListShape old_cert_thumbprints;
+extern const ListShape other_prime_infos;
+extern const ListShape safe_contents;
+extern const ListShape store_attribute_list;
+extern const ChoiceShape ecpk_parameters;
+extern const ChoiceShape inner_enveloped_key_pair;
+extern const ChoiceShape pbkdf2_salt;
+extern const ChoiceShape store_key_id;
+
+// pkix/
+extern const StructureShape aa_issuing_distribution_point;
+extern const StructureShape access_description;
+extern const StructureShape algorithm_identifier;
+extern const StructureShape attribute;
+extern const StructureShape attribute_type_and_distinguished_value;
+extern const StructureShape attribute_type_and_value;
+extern const StructureShape attribute_values_with_context_item;
+extern const StructureShape authority_key_identifier;
+extern const StructureShape basic_constraints;
+extern const StructureShape certificate;
+extern const StructureShape certificate_list;
+extern const StructureShape certificate_pair;
+extern const StructureShape certification_request;
+extern const StructureShape certification_request_info;
+extern const StructureShape distribution_point;
+extern const StructureShape dn_values_with_context_item;
+extern const StructureShape edi_party_name;
+extern const StructureShape extension;
+extern const StructureShape general_subtree;
+extern const StructureShape instance_of;
+extern const StructureShape issuing_distribution_point;
+extern const StructureShape name_and_optional_uid;
+extern const StructureShape name_constraints;
+extern const StructureShape name_forms;
+extern const StructureShape notice_reference;
+extern const StructureShape pkcs10_attribute;
+extern const StructureShape pkix_name_constraints;
+extern const StructureShape policy_constraints;
+extern const StructureShape policy_information;
+extern const StructureShape policy_mapping;
+extern const StructureShape policy_qualifier_info;
+extern const StructureShape private_key_usage_period;
+extern const StructureShape revoked_certificate;
+extern const StructureShape subject_public_key_info;
+extern const StructureShape tbs_cert_list;
+extern const StructureShape tbs_certificate;
+extern const StructureShape telex_number;
+extern const StructureShape user_notice;
+extern const StructureShape uuid_pair;
+extern const StructureShape validity;
+extern const StructureShape x500_context;
+extern const StructureShape x500_name;
+extern const ListShape attribute_values_with_context;
+extern const ListShape certificate_policies;
+extern const ListShape context_list;
+extern const ListShape crl_distribution_points;
+extern const ListShape dn_values_with_context;
+extern const ListShape ext_key_usage;
+extern const ListShape extensions;
+extern const ListShape general_names;
+extern const ListShape general_subtrees;
+extern const ListShape information_access;
+extern const ListShape notice_numbers;
+extern const ListShape pkcs10_attributes;
+extern const ListShape policy_mappings;
+extern const ListShape policy_qualifiers;
+extern const ListShape postal_address;
+extern const ListShape relative_distinguished_name;
+extern const ListShape revoked_certificates;
+extern const ListShape smime_capabilities;
+extern const ListShape subject_directory_attributes;
+extern const ChoiceShape distribution_point_name;
+extern const ChoiceShape general_name;
+extern const StringChoiceShape directory_string;
+extern const StringChoiceShape display_text;
+extern const StringChoiceShape pkcs9_string;
+
+// cms/
+extern const StructureShape authenticated_data;
+extern const StructureShape cms_signed_data;
+extern const StructureShape content_info;
+extern const StructureShape dh_other_info;
+extern const StructureShape digested_data;
+extern const StructureShape encapsulated_content_info;
+extern const StructureShape encrypted_content_info;
+extern const StructureShape encrypted_data;
+extern const StructureShape enveloped_data;
+extern const StructureShape issuer_and_serial_number;
+extern const StructureShape kek_recipient_info;
+extern const StructureShape key_agree_recipient_info;
+extern const StructureShape key_specific_info;
+extern const StructureShape key_trans_recipient_info;
+extern const StructureShape originator_info;
+extern const StructureShape other_certificate_format;
+extern const StructureShape other_revocation_info_format;
+extern const StructureShape other_key_attribute;
+extern const StructureShape other_recipient_info;
+extern const StructureShape password_recipient_info;
+extern const StructureShape pkcs7_signed_data;
+extern const StructureShape recipient_encrypted_key;
+extern const StructureShape recipient_key_identifier;
+extern const StructureShape signer_info;
+extern const ListShape certificate_set;
+extern const ListShape digest_algorithms;
+extern const ListShape recipient_encrypted_keys;
+extern const ListShape recipient_infos;
+extern const ListShape revocation_info_choices;
+extern const ListShape signer_infos;
+extern const ChoiceShape certificate_choices;
+extern const ChoiceShape key_agree_recipient_identifier;
+extern const ChoiceShape originator_identifier_or_key;
+extern const ChoiceShape recipient_info;
+extern const ChoiceShape revocation_info_choice;
+extern const ChoiceShape signer_identifier;
+
+// services/
+extern const StructureShape ess_cert_id;
+extern const StructureShape ess_cert_id_v2;
+extern const StructureShape issuer_serial;
+extern const StructureShape message_imprint;
+extern const StructureShape ocsp_basic_response;
+extern const StructureShape ocsp_cert_id;
+extern const StructureShape ocsp_crl_id;
+extern const StructureShape ocsp_preferred_signature_algorithms;
+extern const StructureShape ocsp_request;
+extern const StructureShape ocsp_response;
+extern const StructureShape ocsp_response_bytes;
+extern const StructureShape ocsp_response_data;
+extern const StructureShape ocsp_revoked_info;
+extern const StructureShape ocsp_service_locator;
+extern const StructureShape ocsp_signature;
+extern const StructureShape ocsp_single_request;
+extern const StructureShape ocsp_single_response;
+extern const StructureShape ocsp_tbs_request;
+extern const StructureShape pki_status_info;
+extern const StructureShape signing_certificate;
+extern const StructureShape signing_certificate_v2;
+extern const StructureShape time_stamp_accuracy;
+extern const StructureShape time_stamp_req;
+extern const StructureShape time_stamp_resp;
+extern const StructureShape tst_info;
+extern const ListShape ess_cert_ids;
+extern const ListShape ess_cert_ids_v2;
+extern const ListShape ocsp_request_list;
+extern const ListShape ocsp_responses;
+extern const ListShape pki_free_text;
+extern const ChoiceShape ocsp_cert_status;
+extern const ChoiceShape ocsp_responder_id;
 
 namespace rows {
 

@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "core/any.hpp"
-#include "core/descriptors.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {

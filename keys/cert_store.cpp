@@ -1,8 +1,8 @@
 // The records of a certificate store: a format of this library.
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_any.h"
 #include "kovra/asn1_certstore.h"
 #include "kovra/asn1_types.h"

@@ -1,7 +1,7 @@
 // Diffie-Hellman parameters (PKCS #3).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_pkcs3.h"
 #include "kovra/asn1_types.h"
 

@@ -1,7 +1,7 @@
 // DigestInfo (PKCS #1, RFC 8017, A.2.4).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_pkcs1.h"
 #include "kovra/asn1_types.h"
 

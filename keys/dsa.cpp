@@ -1,7 +1,7 @@
 // Signatures of DSA and ECDSA, parameters of DSA (RFC 3279, 2.2 and 2.3.2).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_dss.h"
 #include "kovra/asn1_types.h"
 

@@ -1,7 +1,7 @@
 // Private keys of elliptic curves (RFC 5915).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_ecc.h"
 #include "kovra/asn1_types.h"
 

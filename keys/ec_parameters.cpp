@@ -1,7 +1,7 @@
 // The curve of a key (EcpkParameters, RFC 3279, 2.3.5).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_ecc.h"
 #include "kovra/asn1_types.h"
 

@@ -1,7 +1,7 @@
 // A key pair that an authority made, enveloped for the key that its owner signs with.
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_ecc.h"
 #include "kovra/asn1_types.h"
 

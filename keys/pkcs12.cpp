@@ -1,8 +1,8 @@
 // Personal information exchange: stores of keys and certificates (PKCS #12, RFC 7292).
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_any.h"
 #include "kovra/asn1_pkcs12.h"
 #include "kovra/asn1_types.h"

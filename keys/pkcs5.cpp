@@ -1,8 +1,8 @@
 // Parameters of password-based encryption and message authentication (PKCS #5, RFC 8018, A.2 to A.5).
 
 #include "core/content.hpp"
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_octetstring.h"
 #include "kovra/asn1_pkcs5.h"
 #include "kovra/asn1_types.h"

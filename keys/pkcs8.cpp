@@ -1,7 +1,7 @@
 // Private keys of any algorithm, plain and encrypted (PKCS #8, RFC 5958).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_pkcs8.h"
 #include "kovra/asn1_types.h"
 

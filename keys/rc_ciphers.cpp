@@ -1,7 +1,7 @@
 // Parameters of RC2 and RC5 in CBC mode (RFC 8018, B.2.3 and B.2.4).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_pkcs5.h"
 #include "kovra/asn1_types.h"
 

@@ -1,8 +1,8 @@
 // RSA keys (PKCS #1, RFC 8017, A.1).
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_integer.h"
 #include "kovra/asn1_pkcs1.h"
 #include "kovra/asn1_types.h"

@@ -1,8 +1,8 @@
 // Parameters of RSAES-OAEP and RSASSA-PSS (PKCS #1, RFC 8017, A.2). A component is its default when it is encoded as
 // the default is.
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_pkcs1.h"
 #include "kovra/asn1_types.h"
 

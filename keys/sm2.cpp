@@ -1,7 +1,7 @@
 // A ciphertext of SM2 and a key pair that is enveloped for an SM2 key (GM/T 0009).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_ecc.h"
 #include "kovra/asn1_types.h"
 

@@ -3,9 +3,9 @@
 #include "kovra/asn1_attribute.h"
 
 #include "core/content.hpp"
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_codec.h"
 #include "kovra/asn1_octetstring.h"
 #include "kovra/asn1_types.h"

@@ -1,7 +1,7 @@
 // Certificate and CertificatePair (RFC 5280, 4.1; X.509, 11.2).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_types.h"
 #include "kovra/asn1_x509.h"
 #include "pkix/signed.hpp"

@@ -1,9 +1,9 @@
 // Key identifiers and usages, basic constraints, name constraints and directory attributes (RFC 5280, 4.2.1;
 // X.509, 9.4).
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_boolean.h"
 #include "kovra/asn1_extension.h"
 #include "kovra/asn1_types.h"

@@ -1,8 +1,8 @@
 // CertificateList (RFC 5280, 5.1).
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_types.h"
 #include "kovra/asn1_x509.h"
 #include "pkix/signed.hpp"

@@ -1,8 +1,8 @@
 // Distribution points and access descriptions (RFC 5280, 4.2.1.13, 4.2.2.1, 5.2.5; X.509, 15.5).
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_boolean.h"
 #include "kovra/asn1_extension.h"
 #include "kovra/asn1_types.h"

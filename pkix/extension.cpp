@@ -2,9 +2,9 @@
 
 #include "kovra/asn1_extension.h"
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_codec.h"
 #include "kovra/asn1_octetstring.h"
 #include "kovra/asn1_types.h"

@@ -1,8 +1,8 @@
 // GeneralName (RFC 5280, 4.2.1.6) and its two alternatives that are structures.
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_any.h"
 #include "kovra/asn1_extension.h"
 #include "kovra/asn1_types.h"

@@ -2,9 +2,9 @@
 
 #include "kovra/asn1_pkcs10.h"
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_types.h"
 #include "kovra/asn1_x500name.h"
 #include "pkix/signed.hpp"

@@ -1,8 +1,8 @@
 // Certificate policies and their qualifiers, policy mappings and constraints (RFC 5280, 4.2.1.4, 4.2.1.5, 4.2.1.11).
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_extension.h"
 #include "kovra/asn1_types.h"
 #include "kovra/asn1_x509.h"

@@ -2,9 +2,9 @@
 
 #include "kovra/asn1_x500name.h"
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_any.h"
 #include "kovra/asn1_boolean.h"
 #include "kovra/asn1_types.h"

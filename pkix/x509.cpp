@@ -2,8 +2,8 @@
 
 #include "kovra/asn1_x509.h"
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_types.h"
 
 namespace kovra::asn1 {

@@ -1,7 +1,7 @@
 // CertID (RFC 6960, 4.1.1): which certificate a request asks about.
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_ocsp.h"
 #include "kovra/asn1_types.h"
 

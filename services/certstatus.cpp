@@ -1,7 +1,7 @@
 // CertStatus and RevokedInfo (RFC 6960, 4.2.1): what a responder says of a certificate.
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_ocsp.h"
 #include "kovra/asn1_types.h"
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstring>
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_tsp.h"
 #include "kovra/asn1_types.h"
 

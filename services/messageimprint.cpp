@@ -1,7 +1,7 @@
 // MessageImprint (RFC 3161, 2.4.1), which is a DigestInfo (RFC 8017, A.2.4) with error codes of its own.
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_tsp.h"
 #include "kovra/asn1_types.h"
 

@@ -1,7 +1,6 @@
 #include "services/ocspcerts.hpp"
 
 #include "core/codec.hpp"
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/registry.hpp"
 #include "kovra/asn1_types.h"

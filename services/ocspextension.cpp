@@ -1,7 +1,7 @@
 // Values of the extensions of OCSP (RFC 6960, 4.4).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_ocsp.h"
 #include "kovra/asn1_types.h"
 

@@ -1,8 +1,8 @@
 // OCSPRequest (RFC 6960, 4.1) and its parts.
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_ocsp.h"
 #include "kovra/asn1_types.h"
 #include "services/ocspcerts.hpp"

@@ -1,7 +1,7 @@
 // OCSPResponse and BasicOCSPResponse (RFC 6960, 4.2).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_ocsp.h"
 #include "kovra/asn1_types.h"
 #include "pkix/signed.hpp"

@@ -1,7 +1,7 @@
 // ResponderID (RFC 6960, 4.2.1): who signed a response.
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_ocsp.h"
 #include "kovra/asn1_types.h"
 

@@ -1,8 +1,8 @@
 // ResponseData and SingleResponse (RFC 6960, 4.2.1): what the signature of a response covers.
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_ocsp.h"
 #include "kovra/asn1_types.h"
 

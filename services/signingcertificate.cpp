@@ -1,7 +1,7 @@
 // SigningCertificate and SigningCertificateV2 (RFC 2634, 5.4; RFC 5035, 3), the values of the signed attributes.
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_tsp.h"
 #include "kovra/asn1_types.h"
 

@@ -1,7 +1,7 @@
 // TimeStampReq (RFC 3161, 2.4.1).
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_tsp.h"
 #include "kovra/asn1_types.h"
 

@@ -1,8 +1,8 @@
 // TimeStampResp and its status (RFC 3161, 2.4.2).
 
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_tsp.h"
 #include "kovra/asn1_types.h"
 

@@ -1,7 +1,7 @@
 // TSTInfo and Accuracy (RFC 3161, 2.4.2): what a time-stamp token says.
 
-#include "core/descriptors.hpp"
 #include "core/part.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_tsp.h"
 #include "kovra/asn1_types.h"
 

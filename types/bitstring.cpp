@@ -7,7 +7,7 @@
 #include "base/thresholds.hpp"
 #include "core/codec.hpp"
 #include "core/content.hpp"
-#include "core/descriptors.hpp"
+#include "core/registry.hpp"
 #include "types/segments.hpp"
 
 namespace kovra::asn1 {

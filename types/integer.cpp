@@ -7,7 +7,7 @@
 
 #include "core/codec.hpp"
 #include "core/component.hpp"
-#include "core/descriptors.hpp"
+#include "core/registry.hpp"
 
 namespace kovra::asn1 {
 

@@ -5,7 +5,7 @@
 #include "base/thresholds.hpp"
 #include "core/codec.hpp"
 #include "core/content.hpp"
-#include "core/descriptors.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_types.h"
 #include "types/segments.hpp"
 

@@ -8,7 +8,7 @@
 #include "base/sizes.hpp"
 #include "core/codec.hpp"
 #include "core/content.hpp"
-#include "core/descriptors.hpp"
+#include "core/registry.hpp"
 #include "kovra/asn1_types.h"
 #include "types/segments.hpp"
 #include "types/time_text.hpp"

@@ -6,7 +6,7 @@
 #include <set>
 
 #include "core/choice.hpp"
-#include "core/descriptors.hpp"
+#include "core/registry.hpp"
 #include "core/structure.hpp"
 #include "tests/asn1_testing.hpp"
 #include "tests/harness/samples.hpp"

@@ -397,5 +397,43 @@ TEST(Nests, SomeAllocationsFail) {
     }
 }
 
+// Values that once were read beyond their memory, or could not be written.
+TEST(Nests, LongListsInLongLists) {
+    const struct {
+        uint32_t type;
+        std::vector<std::string> ways;
+        std::vector<Nest::Level> levels;
+    } rows[] = {
+        {KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES, {"", ".policyQualifiers"}, {{40, Place::all}, {40, Place::all}}},
+        {KOVRA_ASN1_TYPE_CERTIFICATE_POLICIES, {"", ".policyQualifiers"}, {{41, Place::last}, {1000, Place::all}}},
+        {KOVRA_ASN1_TYPE_CMS_SIGNED_DATA, {".signerInfos", ".signedAttrs"}, {{40, Place::all}, {40, Place::all}}},
+        {KOVRA_ASN1_TYPE_CMS_SIGNED_DATA, {".signerInfos", ".signedAttrs"}, {{40, Place::all}, {300, Place::all}}},
+        {KOVRA_ASN1_TYPE_CRL_DISTRIBUTION_POINTS,
+         {"", ".cRLIssuer", ".directoryName.rdnSequence"},
+         {{33, Place::last}, {34, Place::first}, {33, Place::all}}},
+        {KOVRA_ASN1_TYPE_CRL_DISTRIBUTION_POINTS,
+         {"", ".cRLIssuer", ".directoryName.rdnSequence"},
+         {{33, Place::last}, {35, Place::edge}, {33, Place::all}}},
+    };
+    Random random(4);
+    for (const auto &row : rows) {
+        Chain chain = {row.type, {}};
+        const core::Type *holder = &core::row(row.type);
+        for (const std::string &way : row.ways) {
+            const std::vector<HeldList> lists = lists_in(*holder);
+            const auto found =
+                std::find_if(lists.begin(), lists.end(), [&](const HeldList &list) { return list.name == way; });
+            ASSERT_NE(found, lists.end()) << way;
+            chain.lists.push_back(*found);
+            holder = &member_of(*found->list);
+        }
+        const Nest nest(chain, row.levels, false, SIZE_MAX);
+        SCOPED_TRACE(nest.name());
+        use(nest, nest.octets(), nest.octets(), random);
+        if (is_memory_watched())
+            fail_allocations(nest, random);
+    }
+}
+
 } // namespace
 } // namespace kovra::test

@@ -2,8 +2,8 @@
 #include <set>
 
 #include "core/choice.hpp"
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
+#include "core/registry.hpp"
 #include "core/structure.hpp"
 #include "tests/asn1_testing.hpp"
 #include "tests/failing_memory.hpp"

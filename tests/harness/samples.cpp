@@ -8,8 +8,8 @@
 
 #include "base/thresholds.hpp"
 #include "core/choice.hpp"
-#include "core/descriptors.hpp"
 #include "core/list.hpp"
+#include "core/registry.hpp"
 #include "core/structure.hpp"
 #include "kovra/asn1_types.h"
 #include "tests/asn1_testing.hpp"
