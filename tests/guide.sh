@@ -10,7 +10,7 @@ cd "$source/examples"
 count=0
 for page in "$source"/docs/guide/*.md; do
     name=$(basename "$page" .md)
-    [ "$name" != README ] || continue
+    grep -q '^```c$' "$page" || continue
     # The only program of a page, and the only run of it.
     sed -n '/^```c$/,/^```$/p' "$page" | sed '/^```/d' >"$work/$name.c"
     sed -n '/^```console$/,/^```$/p' "$page" | sed '/^```/d' >"$work/wanted"
