@@ -65,15 +65,17 @@ inline Result walk_element(Decoder &decoder, Extent &out) {
 // Makes a record the open-type value of an element whose content, with its end-of-contents, has so many octets.
 inline void fill_any(Any &any, Arena &arena, const Extent &extent, uint32_t content_octets) {
     const bool is_marker = extent.identifier.is_end_of_contents();
-    any = {{Kind::any, 0, &arena},
-           {nullptr, extent.start, is_marker ? 0 : extent.content - extent.start},
-           {{nullptr, extent.content, content_octets}, nullptr, 0},
-           extent.identifier.tag,
-           extent.length,
-           extent.identifier.tag_class,
-           extent.identifier.form,
-           is_marker,
-           nullptr};
+    any.kind = Kind::any;
+    any.measured = 0;
+    any.arena = &arena;
+    any.header = {nullptr, extent.start, is_marker ? 0 : extent.content - extent.start};
+    any.content = {{nullptr, extent.content, content_octets}, nullptr, 0};
+    any.tag = extent.identifier.tag;
+    any.length = extent.length;
+    any.tag_class = extent.identifier.tag_class;
+    any.form = extent.identifier.form;
+    any.end_of_contents = is_marker;
+    any.segments_of = nullptr;
 }
 
 // Gives an element whose content is noted to be in a stream that stream; false when memory is short.

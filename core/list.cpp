@@ -154,7 +154,16 @@ public:
         if (list == nullptr)
             return nullptr;
         auto **items = reinterpret_cast<Value **>(list + 1);
-        *list = {{Kind::list, 0, &arena}, items, nullptr, nullptr, &element, count_, count_, 0};
+        list->kind = Kind::list;
+        list->measured = 0;
+        list->arena = &arena;
+        list->items = items;
+        list->items_block = nullptr;
+        list->places = nullptr;
+        list->element = &element;
+        list->count = count_;
+        list->capacity = count_;
+        list->placed = 0;
         for (uint32_t i = 0; i < count_; ++i)
             items[i] = built_[i];
         return list;

@@ -2,12 +2,17 @@
 // receives a value looks at it before touching anything else.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
 #include "core/arena.hpp"
 #include "core/octets.hpp"
 #include "kovra/asn1_value.h"
+
+// What the handles of values point to, as callers see it. It has no members, so that a handle and its record have one
+// address.
+struct kovra_asn1_value {};
 
 namespace kovra::asn1 {
 
@@ -32,11 +37,12 @@ enum class Kind : uint32_t {
     structure,
 };
 
-struct Value {
+struct Value : kovra_asn1_value {
     Kind kind;
     int32_t measured; // content length found by the last measuring: what encoding that follows it at once relies on
     Arena *arena;
 };
+static_assert(offsetof(Value, kind) == 0);
 
 // Octets that a record refers to: in its arena's copy of the encoding, or elsewhere in memory that lives as long.
 struct Octets {

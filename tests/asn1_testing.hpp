@@ -102,7 +102,7 @@ inline void PrintTo(const Codes &codes, std::ostream *out) {
 // A place for a value that shows when it was not written.
 inline kovra_asn1_value *unwritten() {
     static char mark;
-    return &mark;
+    return reinterpret_cast<kovra_asn1_value *>(&mark);
 }
 
 // Octets in a buffer that ends where they end, as a stream: in memory, or through a callback that gives one octet at a

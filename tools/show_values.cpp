@@ -25,15 +25,15 @@ template <class T> std::string copied(T *value, int32_t (*measure)(const T *), i
 } // namespace
 
 std::string octets_of(kovra_asn1_value *string) {
-    return copied<void>(string, kovra_asn1_octetstring_getlength, kovra_asn1_octetstring_getall);
+    return copied<kovra_asn1_value>(string, kovra_asn1_octetstring_getlength, kovra_asn1_octetstring_getall);
 }
 
 std::string bits_of(kovra_asn1_value *bit_string) {
-    return copied<void>(bit_string, kovra_asn1_bitstring_getlength, kovra_asn1_bitstring_getall);
+    return copied<kovra_asn1_value>(bit_string, kovra_asn1_bitstring_getlength, kovra_asn1_bitstring_getall);
 }
 
 std::string integer_octets(const kovra_asn1_value *integer) {
-    return copied<const void>(integer, kovra_asn1_integer_getlength, kovra_asn1_integer_get);
+    return copied<const kovra_asn1_value>(integer, kovra_asn1_integer_getlength, kovra_asn1_integer_get);
 }
 
 std::string encoding_of(uint32_t type, const kovra_asn1_value *value) {

@@ -42,7 +42,7 @@
 
 KOVRA_C_BEGIN
 
-typedef void kovra_asn1_value;
+typedef struct kovra_asn1_value kovra_asn1_value;
 
 KOVRA_C_END
 

@@ -81,7 +81,7 @@ void make_of(const Export &row, Page &page, const std::string &text, int32_t fir
     }
     const Word result = row.call(words.data());
     if (row.result.is_handle(HandleKind::value) && result.pointer != nullptr)
-        read_everything(result.pointer);
+        read_everything(static_cast<Handle>(result.pointer));
     release_given(row, words.data(), result);
 }
 

@@ -4,12 +4,8 @@
 #include <type_traits>
 #include <utility>
 
-// Values get a type of their own here, so that signatures tell them from octets.
-#define KOVRA_ASN1_VALUE_H
-struct kovra_asn1_value;
-#include "kovra/util.h"
-// In front of the headers of the codec.
 #include "kovra/asn1.h"
+#include "kovra/util.h"
 
 namespace kovra::test {
 
@@ -32,6 +28,11 @@ template <> struct HandleOf<kovra_time> : IsHandle<HandleKind::time> {};
 template <> struct HandleOf<kovra_ustring> : IsHandle<HandleKind::text> {};
 template <> struct HandleOf<kovra_asn1_decode_any_ctx> : IsHandle<HandleKind::any_context> {};
 template <> struct HandleOf<kovra_asn1_decode_octetstring_ctx> : IsHandle<HandleKind::string_context> {};
+
+// Handles of one kind do not pass for those of another without a cast.
+static_assert(!std::is_convertible_v<void *, kovra_asn1_value *>);
+static_assert(!std::is_convertible_v<kovra_stream *, const kovra_asn1_value *>);
+static_assert(!std::is_convertible_v<kovra_err_ctx *, const kovra_asn1_value *>);
 
 template <class T> using Pointee = std::remove_const_t<std::remove_pointer_t<T>>;
 template <class T> constexpr bool points_to_handle = std::is_pointer_v<T> &&HandleOf<Pointee<T>>::exists;

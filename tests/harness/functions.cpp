@@ -102,7 +102,7 @@ int64_t Function::operator()(Call &call) const {
     if (row->result.form == Form::nothing || row->result.form == Form::integer)
         return row->result.form == Form::integer ? result.integer : 0;
     if (row->result.is_handle(HandleKind::value))
-        call.made[0] = result.pointer;
+        call.made[0] = static_cast<Handle>(result.pointer);
     else if (row->result.form == Form::handle)
         release(row->result.kind, result.pointer, 0);
     return result.pointer != nullptr ? 1 : 0;

@@ -47,7 +47,7 @@ public:
         const uint8_t *data = nullptr;
         int64_t length = 0;
         kovra_stream_peek(get<kovra_stream>(HandleKind::stream), &data, &length);
-        text << hex(encode(2, get(HandleKind::value)).octets) << ' '
+        text << hex(encode(2, get<kovra_asn1_value>(HandleKind::value)).octets) << ' '
              << kovra_bitset_getsize(get<kovra_bitset>(HandleKind::bitset)) << ' '
              << Memory<char>(kovra_biginteger_tohex(get<kovra_biginteger>(HandleKind::biginteger))).get() << ' '
              << text_of(get<kovra_data_blob>(HandleKind::blob)) << ' '
