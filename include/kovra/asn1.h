@@ -1,4 +1,6 @@
-/* kovra_asn1: encodes and decodes ASN.1 values in BER and DER. */
+/** @defgroup kovra_asn1 The codec
+ *
+ * kovra_asn1: encodes and decodes ASN.1 values in BER and DER. */
 #ifndef KOVRA_ASN1_H
 #define KOVRA_ASN1_H
 

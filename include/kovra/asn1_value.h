@@ -1,4 +1,7 @@
-/* Values, and the rules that all functions of kovra_asn1 share.
+/** @defgroup asn1_value Values, and the rules of all functions
+ * @ingroup kovra_asn1
+ *
+ * Values, and the rules that all functions of kovra_asn1 share.
  *
  * A value is an opaque record of one registered type (asn1_types.h), made by a constructor or a decoder. Where a
  * function says otherwise, that holds; where it is silent, the following does.
@@ -31,7 +34,8 @@
  *
  * Threads. There is no global mutable state. Any number of threads may work at once, each with its own streams, values
  * and error context; one value is for one thread at a time, reading included, since parts of it are made on first use.
- */
+ *
+ * @{ */
 #ifndef KOVRA_ASN1_VALUE_H
 #define KOVRA_ASN1_VALUE_H
 
@@ -42,8 +46,11 @@
 
 KOVRA_C_BEGIN
 
+/** A value of a registered type. */
 typedef struct kovra_asn1_value kovra_asn1_value;
 
 KOVRA_C_END
+
+/** @} */
 
 #endif

@@ -1,9 +1,16 @@
-/* How the functions of the two libraries are exported and imported. */
+/** @defgroup export Export
+ * @ingroup kovra_util
+ *
+ * How the functions of the two libraries are exported and imported. A program that is linked with the static libraries
+ * defines `KOVRA_STATIC`.
+ *
+ * @{ */
 #ifndef KOVRA_EXPORT_H
 #define KOVRA_EXPORT_H
 
 #include <stdint.h>
 
+/** @cond */
 #if defined(KOVRA_STATIC)
 #define KOVRA_EXPORTED
 #define KOVRA_IMPORTED
@@ -37,5 +44,8 @@
 #define KOVRA_C_BEGIN
 #define KOVRA_C_END
 #endif
+/** @endcond */
+
+/** @} */
 
 #endif

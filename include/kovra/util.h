@@ -1,4 +1,6 @@
-/* kovra_util, the companion library: streams, memory, errors, big integers, bit sets, Unicode, time, JSON, coding. */
+/** @defgroup kovra_util The companion library
+ *
+ * kovra_util, the companion library: streams, memory, errors, big integers, bit sets, Unicode, time, JSON, coding. */
 #ifndef KOVRA_UTIL_H
 #define KOVRA_UTIL_H
 
