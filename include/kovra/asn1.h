@@ -11,6 +11,7 @@
 #include "kovra/asn1_certstore.h"
 #include "kovra/asn1_cms.h"
 #include "kovra/asn1_codec.h"
+#include "kovra/asn1_codes.h"
 #include "kovra/asn1_decode.h"
 #include "kovra/asn1_dss.h"
 #include "kovra/asn1_ecc.h"

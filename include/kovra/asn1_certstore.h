@@ -50,6 +50,12 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_certstore_certwithattr_getcert(const kovr
 /** kovra_certstore_certwithattr_getattrlist returns attrList, a list of StoreAttributes, or null. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_certstore_certwithattr_getattrlist(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
+/** @name Alternatives of StoreKeyId
+ * @{ */
+#define KOVRA_ASN1_STORE_KEY_ID_KEY_ID 0    /**< keyId */
+#define KOVRA_ASN1_STORE_KEY_ID_ALGORITHM 1 /**< algorithm */
+/** @} */
+
 /** kovra_certstore_keyid_newkeyid returns a StoreKeyId of alternative 0, keyId, a UTF8String. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_certstore_keyid_newkeyid(const kovra_asn1_value *key_id) KOVRA_NOTHROW;
 

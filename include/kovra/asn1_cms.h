@@ -48,6 +48,12 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_cmsissuerandsn_getissuer(const kovra_asn1
 /** kovra_cmsissuerandsn_getsn returns serialNumber, an INTEGER. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_cmsissuerandsn_getsn(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
+/** @name Alternatives of SignerIdentifier and RecipientIdentifier
+ * @{ */
+#define KOVRA_ASN1_SIGNER_IDENTIFIER_ISSUER_AND_SERIAL_NUMBER 0 /**< issuerAndSerialNumber */
+#define KOVRA_ASN1_SIGNER_IDENTIFIER_SUBJECT_KEY_IDENTIFIER 1   /**< subjectKeyIdentifier */
+/** @} */
+
 /** kovra_cmssignerid_newissuersn returns a SignerIdentifier (type 123; RFC 5652, 5.3), which RecipientIdentifiers are
  * too, of an IssuerAndSerialNumber (choice 0). */
 KOVRA_ASN1_API kovra_asn1_value *kovra_cmssignerid_newissuersn(const kovra_asn1_value *issuer_and_serial) KOVRA_NOTHROW;
@@ -105,6 +111,15 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_cmssignerinfo_getunsignattrs(const kovra_
 /** kovra_cmssignerinfo_hasunsignattrs tells whether there are unsignedAttrs. */
 KOVRA_ASN1_API int32_t kovra_cmssignerinfo_hasunsignattrs(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
+/** @name Alternatives of CertificateChoices
+ * @{ */
+#define KOVRA_ASN1_CERTIFICATE_CHOICES_CERTIFICATE 0          /**< certificate */
+#define KOVRA_ASN1_CERTIFICATE_CHOICES_EXTENDED_CERTIFICATE 1 /**< extendedCertificate */
+#define KOVRA_ASN1_CERTIFICATE_CHOICES_V1_ATTR_CERT 2         /**< v1AttrCert */
+#define KOVRA_ASN1_CERTIFICATE_CHOICES_V2_ATTR_CERT 3         /**< v2AttrCert */
+#define KOVRA_ASN1_CERTIFICATE_CHOICES_OTHER 4                /**< other */
+/** @} */
+
 /** kovra_cmscertchoice_newx509pubkeycert returns a CertificateChoices (type 129; RFC 5652, 10.2.2) of a Certificate
  * (choice 0), whose exact octets it keeps. */
 KOVRA_ASN1_API kovra_asn1_value *
@@ -136,6 +151,12 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_cmsothercertformat_getformat(const kovra_
 
 /** kovra_cmsothercertformat_getothercert returns otherCert, an ANY. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_cmsothercertformat_getothercert(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+
+/** @name Alternatives of RevocationInfoChoice
+ * @{ */
+#define KOVRA_ASN1_REVOCATION_INFO_CHOICE_CRL 0   /**< crl */
+#define KOVRA_ASN1_REVOCATION_INFO_CHOICE_OTHER 1 /**< other */
+/** @} */
 
 /** kovra_cmsrevinfochoice_newcrl returns a RevocationInfoChoice (type 130; RFC 5652, 10.2.1) of a CertificateList
  * (choice 0), whose exact octets it keeps. */
@@ -249,6 +270,15 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_cmsoriginatorinfo_getcrls(const kovra_asn
 
 /** kovra_cmsoriginatorinfo_hascrls tells whether there are crls. */
 KOVRA_ASN1_API int32_t kovra_cmsoriginatorinfo_hascrls(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+
+/** @name Alternatives of RecipientInfo
+ * @{ */
+#define KOVRA_ASN1_RECIPIENT_INFO_KTRI 0  /**< ktri */
+#define KOVRA_ASN1_RECIPIENT_INFO_KARI 1  /**< kari */
+#define KOVRA_ASN1_RECIPIENT_INFO_KEKRI 2 /**< kekri */
+#define KOVRA_ASN1_RECIPIENT_INFO_PWRI 3  /**< pwri */
+#define KOVRA_ASN1_RECIPIENT_INFO_ORI 4   /**< ori */
+/** @} */
 
 /** kovra_cmsrecipientinfo_newktri returns a RecipientInfo (type 162; RFC 5652, 6.2) of a KeyTransRecipientInfo (choice
  * 0). */
@@ -390,6 +420,13 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_cmskeyagreerecipientinfo_getencalgo(const
 /** kovra_cmskeyagreerecipientinfo_getenckeys returns recipientEncryptedKeys, a list of RecipientEncryptedKeys. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_cmskeyagreerecipientinfo_getenckeys(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
+/** @name Alternatives of OriginatorIdentifierOrKey
+ * @{ */
+#define KOVRA_ASN1_ORIGINATOR_IDENTIFIER_OR_KEY_ISSUER_AND_SERIAL_NUMBER 0 /**< issuerAndSerialNumber */
+#define KOVRA_ASN1_ORIGINATOR_IDENTIFIER_OR_KEY_SUBJECT_KEY_IDENTIFIER 1   /**< subjectKeyIdentifier */
+#define KOVRA_ASN1_ORIGINATOR_IDENTIFIER_OR_KEY_ORIGINATOR_KEY 2           /**< originatorKey */
+/** @} */
+
 /** kovra_cmsorgidorkey_newissuersn returns an OriginatorIdentifierOrKey (type 152; RFC 5652, 6.2.2) of an
  * IssuerAndSerialNumber (choice 0). */
 KOVRA_ASN1_API kovra_asn1_value *
@@ -426,6 +463,12 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_cmsrecipientenckey_getid(const kovra_asn1
 
 /** kovra_cmsrecipientenckey_getenckey returns encryptedKey, an OCTET STRING. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_cmsrecipientenckey_getenckey(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+
+/** @name Alternatives of KeyAgreeRecipientIdentifier
+ * @{ */
+#define KOVRA_ASN1_KEY_AGREE_RECIPIENT_IDENTIFIER_ISSUER_AND_SERIAL_NUMBER 0 /**< issuerAndSerialNumber */
+#define KOVRA_ASN1_KEY_AGREE_RECIPIENT_IDENTIFIER_R_KEY_ID 1                 /**< rKeyId */
+/** @} */
 
 /** kovra_cmskeyagreerecipientid_newissuersn returns a KeyAgreeRecipientIdentifier (type 155; RFC 5652, 6.2.2) of an
  * IssuerAndSerialNumber (choice 0). */

@@ -18,6 +18,13 @@
 
 KOVRA_C_BEGIN
 
+/** @name Alternatives of EcpkParameters
+ * @{ */
+#define KOVRA_ASN1_ECPK_PARAMETERS_EC_PARAMETERS 1 /**< ecParameters */
+#define KOVRA_ASN1_ECPK_PARAMETERS_NAMED_CURVE 2   /**< namedCurve */
+#define KOVRA_ASN1_ECPK_PARAMETERS_IMPLICITLY_CA 3 /**< implicitlyCA */
+/** @} */
+
 /** kovra_ecpkparameters_new_namedcurve returns EcpkParameters (RFC 3279, 2.3.5) of alternative 2, namedCurve, an
  * OBJECT IDENTIFIER. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_ecpkparameters_new_namedcurve(const kovra_asn1_value *curve) KOVRA_NOTHROW;
@@ -112,6 +119,12 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_rsaenvelopedkeypair_getrsapublickey(const
 /** kovra_rsaenvelopedkeypair_getrsaencryptedprivatekey returns rsaEncryptedPrivateKey, an OCTET STRING. */
 KOVRA_ASN1_API kovra_asn1_value *
 kovra_rsaenvelopedkeypair_getrsaencryptedprivatekey(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+
+/** @name Alternatives of InnerEnvelopedKeyPair
+ * @{ */
+#define KOVRA_ASN1_INNER_ENVELOPED_KEY_PAIR_RSA 1 /**< rsa */
+#define KOVRA_ASN1_INNER_ENVELOPED_KEY_PAIR_SM2 2 /**< sm2 */
+/** @} */
 
 /** kovra_innerenvelopedkeypair_newrsa returns an InnerEnvelopedKeyPair of alternative 1, rsa, an
  * RSAEnvelopedKeyPair. */

@@ -44,6 +44,19 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_x509extension_getcritical(const kovra_asn
 /** kovra_x509extension_getvalue returns extnValue, an OCTET STRING. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_x509extension_getvalue(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
+/** @name Alternatives of GeneralName
+ * @{ */
+#define KOVRA_ASN1_GENERAL_NAME_OTHER_NAME 0     /**< otherName */
+#define KOVRA_ASN1_GENERAL_NAME_RFC822_NAME 1    /**< rfc822Name */
+#define KOVRA_ASN1_GENERAL_NAME_DNS_NAME 2       /**< dNSName */
+#define KOVRA_ASN1_GENERAL_NAME_X400_ADDRESS 3   /**< x400Address */
+#define KOVRA_ASN1_GENERAL_NAME_DIRECTORY_NAME 4 /**< directoryName */
+#define KOVRA_ASN1_GENERAL_NAME_EDI_PARTY_NAME 5 /**< ediPartyName */
+#define KOVRA_ASN1_GENERAL_NAME_URI 6            /**< uniformResourceIdentifier */
+#define KOVRA_ASN1_GENERAL_NAME_IP_ADDRESS 7     /**< iPAddress */
+#define KOVRA_ASN1_GENERAL_NAME_REGISTERED_ID 8  /**< registeredID */
+/** @} */
+
 /** kovra_x509generalname_new_othername DOES NOT MAKE A USABLE NAME. It copies its argument as an EDIPartyName: for an
  * other-name (type 61) it returns null, for an EDIPartyName a name of alternative 0 that nothing can encode. Names with
  * an otherName come from decoding. */
@@ -280,6 +293,12 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_x509polcons_getreqexppol(const kovra_asn1
 
 /** kovra_x509polcons_getinhibitpolmap returns inhibitPolicyMapping, an INTEGER, or null. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_x509polcons_getinhibitpolmap(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+
+/** @name Alternatives of DistributionPointName
+ * @{ */
+#define KOVRA_ASN1_DISTRIBUTION_POINT_NAME_FULL_NAME 0     /**< fullName */
+#define KOVRA_ASN1_DISTRIBUTION_POINT_NAME_RELATIVE_NAME 1 /**< nameRelativeToCRLIssuer */
+/** @} */
 
 /** kovra_x509distpointname_new_fullname returns a DistributionPointName (RFC 5280, 4.2.1.13) with a fullName, a list of
  * GeneralNames. */

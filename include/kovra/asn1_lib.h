@@ -25,6 +25,41 @@ KOVRA_C_BEGIN
 #define KOVRA_ASN1_PRIMITIVE 1   /**< the content is octets */
 /** @} */
 
+/** @name Tag numbers of the universal class (X.680 clause 8.4)
+ *
+ * Not to be taken for type identifiers (asn1_types.h), of which many have the same names and other numbers.
+ * @{ */
+#define KOVRA_ASN1_TAG_END_OF_CONTENTS 0   /**< end-of-contents marker */
+#define KOVRA_ASN1_TAG_BOOLEAN 1           /**< BOOLEAN */
+#define KOVRA_ASN1_TAG_INTEGER 2           /**< INTEGER */
+#define KOVRA_ASN1_TAG_BIT_STRING 3        /**< BIT STRING */
+#define KOVRA_ASN1_TAG_OCTET_STRING 4      /**< OCTET STRING */
+#define KOVRA_ASN1_TAG_NULL 5              /**< NULL */
+#define KOVRA_ASN1_TAG_OBJECT_IDENTIFIER 6 /**< OBJECT IDENTIFIER */
+#define KOVRA_ASN1_TAG_OBJECT_DESCRIPTOR 7 /**< ObjectDescriptor */
+#define KOVRA_ASN1_TAG_EXTERNAL 8          /**< EXTERNAL and INSTANCE OF */
+#define KOVRA_ASN1_TAG_REAL 9              /**< REAL */
+#define KOVRA_ASN1_TAG_ENUMERATED 10       /**< ENUMERATED */
+#define KOVRA_ASN1_TAG_EMBEDDED_PDV 11     /**< EMBEDDED PDV */
+#define KOVRA_ASN1_TAG_UTF8_STRING 12      /**< UTF8String */
+#define KOVRA_ASN1_TAG_RELATIVE_OID 13     /**< RELATIVE-OID */
+#define KOVRA_ASN1_TAG_SEQUENCE 16         /**< SEQUENCE and SEQUENCE OF */
+#define KOVRA_ASN1_TAG_SET 17              /**< SET and SET OF */
+#define KOVRA_ASN1_TAG_NUMERIC_STRING 18   /**< NumericString */
+#define KOVRA_ASN1_TAG_PRINTABLE_STRING 19 /**< PrintableString */
+#define KOVRA_ASN1_TAG_TELETEX_STRING 20   /**< TeletexString */
+#define KOVRA_ASN1_TAG_VIDEOTEX_STRING 21  /**< VideotexString */
+#define KOVRA_ASN1_TAG_IA5_STRING 22       /**< IA5String */
+#define KOVRA_ASN1_TAG_UTC_TIME 23         /**< UTCTime */
+#define KOVRA_ASN1_TAG_GENERALIZED_TIME 24 /**< GeneralizedTime */
+#define KOVRA_ASN1_TAG_GRAPHIC_STRING 25   /**< GraphicString */
+#define KOVRA_ASN1_TAG_VISIBLE_STRING 26   /**< VisibleString */
+#define KOVRA_ASN1_TAG_GENERAL_STRING 27   /**< GeneralString */
+#define KOVRA_ASN1_TAG_UNIVERSAL_STRING 28 /**< UniversalString */
+#define KOVRA_ASN1_TAG_CHARACTER_STRING 29 /**< CHARACTER STRING */
+#define KOVRA_ASN1_TAG_BMP_STRING 30       /**< BMPString */
+/** @} */
+
 /** kovra_asn1_identifier_length returns the number of identifier octets of a tag number, 1 to 6; -2 for a negative one.
  */
 KOVRA_ASN1_API int32_t kovra_asn1_identifier_length(int32_t tag) KOVRA_NOTHROW;

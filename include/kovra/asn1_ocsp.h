@@ -124,6 +124,16 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_responsebytes_gettype(const kovra_as
  * BasicOCSPResponse in it. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_responsebytes_getresponse(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
+/** @name OCSPResponseStatus (4.2.1)
+ * @{ */
+#define KOVRA_ASN1_OCSP_STATUS_SUCCESSFUL 0        /**< successful */
+#define KOVRA_ASN1_OCSP_STATUS_MALFORMED_REQUEST 1 /**< malformedRequest */
+#define KOVRA_ASN1_OCSP_STATUS_INTERNAL_ERROR 2    /**< internalError */
+#define KOVRA_ASN1_OCSP_STATUS_TRY_LATER 3         /**< tryLater */
+#define KOVRA_ASN1_OCSP_STATUS_SIG_REQUIRED 5      /**< sigRequired */
+#define KOVRA_ASN1_OCSP_STATUS_UNAUTHORIZED 6      /**< unauthorized */
+/** @} */
+
 /** kovra_ocsp_ocspresponse_new returns an OCSPResponse (4.2.1): responseStatus, an ENUMERATED; responseBytes, or null.
  */
 KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_ocspresponse_new(const kovra_asn1_value *response_status,
@@ -134,6 +144,12 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_ocspresponse_getstatus(const kovra_a
 
 /** kovra_ocsp_ocspresponse_getresponse returns responseBytes, or null. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_ocspresponse_getresponse(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+
+/** @name Alternatives of ResponderID
+ * @{ */
+#define KOVRA_ASN1_OCSP_RESPONDER_ID_BY_NAME 1 /**< byName */
+#define KOVRA_ASN1_OCSP_RESPONDER_ID_BY_KEY 2  /**< byKey */
+/** @} */
 
 /** kovra_ocsp_responderid_newname returns a ResponderID (4.2.1) of a Name. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_responderid_newname(const kovra_asn1_value *name) KOVRA_NOTHROW;
@@ -162,6 +178,13 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_revokedinfo_gettime(const kovra_asn1
 
 /** kovra_ocsp_revokedinfo_getreason returns revocationReason, an ENUMERATED, or null. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_revokedinfo_getreason(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+
+/** @name Alternatives of CertStatus
+ * @{ */
+#define KOVRA_ASN1_OCSP_CERT_STATUS_GOOD 0    /**< good */
+#define KOVRA_ASN1_OCSP_CERT_STATUS_REVOKED 1 /**< revoked */
+#define KOVRA_ASN1_OCSP_CERT_STATUS_UNKNOWN 2 /**< unknown */
+/** @} */
 
 /** kovra_ocsp_certstatus_newgood returns a CertStatus (4.2.1) of good. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_ocsp_certstatus_newgood(void) KOVRA_NOTHROW;

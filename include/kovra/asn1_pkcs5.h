@@ -52,6 +52,12 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_pkcs5pbkdf2params_getkeylength(const kovr
 /** kovra_pkcs5pbkdf2params_getprf returns prf, an AlgorithmIdentifier, HMAC with SHA-1 by default. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_pkcs5pbkdf2params_getprf(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
+/** @name Alternatives of the salt of PBKDF2-params
+ * @{ */
+#define KOVRA_ASN1_PBKDF2_SALT_SPECIFIED 0    /**< specified */
+#define KOVRA_ASN1_PBKDF2_SALT_OTHER_SOURCE 1 /**< otherSource */
+/** @} */
+
 /** kovra_pkcs5pbkdf2salt_newspecified returns the salt of PBKDF2-params (RFC 8018, A.2) of alternative 0, specified,
  * an OCTET STRING. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_pkcs5pbkdf2salt_newspecified(const kovra_asn1_value *specified) KOVRA_NOTHROW;

@@ -58,6 +58,16 @@ KOVRA_ASN1_API kovra_asn1_value *kovra_tsp_timestampreq_getcertreq(const kovra_a
 /** kovra_tsp_timestampreq_getexts returns extensions, or null. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_tsp_timestampreq_getexts(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
+/** @name PKIStatus (RFC 3161, 2.4.2)
+ * @{ */
+#define KOVRA_ASN1_PKI_STATUS_GRANTED 0                 /**< granted */
+#define KOVRA_ASN1_PKI_STATUS_GRANTED_WITH_MODS 1       /**< grantedWithMods */
+#define KOVRA_ASN1_PKI_STATUS_REJECTION 2               /**< rejection */
+#define KOVRA_ASN1_PKI_STATUS_WAITING 3                 /**< waiting */
+#define KOVRA_ASN1_PKI_STATUS_REVOCATION_WARNING 4      /**< revocationWarning */
+#define KOVRA_ASN1_PKI_STATUS_REVOCATION_NOTIFICATION 5 /**< revocationNotification */
+/** @} */
+
 /** kovra_tsp_pkistatusinfo_new returns a PKIStatusInfo (RFC 3161, 2.4.2): status, an INTEGER; statusString, a list of
  * UTF8Strings (type 188), or null; failInfo, a BIT STRING, or null. Null for a statusString without elements, which
  * cannot be read back. */

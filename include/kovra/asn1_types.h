@@ -1,9 +1,9 @@
 /** @defgroup asn1_types Type identifiers
  * @ingroup kovra_asn1
  *
- * The type identifiers: numbers from 0 to 207 that select what a value is. Each has a universal tag, a form and two
- * error codes, of encoding and of decoding. Where a name of one type stands in the error text of another, as from 56
- * on, the texts are a row off; docs/irregularities.md says how to read them.
+ * The type identifiers: numbers from 0 to 207 that select what a value is. Each has a universal tag (asn1_lib.h), a
+ * form and two error codes, of encoding and of decoding. Where a name of one type stands in the error text of another,
+ * as from 56 on, the texts are a row off; docs/irregularities.md says how to read them.
  *
  * @{ */
 #ifndef KOVRA_ASN1_TYPES_H

@@ -191,6 +191,20 @@ kovra_x509TBSCertList_new(const kovra_asn1_value *version, const kovra_asn1_valu
                           const kovra_asn1_value *next_update, kovra_asn1_value *revoked_list, int32_t copy_revoked,
                           const kovra_asn1_value *crl_extensions) KOVRA_NOTHROW;
 
+/** @name Reasons of a revocation, CRLReason (RFC 5280, 5.3.1)
+ * @{ */
+#define KOVRA_ASN1_CRL_REASON_UNSPECIFIED 0            /**< unspecified */
+#define KOVRA_ASN1_CRL_REASON_KEY_COMPROMISE 1         /**< keyCompromise */
+#define KOVRA_ASN1_CRL_REASON_CA_COMPROMISE 2          /**< cACompromise */
+#define KOVRA_ASN1_CRL_REASON_AFFILIATION_CHANGED 3    /**< affiliationChanged */
+#define KOVRA_ASN1_CRL_REASON_SUPERSEDED 4             /**< superseded */
+#define KOVRA_ASN1_CRL_REASON_CESSATION_OF_OPERATION 5 /**< cessationOfOperation */
+#define KOVRA_ASN1_CRL_REASON_CERTIFICATE_HOLD 6       /**< certificateHold */
+#define KOVRA_ASN1_CRL_REASON_REMOVE_FROM_CRL 8        /**< removeFromCRL */
+#define KOVRA_ASN1_CRL_REASON_PRIVILEGE_WITHDRAWN 9    /**< privilegeWithdrawn */
+#define KOVRA_ASN1_CRL_REASON_AA_COMPROMISE 10         /**< aACompromise */
+/** @} */
+
 /** kovra_x509revcertinfo_new returns an entry of a CRL (RFC 5280, 5.1.2.6): userCertificate, an INTEGER;
  * revocationDate, a time; crlEntryExtensions, a list of Extensions or null. */
 KOVRA_ASN1_API kovra_asn1_value *kovra_x509revcertinfo_new(const kovra_asn1_value *user_certificate,
