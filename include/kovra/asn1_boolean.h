@@ -16,13 +16,13 @@
 KOVRA_C_BEGIN
 
 /** kovra_asn1_boolean_true returns a new BOOLEAN that is TRUE, written as 01 01 FF; null when memory is short. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_boolean_true(void) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_asn1_boolean_true(void) KOVRA_NOTHROW;
 
 /** kovra_asn1_boolean_false returns a new BOOLEAN that is FALSE, written as 01 01 00; null when memory is short. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_boolean_false(void) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_asn1_boolean_false(void) KOVRA_NOTHROW;
 
 /** kovra_asn1_boolean_istrue returns 1 for TRUE and 0 for FALSE, null and a value of another kind. */
-KOVRA_ASN1_API int32_t kovra_asn1_boolean_istrue(const kovra_asn1_value *value) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_boolean_istrue(const kovra_asn1_value *value) KOVRA_NOTHROW;
 
 KOVRA_C_END
 

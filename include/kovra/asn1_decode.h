@@ -52,21 +52,21 @@ KOVRA_C_BEGIN
 typedef struct kovra_asn1_decode_any_ctx kovra_asn1_decode_any_ctx;
 
 /** kovra_asn1_decode_any_ctx_new returns a new context in state 0, or null when memory is short. */
-KOVRA_ASN1_API kovra_asn1_decode_any_ctx *kovra_asn1_decode_any_ctx_new(void) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_decode_any_ctx *KOVRA_CALL kovra_asn1_decode_any_ctx_new(void) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_any_update takes the next `length` octets, stores in `*out_left` how many of them stand behind the
  * end of the element and were not taken, and returns 1. A complete context takes none. 0, with nothing stored, for null
  * `ctx` or `out_left`, a negative length, null data with a positive one, and when the context is in state 7 or gets
  * there, as it does when memory is short. */
-KOVRA_ASN1_API int32_t kovra_asn1_decode_any_update(kovra_asn1_decode_any_ctx *ctx, const void *data, int32_t length,
-                                                    int32_t *out_left) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_decode_any_update(kovra_asn1_decode_any_ctx *ctx, const void *data,
+                                                               int32_t length, int32_t *out_left) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_any_isfinish returns 1 when the element is complete (state 6), else 0, also for null. */
-KOVRA_ASN1_API int32_t kovra_asn1_decode_any_isfinish(const kovra_asn1_decode_any_ctx *ctx) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_decode_any_isfinish(const kovra_asn1_decode_any_ctx *ctx) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_any_ctx_iseoc returns 1 when the element is complete and was an end-of-contents marker, 00 00,
  * else 0. Within definite content such a marker is an element like others. */
-KOVRA_ASN1_API int32_t kovra_asn1_decode_any_ctx_iseoc(const kovra_asn1_decode_any_ctx *ctx) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_decode_any_ctx_iseoc(const kovra_asn1_decode_any_ctx *ctx) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_any_identifier_length takes octets until the identifier and length octets are there, stores class,
  * form, tag number and length (-1 for indefinite), and in `*out_left` the octets not taken, and returns 1; the content
@@ -75,21 +75,22 @@ KOVRA_ASN1_API int32_t kovra_asn1_decode_any_ctx_iseoc(const kovra_asn1_decode_a
  * when it is not, for a null place or `ctx`, a negative length, null data with a positive one, and when the context
  * gets to state 7. Of an end-of-contents marker only the first octet is taken, and described as class 0, form 1, tag 0,
  * length 0. */
-KOVRA_ASN1_API int32_t kovra_asn1_decode_any_identifier_length(kovra_asn1_decode_any_ctx *ctx, int32_t fresh,
-                                                               const void *data, int32_t length, uint32_t *out_class,
-                                                               int32_t *out_form, int32_t *out_tag, int32_t *out_length,
-                                                               int32_t *out_left) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_decode_any_identifier_length(kovra_asn1_decode_any_ctx *ctx, int32_t fresh,
+                                                                          const void *data, int32_t length,
+                                                                          uint32_t *out_class, int32_t *out_form,
+                                                                          int32_t *out_tag, int32_t *out_length,
+                                                                          int32_t *out_left) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_any_ctx_toobject reads the complete element as a value of the type and stores it; the context
  * stays as it is and may be asked again, and the value does not need it. Codes, in `ctx_err`: 0x10002 for null `ctx` or
  * place; 0x10001 when the element is not complete, and for a handle of another kind; then those of
  * kovra_asn1_any_toobject. */
-KOVRA_ASN1_API int32_t kovra_asn1_decode_any_ctx_toobject(const kovra_asn1_decode_any_ctx *ctx, uint32_t type,
-                                                          kovra_asn1_value **out_value,
-                                                          kovra_err_ctx *ctx_err) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_decode_any_ctx_toobject(const kovra_asn1_decode_any_ctx *ctx,
+                                                                     uint32_t type, kovra_asn1_value **out_value,
+                                                                     kovra_err_ctx *ctx_err) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_any_ctx_free releases a context. Null is ignored. */
-KOVRA_ASN1_API void kovra_asn1_decode_any_ctx_free(kovra_asn1_decode_any_ctx *ctx) KOVRA_NOTHROW;
+KOVRA_ASN1_API void KOVRA_CALL kovra_asn1_decode_any_ctx_free(kovra_asn1_decode_any_ctx *ctx) KOVRA_NOTHROW;
 
 /** The OCTET STRING context (X.690 clause 8.7): primitive, or constructed of segments, which are OCTET STRINGs and may
  * be constructed themselves. What it takes is what kovra_asn1_decode takes as type 4. Content octets are passed on as
@@ -97,42 +98,45 @@ KOVRA_ASN1_API void kovra_asn1_decode_any_ctx_free(kovra_asn1_decode_any_ctx *ct
 typedef struct kovra_asn1_decode_octetstring_ctx kovra_asn1_decode_octetstring_ctx;
 
 /** kovra_asn1_decode_octetstring_ctx_new returns a new context in state 0, or null when memory is short. */
-KOVRA_ASN1_API kovra_asn1_decode_octetstring_ctx *kovra_asn1_decode_octetstring_ctx_new(void) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_decode_octetstring_ctx *KOVRA_CALL kovra_asn1_decode_octetstring_ctx_new(void) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_octetstring_update takes the next `length` octets of a whole element, appends the content octets
  * among them to `out_stream` (null: they are only counted), stores in `*out_left` how many octets stand behind the
  * element, and returns 1. 0, with nothing stored, as kovra_asn1_decode_any_update, and when the stream cannot be
  * written; octets that came before the fault have then been written. */
-KOVRA_ASN1_API int32_t kovra_asn1_decode_octetstring_update(kovra_asn1_decode_octetstring_ctx *ctx, const void *data,
-                                                            int32_t length, kovra_stream *out_stream,
-                                                            int32_t *out_left) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_decode_octetstring_update(kovra_asn1_decode_octetstring_ctx *ctx,
+                                                                       const void *data, int32_t length,
+                                                                       kovra_stream *out_stream,
+                                                                       int32_t *out_left) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_octetstring_content_update does the same for a context that is in the content, by
  * kovra_asn1_decode_octetstring_ctx_setstate or because the header was taken; 0 in a state below 4. */
-KOVRA_ASN1_API int32_t kovra_asn1_decode_octetstring_content_update(kovra_asn1_decode_octetstring_ctx *ctx,
-                                                                    const void *data, int32_t length,
-                                                                    kovra_stream *out_stream,
-                                                                    int32_t *out_left) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_decode_octetstring_content_update(kovra_asn1_decode_octetstring_ctx *ctx,
+                                                                               const void *data, int32_t length,
+                                                                               kovra_stream *out_stream,
+                                                                               int32_t *out_left) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_octetstring_ctx_setstate puts a new context at the content of an element whose identifier and
  * length octets were read elsewhere, which may have had an implicit tag: `form` as the identifier said and the length,
  * -1 for indefinite. Returns 1; 0, with nothing changed, for null, a context that is not in state 0, a length below -1
  * and a primitive element of indefinite length. Short memory: 0, and state 7. */
-KOVRA_ASN1_API int32_t kovra_asn1_decode_octetstring_ctx_setstate(kovra_asn1_decode_octetstring_ctx *ctx, int32_t form,
-                                                                  int32_t content_length) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_decode_octetstring_ctx_setstate(kovra_asn1_decode_octetstring_ctx *ctx,
+                                                                             int32_t form,
+                                                                             int32_t content_length) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_octetstring_ctx_getencodelength returns how many octets of the encoding were taken so far, header
  * octets included that the context was given; -2 for null. */
-KOVRA_ASN1_API int64_t kovra_asn1_decode_octetstring_ctx_getencodelength(const kovra_asn1_decode_octetstring_ctx *ctx)
-    KOVRA_NOTHROW;
+KOVRA_ASN1_API int64_t KOVRA_CALL
+kovra_asn1_decode_octetstring_ctx_getencodelength(const kovra_asn1_decode_octetstring_ctx *ctx) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_octetstring_ctx_isfinish returns 1 when the element is complete (state 6), else 0, also for null.
  */
-KOVRA_ASN1_API int32_t kovra_asn1_decode_octetstring_ctx_isfinish(const kovra_asn1_decode_octetstring_ctx *ctx)
-    KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL
+kovra_asn1_decode_octetstring_ctx_isfinish(const kovra_asn1_decode_octetstring_ctx *ctx) KOVRA_NOTHROW;
 
 /** kovra_asn1_decode_octetstring_ctx_free releases a context. Null is ignored. */
-KOVRA_ASN1_API void kovra_asn1_decode_octetstring_ctx_free(kovra_asn1_decode_octetstring_ctx *ctx) KOVRA_NOTHROW;
+KOVRA_ASN1_API void KOVRA_CALL kovra_asn1_decode_octetstring_ctx_free(kovra_asn1_decode_octetstring_ctx *ctx)
+    KOVRA_NOTHROW;
 
 KOVRA_C_END
 

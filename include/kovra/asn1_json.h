@@ -37,13 +37,13 @@ KOVRA_C_BEGIN
 /** kovra_asn1_tojson returns the description of `length` octets of encoding, a JSON value to be released with
  * kovra_json_free. Null for null octets, unless exactly one element fills them, for an element that is not of its type
  * (such as a refused time), and when memory is short. Neither reading nor releasing recurses with the nesting. */
-KOVRA_ASN1_API kovra_json *kovra_asn1_tojson(const void *encoding, int32_t length) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_json *KOVRA_CALL kovra_asn1_tojson(const void *encoding, int32_t length) KOVRA_NOTHROW;
 
 /** kovra_asn1_encodejson returns a new blob with the DER encoding of a description, released with kovra_data_blob_free.
  * Null for null, an unknown "type", a member that is missing or of another kind, text or octets that the type refuses,
  * and when memory is short. An object with "hexencode" or "base64encode" stands for a ready-made element, whatever
  * else it has; its octets are written as they are. Members of a SET are not sorted. */
-KOVRA_ASN1_API kovra_data_blob *kovra_asn1_encodejson(const kovra_json *json) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_data_blob *KOVRA_CALL kovra_asn1_encodejson(const kovra_json *json) KOVRA_NOTHROW;
 
 KOVRA_C_END
 

@@ -21,24 +21,24 @@
 KOVRA_C_BEGIN
 
 /** kovra_asn1_list_new returns an empty list, or null when memory is short. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_list_new(void) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_asn1_list_new(void) KOVRA_NOTHROW;
 
 /** kovra_asn1_list_free releases the list and its elements, each as kovra_asn1_value_free with the type, which is the
  * type of the elements. Null is ignored. (kovra_asn1_value_free takes the type of the list.) */
-KOVRA_ASN1_API void kovra_asn1_list_free(kovra_asn1_value *list, uint32_t type) KOVRA_NOTHROW;
+KOVRA_ASN1_API void KOVRA_CALL kovra_asn1_list_free(kovra_asn1_value *list, uint32_t type) KOVRA_NOTHROW;
 
 /** kovra_asn1_list_put appends an element and takes ownership of it. Returns 0, the element still being the caller's,
  * for a null list or element and when memory is short. Putting n elements takes O(n) steps. */
-KOVRA_ASN1_API int32_t kovra_asn1_list_put(kovra_asn1_value *list, kovra_asn1_value *element) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_list_put(kovra_asn1_value *list, kovra_asn1_value *element) KOVRA_NOTHROW;
 
 /** kovra_asn1_list_get stores the element at `index`, the first being 0, borrowed from the list, and returns 1. It
  * stores null and returns 0 for a null list, an index outside the list and when memory is short; a null place gives 0.
  */
-KOVRA_ASN1_API int32_t kovra_asn1_list_get(kovra_asn1_value *list, int32_t index,
-                                           kovra_asn1_value **out_element) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_list_get(kovra_asn1_value *list, int32_t index,
+                                                      kovra_asn1_value **out_element) KOVRA_NOTHROW;
 
 /** kovra_asn1_list_getsize returns the number of elements; 0 for null. */
-KOVRA_ASN1_API int32_t kovra_asn1_list_getsize(const kovra_asn1_value *list) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_asn1_list_getsize(const kovra_asn1_value *list) KOVRA_NOTHROW;
 
 KOVRA_C_END
 

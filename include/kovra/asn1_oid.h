@@ -20,17 +20,17 @@ KOVRA_C_BEGIN
  * stop or a blank; the stored text has full stops, and leading zeros as given. Null for fewer than 3 characters or two
  * arcs, a first arc above 2, a second above 39 under 0 and 1, an empty arc or one of more than 30 digits, an arc from
  * 18,446,744,073,709,551,615 on, any other character, and when memory is short. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_oid_new(const char *text) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_asn1_oid_new(const char *text) KOVRA_NOTHROW;
 
 /** kovra_asn1_relative_oid_new returns a new RELATIVE-OID of text by the same rules, with one arc or more and without
  * limits on the first two. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_relative_oid_new(const char *text) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_asn1_relative_oid_new(const char *text) KOVRA_NOTHROW;
 
 /** kovra_asn1_oid_getstring returns the dotted text, zero-terminated and borrowed; null for null. */
-KOVRA_ASN1_API const char *kovra_asn1_oid_getstring(const kovra_asn1_value *oid) KOVRA_NOTHROW;
+KOVRA_ASN1_API const char *KOVRA_CALL kovra_asn1_oid_getstring(const kovra_asn1_value *oid) KOVRA_NOTHROW;
 
 /** kovra_asn1_relative_oid_getstring is kovra_asn1_oid_getstring. */
-KOVRA_ASN1_API const char *kovra_asn1_relative_oid_getstring(const kovra_asn1_value *oid) KOVRA_NOTHROW;
+KOVRA_ASN1_API const char *KOVRA_CALL kovra_asn1_relative_oid_getstring(const kovra_asn1_value *oid) KOVRA_NOTHROW;
 
 KOVRA_C_END
 

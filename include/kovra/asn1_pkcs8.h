@@ -18,52 +18,53 @@ KOVRA_C_BEGIN
 /** kovra_pkcs8privkeyinfo_new returns a PrivateKeyInfo (RFC 5958, 2): version, an INTEGER; privateKeyAlgorithm, an
  * AlgorithmIdentifier; privateKey, an OCTET STRING; attributes, a list of Attributes, or null. There is no publicKey.
  */
-KOVRA_ASN1_API kovra_asn1_value *kovra_pkcs8privkeyinfo_new(const kovra_asn1_value *version,
-                                                            const kovra_asn1_value *private_key_algorithm,
-                                                            const kovra_asn1_value *private_key,
-                                                            const kovra_asn1_value *attributes) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL
+kovra_pkcs8privkeyinfo_new(const kovra_asn1_value *version, const kovra_asn1_value *private_key_algorithm,
+                           const kovra_asn1_value *private_key, const kovra_asn1_value *attributes) KOVRA_NOTHROW;
 
 /** kovra_pkcs8privkeyinfo_new_with_pubkey returns a PrivateKeyInfo with publicKey, a BIT STRING that may be null,
  * behind the other components. Such a one has version 1 (RFC 5958). */
-KOVRA_ASN1_API kovra_asn1_value *
-kovra_pkcs8privkeyinfo_new_with_pubkey(const kovra_asn1_value *version, const kovra_asn1_value *private_key_algorithm,
-                                       const kovra_asn1_value *private_key, const kovra_asn1_value *attributes,
-                                       const kovra_asn1_value *public_key) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_pkcs8privkeyinfo_new_with_pubkey(
+    const kovra_asn1_value *version, const kovra_asn1_value *private_key_algorithm, const kovra_asn1_value *private_key,
+    const kovra_asn1_value *attributes, const kovra_asn1_value *public_key) KOVRA_NOTHROW;
 
 /** kovra_pkcs8privkeyinfo_getversion returns version, an INTEGER. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_pkcs8privkeyinfo_getversion(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_pkcs8privkeyinfo_getversion(const kovra_asn1_value *obj)
+    KOVRA_NOTHROW;
 
 /** kovra_pkcs8privkeyinfo_getprivatekeyalgorithm returns privateKeyAlgorithm, an AlgorithmIdentifier. */
-KOVRA_ASN1_API kovra_asn1_value *
-kovra_pkcs8privkeyinfo_getprivatekeyalgorithm(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_pkcs8privkeyinfo_getprivatekeyalgorithm(const kovra_asn1_value *obj)
+    KOVRA_NOTHROW;
 
 /** kovra_pkcs8privkeyinfo_getprivatekey returns privateKey, an OCTET STRING. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_pkcs8privkeyinfo_getprivatekey(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_pkcs8privkeyinfo_getprivatekey(const kovra_asn1_value *obj)
+    KOVRA_NOTHROW;
 
 /** kovra_pkcs8privkeyinfo_hasattributes returns 1 when attributes is there, else 0. */
-KOVRA_ASN1_API int32_t kovra_pkcs8privkeyinfo_hasattributes(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_pkcs8privkeyinfo_hasattributes(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
 /** kovra_pkcs8privkeyinfo_getattributes returns attributes, a list of Attributes, or null. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_pkcs8privkeyinfo_getattributes(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_pkcs8privkeyinfo_getattributes(const kovra_asn1_value *obj)
+    KOVRA_NOTHROW;
 
 /** kovra_pkcs8privkeyinfo_haspublickey returns 1 when publicKey is there, else 0. */
-KOVRA_ASN1_API int32_t kovra_pkcs8privkeyinfo_haspublickey(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+KOVRA_ASN1_API int32_t KOVRA_CALL kovra_pkcs8privkeyinfo_haspublickey(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
 /** kovra_pkcs8privkeyinfo_getpublickey returns publicKey, a BIT STRING, or null. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_pkcs8privkeyinfo_getpublickey(const kovra_asn1_value *obj) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_pkcs8privkeyinfo_getpublickey(const kovra_asn1_value *obj)
+    KOVRA_NOTHROW;
 
 /** kovra_pkcs8encryptedprivkeyinfo_new returns an EncryptedPrivateKeyInfo (RFC 5958, 3): encryptionAlgorithm, an
  * AlgorithmIdentifier; encryptedData, an OCTET STRING. */
-KOVRA_ASN1_API kovra_asn1_value *
-kovra_pkcs8encryptedprivkeyinfo_new(const kovra_asn1_value *encryption_algorithm,
-                                    const kovra_asn1_value *encrypted_data) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_pkcs8encryptedprivkeyinfo_new(
+    const kovra_asn1_value *encryption_algorithm, const kovra_asn1_value *encrypted_data) KOVRA_NOTHROW;
 
 /** kovra_pkcs8encryptedprivkeyinfo_getencryptionalgorithm returns encryptionAlgorithm, an AlgorithmIdentifier. */
-KOVRA_ASN1_API kovra_asn1_value *
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL
 kovra_pkcs8encryptedprivkeyinfo_getencryptionalgorithm(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
 /** kovra_pkcs8encryptedprivkeyinfo_getencrypteddata returns encryptedData, an OCTET STRING. */
-KOVRA_ASN1_API kovra_asn1_value *
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL
 kovra_pkcs8encryptedprivkeyinfo_getencrypteddata(const kovra_asn1_value *obj) KOVRA_NOTHROW;
 
 KOVRA_C_END

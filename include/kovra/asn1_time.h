@@ -35,28 +35,32 @@ KOVRA_C_BEGIN
  * for a UTCTime) out of range, and when memory is short. A second of 60 is accepted for any minute and written by
  * GeneralizedTime, which can be read again, or copied into a structure, only where there was a leap second; UTCTime
  * writes 59. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_time_new(int32_t year, int32_t month, int32_t day, int32_t hour,
-                                                     int32_t minute, int32_t second, int32_t ns) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_asn1_time_new(int32_t year, int32_t month, int32_t day, int32_t hour,
+                                                                int32_t minute, int32_t second,
+                                                                int32_t ns) KOVRA_NOTHROW;
 
 /** kovra_asn1_utctime_new returns a UTCTime; null outside the years 1950 to 2049 too. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_utctime_new(int32_t year, int32_t month, int32_t day, int32_t hour,
-                                                        int32_t minute, int32_t second) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_asn1_utctime_new(int32_t year, int32_t month, int32_t day,
+                                                                   int32_t hour, int32_t minute,
+                                                                   int32_t second) KOVRA_NOTHROW;
 
 /** kovra_asn1_gentime_new returns a GeneralizedTime. The fraction of a second is written without trailing zeros, and
  * left out when it is 0 (X.690 clause 11.7). */
-KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_gentime_new(int32_t year, int32_t month, int32_t day, int32_t hour,
-                                                        int32_t minute, int32_t second, int32_t ns) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_asn1_gentime_new(int32_t year, int32_t month, int32_t day,
+                                                                   int32_t hour, int32_t minute, int32_t second,
+                                                                   int32_t ns) KOVRA_NOTHROW;
 
 /** kovra_asn1_time_newutctime returns a new time of a companion's time, which stays the caller's. The low four bits of
  * `flags` choose UTCTime (0), GeneralizedTime (1) or one by the year (2) with its constructor above; 0x10 takes the
  * nanoseconds over, which are 0 otherwise. Null for null, a time that is not UTC, other flags, and what the
  * constructor refuses. */
-KOVRA_ASN1_API kovra_asn1_value *kovra_asn1_time_newutctime(const kovra_time *time, uint32_t flags) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_asn1_value *KOVRA_CALL kovra_asn1_time_newutctime(const kovra_time *time,
+                                                                       uint32_t flags) KOVRA_NOTHROW;
 
 /** kovra_asn1_time_getutctime returns a new companion's time of the value, released with kovra_time_free; null for null
  * and when memory is short. It is UTC but for a GeneralizedTime without Z or offset, which is local time. A second of
  * 60 that a constructor was given is 60 here, for UTCTime too. */
-KOVRA_ASN1_API kovra_time *kovra_asn1_time_getutctime(const kovra_asn1_value *time) KOVRA_NOTHROW;
+KOVRA_ASN1_API kovra_time *KOVRA_CALL kovra_asn1_time_getutctime(const kovra_asn1_value *time) KOVRA_NOTHROW;
 
 KOVRA_C_END
 

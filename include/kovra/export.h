@@ -34,6 +34,13 @@
 #define KOVRA_ASN1_API KOVRA_IMPORTED
 #endif
 
+/* How functions are called, the callbacks too: stated, so that programs with another default link. */
+#if defined(_WIN32) && (defined(_M_IX86) || defined(__i386__))
+#define KOVRA_CALL __cdecl
+#else
+#define KOVRA_CALL
+#endif
+
 /* A C++ compiler is told that nothing here throws. */
 #if defined(__cplusplus)
 #define KOVRA_NOTHROW noexcept
