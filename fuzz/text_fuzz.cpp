@@ -8,9 +8,6 @@ namespace kovra::fuzz {
 
 namespace {
 
-using BigInteger = test::BigInteger;
-using BitSet = test::BitSet;
-
 // Content octets of a primitive value.
 Value decode_content(uint32_t type, const Exact &octets) {
     const Stream stream(kovra_stream_new_romem(octets.data(), octets.length(), 0, nullptr));
