@@ -12,11 +12,10 @@
 namespace {
 
 namespace fs = std::filesystem;
-using kovra::test::octets;
-using kovra::test::repeated;
-using Result = kovra::test::ToolResult;
+using namespace kovra::test;
+using Result = ToolResult;
 
-class ToolOut : public kovra::test::ToolTest {
+class ToolOut : public ToolTest {
 protected:
     void SetUp() override {
         ToolTest::SetUp();
@@ -32,13 +31,6 @@ protected:
     }
 
 #if !defined(_WIN32)
-    // Runs a shell command line in the test's directory, in which $T is the tool.
-    [[nodiscard]] Result shell(const std::string &line) const {
-        const std::string command = "cd '" + path("").string() + "' && T='" KOVRA_TOOL_PATH "' && { " + line +
-                                    "; echo $? > code; } > out 2> err";
-        EXPECT_EQ(std::system(command.c_str()), 0);
-        return {std::atoi(content("code").c_str()), content("out"), content("err")};
-    }
     [[nodiscard]] struct stat status(const std::string &name) const {
         struct stat result {};
         EXPECT_EQ(::stat(path(name).c_str(), &result), 0) << name;
@@ -90,7 +82,7 @@ TEST_F(ToolOut, IsReplacedOnlyByWholeOutput) {
     const Result missing = run("json good --out missing/there");
     EXPECT_EQ(missing.code, 3);
     EXPECT_EQ(missing.error, "kovra-asn1: missing/there: No such file or directory\n");
-    EXPECT_EQ(run(std::string("json good --out ") + kovra::test::null_device).code, 0);
+    EXPECT_EQ(run(std::string("json good --out ") + null_device).code, 0);
 }
 
 #if defined(_WIN32)

@@ -9,13 +9,8 @@
 namespace {
 
 namespace fs = std::filesystem;
-using kovra::test::der;
-using kovra::test::octets;
-using kovra::test::oid;
-using kovra::test::pem;
-using kovra::test::read_file;
-using kovra::test::repeated;
-using Result = kovra::test::ToolResult;
+using namespace kovra::test;
+using Result = ToolResult;
 
 const fs::path examples = KOVRA_SOURCE_DIR "/examples";
 
@@ -29,10 +24,6 @@ std::string content_info(const char *id, std::string_view content) {
 
 std::string algorithm(const char *id, std::string_view parameters = "") {
     return der(0x30, oid(id) + std::string(parameters));
-}
-
-std::string attribute(const char *id, std::string_view value) {
-    return der(0x30, oid(id) + der(0x31, value));
 }
 
 std::vector<std::string> lines_of(const std::string &text) {
@@ -51,7 +42,7 @@ std::string hex_of(const std::string &octets) {
     return text;
 }
 
-class ShowMessage : public kovra::test::ShowTest {};
+class ShowMessage : public ToolTest {};
 
 // Elements of no known structure are shown as trees; of the examples these are, or have, such.
 TEST_F(ShowMessage, KnownStructuresAreNoTrees) {
@@ -155,13 +146,7 @@ TEST_F(ShowMessage, TypesAreDetected) {
         std::string input;
         const char *heading;
     } rows[] = {
-        {pem(read_file(examples / "parameters-dsa.der"), "DSA PARAMETERS"), "DSS_PARMS (60)"},
-        {pem(read_file(examples / "parameters-dh-pkcs3.der"), "DH PARAMETERS"), "DH_PARAMETER (102)"},
-        {pem(read_file(examples / "parameters-ec.der"), "EC PARAMETERS"), "ECPK_PARAMETERS (201)"},
-        {pem(read_file(examples / "public-rsa.der"), "RSA PUBLIC KEY"), "RSA_PUBLIC_KEY (56)"},
-        {pem(read_file(examples / "key-dsa.der"), "DSA PRIVATE KEY"), "SEQUENCE_OF_ANY (24)"},
         {pem(key, "PRIVATE KEY"), "EC_PRIVATE_KEY (202)"},
-        {pem(read_file(examples / "pkcs7-mail.der"), "PKCS7"), "CONTENT_INFO (111)"},
         {read_file(examples / "ocsp-response-key.der").substr(30), "OCSP_BASIC_RESPONSE (182)"},
         {der(0x30, octets("020101 3100") + der(0x30, oid(data_id)) + octets("3100")), "PKCS7_SIGNED_DATA (133)"},
         {der(0x30, octets("020100 3100") + der(0x30, oid(data_id) + algorithm("1.2.3.4"))), "ENVELOPED_DATA (164)"},
@@ -178,89 +163,80 @@ TEST_F(ShowMessage, TypesAreDetected) {
     }
 }
 
-TEST_F(ShowMessage, StructuresInWords) {
-    const std::string sha256 = algorithm("2.16.840.1.101.3.4.2.1");
-    const std::string aes = algorithm("2.16.840.1.101.3.4.1.2", octets("0401AB"));
-    const std::string name = der(0x30, der(0x31, der(0x30, oid("2.5.4.3") + octets("0C 01 41"))));
-    const std::string serial = octets("02 01 07");
-    const std::string kek =
-        octets("020104") +
-        der(0x30, octets("0401AB") + der(0x18, "20300102030405Z") + der(0x30, oid("1.2.3.4") + octets("020105"))) +
-        aes + octets("0401CD");
-    const std::string imprint = der(0x30, sha256 + octets("0401AB"));
+// A label says what is tried first, and what a block is not that is none.
+TEST_F(ShowMessage, LabelsTellTypes) {
+    const struct {
+        const char *label;
+        const char *example;
+        const char *type;
+    } rows[] = {
+        {"CERTIFICATE", "cert-ec", "CERTIFICATE"},
+        {"X509 CERTIFICATE", "cert-ec", "CERTIFICATE"},
+        {"X509 CRL", "crl-v1", "CERTIFICATE_LIST"},
+        {"CRL", "crl-v1", "CERTIFICATE_LIST"},
+        {"CERTIFICATE REQUEST", "request", "CERTIFICATION_REQUEST"},
+        {"NEW CERTIFICATE REQUEST", "request", "CERTIFICATION_REQUEST"},
+        {"PKCS7", "pkcs7-mail", "CONTENT_INFO"},
+        {"CMS", "cms-data", "CONTENT_INFO"},
+        {"PUBLIC KEY", "public-ec", "SUBJECT_PUBLIC_KEY_INFO"},
+        {"RSA PUBLIC KEY", "public-rsa", "RSA_PUBLIC_KEY"},
+        {"PRIVATE KEY", "key-rsa-pkcs8", "PRIVATE_KEY_INFO"},
+        {"ENCRYPTED PRIVATE KEY", "key-rsa-encrypted", "ENCRYPTED_PRIVATE_KEY_INFO"},
+        {"RSA PRIVATE KEY", "key-rsa", "RSA_PRIVATE_KEY"},
+        {"EC PRIVATE KEY", "key-ec", "EC_PRIVATE_KEY"},
+        {"DSA PRIVATE KEY", "key-dsa", "SEQUENCE_OF_ANY"},
+        {"SM2 PRIVATE KEY", "key-sm2", "EC_PRIVATE_KEY"},
+        {"EC PARAMETERS", "parameters-ec", "ECPK_PARAMETERS"},
+        {"SM2 PARAMETERS", "parameters-ec", "ECPK_PARAMETERS"},
+        {"DSA PARAMETERS", "parameters-dsa", "DSS_PARMS"},
+        {"DH PARAMETERS", "parameters-dh-pkcs3", "DH_PARAMETER"},
+    };
+    for (const auto &[label, example, type] : rows) {
+        const std::string element = read_file(examples / (std::string(example) + ".der"));
+        const Result result = run("show", pem(element, label));
+        EXPECT_EQ(result.out.find(std::string("# -: ") + type + " ("), 0U) << label << result.out.substr(0, 80);
+        const std::string other = pem(octets("02 01 05"), label);
+        const Result refused = run("show", other);
+        EXPECT_EQ(refused.code, 1) << label;
+        EXPECT_EQ(refused.error, run(std::string("show --type ") + type, other).error) << label;
+    }
+}
+
+// What stands in a value is looked at, too; the error says what was expected there.
+TEST_F(ShowMessage, InnerValuesAreChecked) {
+    const char *const stamp_id = "1.2.840.113549.1.9.16.1.4";
+    const std::string bad = octets("30 03 02 01 05");
+    const std::string stamp = content_info(stamp_id, der(0x04, bad));
+    const auto bag = [&](const char *id, const std::string &value) {
+        return der(0x30, content_info((std::string("1.2.840.113549.1.12.10.1.") + id).c_str(), value));
+    };
     const struct {
         const char *type;
         std::string value;
-        const char *expected;
+        const char *inner;
     } rows[] = {
-        {"CONTENT_INFO", der(0x30, oid(signed_id)), "content type: signedData\ncontent: (none)\n"},
-        {"CONTENT_INFO", content_info(data_id, der(0x04, "a\n\"")), "content type: data\ncontent: \"a\\n\\\"\"\n"},
-        {"CONTENT_INFO", content_info(data_id, octets("24 80 0401AB 0401CD 0000")),
-         "content type: data\ncontent: abcd\n"},
-        {"CONTENT_INFO", content_info("1.2.3.4", octets("020105")), "content type: 1.2.3.4\ncontent: 5\n"},
-        // Content of PKCS #7 is no OCTET STRING.
-        {"PKCS7_SIGNED_DATA",
-         der(0x30,
-             octets("020101 3100") +
-                 content_info(digested_id, der(0x30, octets("020100") + sha256 + content_info(data_id, der(0x04, "a")) +
-                                                         octets("0401AB"))) +
-                 octets("3100")),
-         "version: 1\ncontent type: digestedData\ncontent:\n  version: 0\n  digest algorithm: sha256\n"
-         "  content type: data\n  content: \"a\"\n  digest: ab\nsigners: 0\n"},
-        {"RECIPIENT_INFO", der(0xA2, kek),
-         "recipient: key encryption key\n  version: 4\n  key id: ab\n  date: 2030-01-02 03:04:05 UTC\n  other:\n"
-         "    id: 1.2.3.4\n    value: 5\n  key encryption: aes128-CBC\n    parameters: ab\n  encrypted key: cd\n"},
-        {"RECIPIENT_INFO", der(0xA4, oid("1.2.3.4") + octets("020105")),
-         "recipient: other\n  type: 1.2.3.4\n  value: 5\n"},
-        {"AUTHENTICATED_DATA",
-         der(0x30,
-             octets("020100 3100") + sha256 + der(0x30, oid(data_id) + der(0xA0, der(0x04, "a"))) + octets("0401AB")),
-         "version: 0\nrecipients: 0\nMAC algorithm: sha256\ncontent type: data\ncontent: \"a\"\nMAC: ab\n"},
-        {"REVOCATION_INFO_CHOICE", der(0xA1, oid("1.3.6.1.5.5.7.16.2") + octets("30 03 0A 01 06")),
-         "format: 1.3.6.1.5.5.7.16.2\nOCSP response:\n  status: unauthorized\n"},
-        {"PKCS10_ATTRIBUTE",
-         attribute("1.2.840.113549.1.9.15", der(0x30, aes + algorithm("1.2.840.113549.3.2", octets("02 02 0080")))),
-         "sMIMECapabilities:\n  capability: aes128-CBC\n    parameters: ab\n  capability: rc2CBC\n"
-         "    parameters: 128\n"},
-        {"PKCS10_ATTRIBUTE",
-         attribute("1.2.840.113549.1.9.16.2.12",
-                   der(0x30, der(0x30, der(0x30, octets("0401AB") + der(0x30, der(0x30, der(0xA4, name)) + serial))) +
-                                 der(0x30, der(0x30, oid("1.2.3.4"))))),
-         "signingCertificate:\n  certificate:\n    hash: ab\n    issuer:\n      dirName: CN=A\n    serial: 0x07 (7)\n"
-         "  policies:\n    policy: 1.2.3.4\n"},
-        {"PKCS10_ATTRIBUTE", attribute("1.2.840.113549.1.9.16.2.14", content_info(data_id, der(0x04, "a"))),
-         "signatureTimeStampToken:\n  content type: data\n  content: \"a\"\n"},
-        {"TIME_STAMP_REQ", der(0x30, octets("020101") + imprint + oid("1.2.3.4") + octets("0101FF")),
-         "version: 1\nhash algorithm: sha256\nhash: ab\npolicy: 1.2.3.4\ncertificate wanted: yes\n"},
-        {"PKI_STATUS_INFO", octets("30 0E 02 01 02 30 03 0C 01 41 03 04 05 21 00 20"),
-         "status: rejection\ntext: \"A\"\nfailure: badRequest, incorrectData, bit 18\n"},
-        {"EXTENSION", der(0x30, oid("1.3.6.1.5.5.7.48.1.4") + der(0x04, der(0x30, oid("1.3.6.1.5.5.7.48.1.1")))),
-         "ocspResponse:\n  response type: ocspBasic\n"},
-        {"OCSP_CRL_ID", der(0x30, der(0xA0, der(0x16, "http://a")) + der(0xA1, octets("020105"))),
-         "URL: \"http://a\"\nnumber: 5\n"},
-        {"33",
-         algorithm("1.2.840.113549.1.5.13",
-                   der(0x30, algorithm("1.2.840.113549.1.5.12",
-                                       der(0x30, octets("0401AB 02020800 020110") +
-                                                     algorithm("1.2.840.113549.2.9", octets("0500")))) +
-                                 algorithm("1.2.840.113549.3.2", octets("30 06 02 01 3A 04 01 CD")))),
-         "algorithm: PBES2\n  key derivation: PBKDF2\n    salt: ab\n    iterations: 2048\n    key length: 16\n"
-         "    pseudorandom function: hmacWithSHA256\n  cipher: rc2CBC\n    version: 58 (128 bits)\n    IV: cd\n"},
-        {"33", algorithm("1.2.840.113549.1.12.1.3", octets("30 06 0401AB 020105")),
-         "algorithm: pbeWithSHAAnd3-KeyTripleDES-CBC\n  salt: ab\n  iterations: 5\n"},
-        {"RSASSA_PSS_PARAMS", octets("30 00"),
-         "hash: sha1\nmask generation: id-mgf1\n  with: sha1\nsalt length: 20\ntrailer field: 1\n"},
-        {"PRIVATE_KEY_INFO",
-         der(0x30, octets("020101") + algorithm("1.3.101.112") + octets("04 03 0401AB") +
-                       der(0xA0, attribute("1.2.840.113549.1.9.20", octets("1E 02 0041"))) + octets("81 02 00CD")),
-         "version: 1\nalgorithm: Ed25519\nprivate key: (hidden, 1 octets)\nattributes: 1\n  friendlyName:\n"
-         "    value: \"A\"\npublic key: cd\n"},
-        {"PRIVATE_KEY_ATTRIBUTE", octets("30 10 0C 01 41 80 01 02 02 01 03 A1 05 0C 03 C3A942"),
-         "provider: \"A\"\nkey type: 2\nflag: 3\nkey id: \"éB\"\n"},
-        {"OLD_CERT_THUMBPRINTS", octets("30 06 0401AB 0401CD"), "thumbprint: ab\nthumbprint: cd\n"},
+        {"CONTENT_INFO", stamp, "TST_INFO"},
+        {"CONTENT_INFO", content_info("1.2.840.113549.1.7.3", octets("0500")), "ENVELOPED_DATA"},
+        {"PKCS7_SIGNED_DATA", der(0x30, octets("020101 3100") + stamp + octets("3100")), "TST_INFO"},
+        {"DIGESTED_DATA", der(0x30, octets("020100") + algorithm("1.2.3.4") + stamp + octets("0400")), "TST_INFO"},
+        {"TIME_STAMP_RESP", der(0x30, octets("30 03 02 01 00") + stamp), "TST_INFO"},
+        {"OCSP_RESPONSE",
+         der(0x30, octets("0A 01 00") + der(0xA0, der(0x30, oid("1.3.6.1.5.5.7.48.1.1") + der(0x04, bad)))),
+         "OCSP_BASIC_RESPONSE"},
+        {"PRIVATE_KEY_INFO", der(0x30, octets("020100") + algorithm("1.2.840.113549.1.1.1") + der(0x04, bad)),
+         "RSA_PRIVATE_KEY"},
+        {"PFX", der(0x30, octets("020103") + content_info(data_id, der(0x04, bad))), "AUTHENTICATED_SAFE"},
+        {"AUTHENTICATED_SAFE", der(0x30, content_info(data_id, der(0x04, bad))), "SAFE_CONTENTS"},
+        {"SAFE_CONTENTS", bag("1", bad), "PRIVATE_KEY_INFO"},
+        {"SAFE_CONTENTS", bag("3", content_info("1.2.840.113549.1.9.22.1", der(0x04, bad))), "CERTIFICATE"},
+        {"SAFE_CONTENTS", bag("4", content_info("1.2.840.113549.1.9.23.1", der(0x04, bad))), "CERTIFICATE_LIST"},
     };
-    for (const auto &[type, value, expected] : rows)
-        EXPECT_EQ(shown(type, value), expected) << type;
+    for (const auto &[type, value, inner] : rows) {
+        const Result result = run(std::string("check --type ") + type, value);
+        EXPECT_EQ(result.error.find(std::string("kovra-asn1: -[1] ") + inner + ": octet "), 0U)
+            << inner << result.error;
+        EXPECT_NE(result.out.find("  malformed:        1\n"), std::string::npos) << type << result.out;
+    }
 }
 
 TEST_F(ShowMessage, ContentThatIsNoneIsExplained) {
@@ -269,9 +245,6 @@ TEST_F(ShowMessage, ContentThatIsNoneIsExplained) {
     EXPECT_NE(result.out.find("malformed:                  3003020105\n"), std::string::npos) << result.out;
     EXPECT_EQ(result.error.find("kovra-asn1: -[1] id-ct-TSTInfo: octet 5: "), 0U) << result.error;
     EXPECT_EQ(result.code, 1);
-    const Result checked = run("check", input);
-    EXPECT_EQ(checked.error.find("kovra-asn1: -[1] TST_INFO: octet 5: "), 0U) << checked.error;
-    EXPECT_NE(checked.out.find("  malformed:        1\n"), std::string::npos) << checked.out;
     // BER in content comes back as DER; the content itself is kept.
     const std::string ber = content_info("1.2.840.113549.1.7.6", octets("30 80 02 01 00 30 80") + oid(data_id) +
                                                                      algorithm("1.2.3.4") + octets("0000 0000"));

@@ -4,25 +4,20 @@
 // with
 //     cd examples; for f in ../tests/data/show/*; do kovra-asn1 show $(basename $f .txt) >$f; done
 
+#include "tests/notation.hpp"
 #include "tests/tool_testing.hpp"
 
 #if defined(KOVRA_TOOL_PATH)
 
 #include <algorithm>
+#include <map>
 #include <random>
 
 namespace {
 
 namespace fs = std::filesystem;
-using kovra::test::count;
-using kovra::test::der;
-using kovra::test::is_harmless;
-using kovra::test::octets;
-using kovra::test::oid;
-using kovra::test::pem;
-using kovra::test::read_file;
-using kovra::test::repeated;
-using Result = kovra::test::ToolResult;
+using namespace kovra::test;
+using Result = ToolResult;
 
 const fs::path examples = KOVRA_SOURCE_DIR "/examples";
 
@@ -34,11 +29,78 @@ std::string extension(const char *id, std::string_view value, bool is_critical =
     return der(0x30, oid(id) + (is_critical ? octets("01 01 FF") : "") + der(0x04, value));
 }
 
-std::string attribute(const char *id, std::string_view value) {
-    return der(0x31, der(0x30, oid(id) + std::string(value)));
-}
+class Show : public ToolTest {
+protected:
+    // What is shown of a value, with one blank in front of what stands behind a label.
+    [[nodiscard]] std::string shown(const std::string &type, std::string_view input) const {
+        const Result result = run("show --quiet --type " + type, input);
+        EXPECT_EQ(result.code, 0) << type << result.error;
+        return squeezed(result.out, ":");
+    }
+};
 
-class Show : public kovra::test::ShowTest {};
+// One row of tests/data/shown.txt, or a line between rows, and what is printed of it.
+struct Shown {
+    std::string row;
+    std::string expected;
+};
+
+TEST_F(Show, ValuesAsRecorded) {
+    const fs::path path = KOVRA_SOURCE_DIR "/tests/data/shown.txt";
+    std::vector<Shown> rows;
+    std::ifstream file(path, std::ios::binary);
+    for (std::string line; std::getline(file, line);) {
+        if (line.find("    ") == 0)
+            rows.back().expected += line.substr(4) + "\n";
+        else
+            rows.push_back({line, ""});
+    }
+    Notation notation;
+    std::map<std::string, std::pair<std::string, std::string>> kinds; // to a type and an element of it
+    std::string record;
+    for (const auto &[row, expected] : rows) {
+        record += row + "\n";
+        if (row.empty() || row[0] == '#')
+            continue;
+        for (size_t at = row.find('{'); at != row.npos; at = row.find('{', at + 1)) {
+            const std::string name = row.substr(at + 1, row.find('}', at) - at - 1);
+            if (name.find('.') != name.npos)
+                notation.define(name, hex(oid(name.c_str())));
+        }
+        const std::vector<std::string> fields = split(row, "; ");
+        if (fields[0] == "let") {
+            notation.define(fields[1], fields[2]);
+            continue;
+        }
+        if (fields[0] == "kind") {
+            kinds[fields[1]] = {fields[2], fields[3]};
+            continue;
+        }
+        std::vector<std::string> words = split(fields[0], " ");
+        const auto kind = kinds.find(words[0]);
+        const auto [type, element] = kind != kinds.end() ? kind->second : std::pair(words[0], std::string("{1}"));
+        for (size_t i = 1; i < fields.size(); ++i)
+            notation.define(std::to_string(i), fields[i]);
+        if (words.size() == 1)
+            words.emplace_back();
+        for (size_t i = 1; i < words.size(); ++i) {
+            const std::string id = words[i].substr(0, words[i].find('='));
+            const std::string name = words[i].substr(words[i].find('=') + 1);
+            if (!id.empty())
+                notation.define("oid", hex(oid(id.c_str())));
+            std::string text = shown(type, notation.octets(element));
+            for (size_t at = 0; words.size() > 2 && (at = text.find(name)) != text.npos;)
+                text.replace(at, name.size(), "@");
+            EXPECT_EQ(text, expected) << row << id;
+            if (!text.empty())
+                text.pop_back();
+            for (const std::string &line : i == 1 ? split(text, "\n") : std::vector<std::string>())
+                record += "    " + line + "\n";
+        }
+    }
+    if (std::getenv("KOVRA_RECORD") != nullptr)
+        std::ofstream(path, std::ios::binary) << record;
+}
 
 TEST_F(Show, ExamplesAreShownAsRecorded) {
     size_t files = 0;
@@ -94,160 +156,6 @@ TEST_F(Show, StandardExtensionsAreDecoded) {
     EXPECT_EQ(unknown.code, 0);
 }
 
-TEST_F(Show, ExtensionsInWords) {
-    const std::string name = der(0x30, attribute("2.5.4.3", octets("0C 01 41")));
-    const std::string uri = der(0x86, "http://a");
-    const struct {
-        const char *id;
-        std::string value;
-        const char *expected;
-    } rows[] = {
-        {"2.5.29.9", der(0x30, der(0x30, oid("1.3.6.1.5.5.7.9.1") + der(0x31, der(0x18, "19700102030405Z")))),
-         "subjectDirectoryAttributes:\n  dateOfBirth:\n    time: 1970-01-02 03:04:05 UTC\n"},
-        {"2.5.29.15", octets("03 03 07 0180"), "keyUsage:\n  usage: encipherOnly, decipherOnly\n"},
-        {"2.5.29.15", octets("03 01 00"), "keyUsage:\n  usage: (none)\n"},
-        {"2.5.29.15", octets("03 03 05 00 60"), "keyUsage:\n  usage: bit 9, bit 10\n"},
-        {"2.5.29.16", der(0x30, der(0x81, "20300102030405Z")),
-         "privateKeyUsagePeriod:\n  not after: 2030-01-02 03:04:05 UTC\n"},
-        {"2.5.29.17",
-         der(0x30, der(0xA0, oid("1.2.3.4") + octets("A0 03 02 01 05")) + der(0x81, "a@b") + der(0x82, "a\nb\\") +
-                       octets("A3 02 30 00") + der(0xA4, name) +
-                       der(0xA5, der(0xA0, octets("0C 01 41")) + der(0xA1, octets("1E 02 0042"))) + uri +
-                       octets("87 04 7F000001") + octets("87 10 20010DB8000000000000000000000001") +
-                       octets("87 10 00000000000000010000000000000000") + octets("87 02 0102") +
-                       octets("88 03 2A0304")),
-         "subjectAltName:\n  otherName: 1.2.3.4 020105\n  email: a@b\n  DNS: a\\nb\\\\\n  x400Address: a3023000\n"
-         "  dirName: CN=A\n  ediPartyName: \"A\", \"B\"\n  URI: http://a\n  IP: 127.0.0.1\n  IP: 2001:db8::1\n"
-         "  IP: 0:0:0:1::\n  IP: 0102\n  registeredID: 1.2.3.4\n"},
-        {"2.5.29.19", octets("30 00"), "basicConstraints:\n  CA: no\n"},
-        {"2.5.29.19", octets("30 06 01 01 FF 02 01 05"), "basicConstraints:\n  CA: yes\n  path length: 5\n"},
-        {"2.5.29.20", octets("02 0A 01000000000000000000"), "cRLNumber:\n  number: 0x01000000000000000000\n"},
-        {"2.5.29.20", octets("02 08 8000000000000000"), "cRLNumber:\n  number: -9223372036854775808\n"},
-        {"2.5.29.21", octets("0A 01 08"), "cRLReason:\n  reason: removeFromCRL\n"},
-        {"2.5.29.21", octets("0A 01 07"), "cRLReason:\n  reason: 7\n"},
-        {"2.5.29.23", oid("1.2.840.10040.2.1"), "holdInstructionCode:\n  id: 1.2.840.10040.2.1\n"},
-        {"2.5.29.27", octets("02 01 00"), "deltaCRLIndicator:\n  number: 0\n"},
-        {"2.5.29.28", octets("30 0A 81 01 FF 83 02 01 0A 85 01 FF"),
-         "issuingDistributionPoint:\n  only user certs: yes\n  only CA certs: no\n  only attribute certs: yes\n"
-         "  only reasons: superseded, certificateHold\n  indirect CRL: no\n"},
-        {"2.5.29.29", der(0x30, der(0xA4, name)), "certificateIssuer:\n  dirName: CN=A\n"},
-        {"2.5.29.30",
-         der(0x30, der(0xA0, der(0x30, octets("87 08 0A000000 FFFF0000 80 01 05")) +
-                                 der(0x30, octets("87 08 0A000000 FF00FF00 81 01 07")) +
-                                 der(0x30, octets("87 20 20010DB8000000000000000000000000"
-                                                  "       FFFFFFFF000000000000000000000000"))) +
-                       der(0xA1, der(0x30, der(0x82, ".a")))),
-         "nameConstraints:\n  permitted:\n    IP: 10.0.0.0/16, minimum 5\n    IP: 10.0.0.0/255.0.255.0, maximum 7\n"
-         "    IP: 2001:db8::/32\n  excluded:\n    DNS: .a\n"},
-        {"2.5.29.31", der(0x30, der(0x30, der(0xA0, der(0xA1, der(0x30, oid("2.5.4.3") + octets("0C 01 41")))))),
-         "cRLDistributionPoints:\n  point:\n    relative name: CN=A\n"},
-        {"2.5.29.46", der(0x30, der(0x30, der(0xA0, der(0xA0, uri)) + octets("81 02 06 40"))),
-         "freshestCRL:\n  point:\n    URI: http://a\n    reasons: keyCompromise\n"},
-        {"2.5.29.32",
-         der(0x30, der(0x30, oid("2.5.29.32.0") +
-                                 der(0x30, der(0x30, oid("1.3.6.1.5.5.7.2.1") + der(0x16, "http://a")) +
-                                               der(0x30, oid("1.3.6.1.5.5.7.2.2") +
-                                                             der(0x30, der(0x30, octets("1A 01 41 30 03 02 01 07")))) +
-                                               der(0x30, oid("1.2.3.4") + octets("02 01 05"))))),
-         "certificatePolicies:\n  policy: anyPolicy\n    CPS: http://a\n    notice: (no text)\n"
-         "      organization: \"A\"\n      numbers: 7\n    qualifier: 1.2.3.4\n      value: 5\n"},
-        {"2.5.29.35", der(0x30, octets("80 02 0102") + der(0xA1, der(0xA4, name)) + octets("82 02 FF00")),
-         "authorityKeyIdentifier:\n  key id: 0102\n  issuer:\n    dirName: CN=A\n  serial: -0x0100 (-256)\n"},
-        {"2.5.29.36", octets("30 06 80 01 00 81 01 02"),
-         "policyConstraints:\n  explicit policy after: 0\n  no mapping after: 2\n"},
-        {"2.5.29.54", octets("02 01 03"), "inhibitAnyPolicy:\n  number: 3\n"},
-        {"1.3.6.1.5.5.7.1.11", der(0x30, der(0x30, oid("1.3.6.1.5.5.7.48.5") + uri)),
-         "subjectInfoAccess:\n  caRepository: URI:http://a\n"},
-        {"1.3.6.1.5.5.7.1.3",
-         der(0x30, der(0x30, oid("0.4.0.1862.1.1")) + der(0x30, oid("0.4.0.1862.1.3") + octets("02 01 0A"))),
-         "qcStatements:\n  statement: qcCompliance\n  statement: qcRetentionPeriod\n    information: 10\n"},
-        {"1.3.6.1.5.5.7.1.24", octets("30 06 02 01 05 02 01 06"),
-         "tlsfeature:\n  feature: status_request\n  feature: 6\n"},
-        {"1.3.6.1.5.5.7.48.1.5", octets("05 00"), "ocspNoCheck:\n  content: NULL\n"},
-        {"2.16.840.1.113730.1.1", octets("03 02 00 05"), "nsCertType:\n  type: sslCA, objectSigningCA\n"},
-        {"1.3.6.1.4.1.11129.2.4.2",
-         der(0x04, octets("0032 0030 00") + repeated("\xAB", 32) + octets("0000018CC251F400 0000 0403 0001 FF")),
-         "signedCertificateTimestampList:\n"
-         "  time stamp: 2024-01-01 00:00:00 UTC, log "
-         "abababababababababababababababababababababababababababababababab\n"},
-        {"1.3.6.1.4.1.11129.2.4.2", octets("04 02 0005"), "signedCertificateTimestampList:\n  octets: 0005\n"},
-    };
-    for (const auto &[id, value, expected] : rows)
-        EXPECT_EQ(shown("EXTENSION", extension(id, value)).find(expected), 0U)
-            << expected << shown("EXTENSION", extension(id, value));
-}
-
-TEST_F(Show, NamesOnOneLine) {
-    const std::string two =
-        der(0x31, der(0x30, oid("2.5.4.11") + octets("13 01 42")) + der(0x30, oid("2.5.4.3") + octets("13 01 41")));
-    const struct {
-        std::string rdns;
-        const char *expected;
-    } rows[] = {
-        {"", "(empty)"},
-        {attribute("2.5.4.6", octets("13 02 4445")) + two + attribute("0.9.2342.19200300.100.1.25", der(0x16, "org")),
-         "DC=org,OU=B+CN=A,C=DE"},
-        {attribute("2.5.4.3", der(0x0C, " #a,b+\"c\\<d>;=e ")), R"(CN=\ #a\,b\+\"c\\\<d\>\;=e\ )"},
-        {attribute("2.5.4.3", der(0x0C, "#")), "CN=\\#"},
-        {attribute("2.5.4.3", octets("0C 0A 41 0A 1B C29B E280AE C3 A9")), "CN=A\\0a\\1b\\c2\\9b\\e2\\80\\aeé"},
-        {attribute("2.5.4.3", octets("0C 02 FF 41")), "CN=\\ffA"},
-        {attribute("2.5.4.3", octets("14 02 E941")), "CN=éA"},
-        {attribute("2.5.4.3", octets("1C 08 00000041 0001F600")), "CN=A😀"},
-        {attribute("2.5.4.3", octets("1E 06 0041 D83D DE00")), "CN=A😀"},
-        {attribute("2.5.4.3", octets("1E 02 D83D")), "CN=#1e02d83d"},
-        {attribute("2.5.4.3", octets("03 02 00 41")), "CN=#03020041"},
-        {attribute("1.2.840.113549.1.9.1", der(0x16, "a@b")), "emailAddress=a@b"},
-        {attribute("1.2.3.4", octets("0C 00")), "1.2.3.4="},
-    };
-    for (const auto &[rdns, expected] : rows)
-        EXPECT_EQ(shown("NAME", der(0x30, rdns)), "name: " + std::string(expected) + "\n");
-}
-
-TEST_F(Show, AlgorithmsKeysAndAttributes) {
-    const std::string sha256 = der(0x30, oid("2.16.840.1.101.3.4.2.1"));
-    const std::string mgf1 = der(0x30, oid("1.2.840.113549.1.1.8") + sha256);
-    const std::string curve = der(0x30, oid("1.2.840.10045.2.1") + oid("1.3.132.0.35"));
-    const std::string rsa = der(0x30, oid("1.2.840.113549.1.1.1") + octets("05 00"));
-    const std::string requested = der(0x30, extension("2.5.29.15", octets("03 02 05 A0")));
-    const struct {
-        const char *type;
-        std::string value;
-        const char *expected;
-    } rows[] = {
-        {"33", rsa, "algorithm: rsaEncryption\n"},
-        {"33", der(0x30, oid("1.2.840.113549.1.1.10") + octets("30 00")),
-         "algorithm: id-RSASSA-PSS, sha1, MGF1 with sha1, salt 20\n"},
-        {"33",
-         der(0x30,
-             oid("1.2.840.113549.1.1.10") + der(0x30, der(0xA0, sha256) + der(0xA1, mgf1) + octets("A2 03 02 01 20"))),
-         "algorithm: id-RSASSA-PSS, sha256, MGF1 with sha256, salt 32\n"},
-        {"33", der(0x30, oid("1.2.840.113549.1.1.7") + der(0x30, der(0xA0, sha256))),
-         "algorithm: id-RSAES-OAEP, sha256, MGF1 with sha1\n"},
-        {"33", der(0x30, oid("2.16.840.1.101.3.4.1.2") + octets("04 02 0102")),
-         "algorithm: aes128-CBC\n  parameters: 0102\n"},
-        {"33", der(0x30, oid("1.2.840.113549.1.5.13") + octets("30 03 02 01 05")),
-         "algorithm: PBES2\n  parameters:\n    SEQUENCE\n      INTEGER               5\n"},
-        {"35", der(0x30, rsa + der(0x03, octets("00 30 0A 02 03 01FFFF 02 03 010001"))),
-         "public key: rsaEncryption, 17 bits\n  modulus: 01ffff\n  exponent: 65537\n"},
-        {"35", der(0x30, rsa + octets("03 03 00 FFFF")), "public key: rsaEncryption\n  key: ffff\n"},
-        {"35", der(0x30, curve + octets("03 03 00 04FF")),
-         "public key: id-ecPublicKey, secp521r1, 521 bits\n  point: 04ff\n"},
-        {"35", der(0x30, der(0x30, oid("1.3.101.112")) + der(0x03, '\0' + repeated("\xAB", 32))),
-         "public key: Ed25519, 256 bits\n  key: abababababababababababababababababababababababababababababababab\n"},
-        {"35", der(0x30, der(0x30, oid("1.2.840.10040.4.1") + octets("30 04 02 02 00FF")) + octets("03 04 00 020105")),
-         "public key: id-dsa, 8 bits\n  parameters:\n    SEQUENCE\n      INTEGER               255\n  number: 5\n"},
-        {"43", der(0x30, oid("1.2.840.113549.1.9.7") + der(0x31, der(0x0C, "a\"b"))),
-         "challengePassword:\n  value: \"a\\\"b\"\n"},
-        {"43", der(0x30, oid("1.2.840.113549.1.9.2") + der(0x31, der(0x16, "a") + octets("1E 02 00E9"))),
-         "unstructuredName:\n  value: \"a\"\n  value: \"é\"\n"},
-        {"43", der(0x30, oid("1.2.840.113549.1.9.14") + der(0x31, requested)),
-         "extensionRequest:\n  extensions: 1\n    keyUsage:\n      usage: digitalSignature, keyEncipherment\n"},
-        {"43", der(0x30, oid("1.2.3.4") + der(0x31, der(0x13, "a"))), "1.2.3.4:\n  value: \"a\"\n"},
-    };
-    for (const auto &[type, value, expected] : rows)
-        EXPECT_EQ(shown(type, value), expected);
-}
-
 TEST_F(Show, TypesAreToldOrDetected) {
     const std::string certificate = example("cert-ec.der");
     const std::string crl = example("crl-v1.der");
@@ -262,7 +170,7 @@ TEST_F(Show, TypesAreToldOrDetected) {
         {"a request", example("request.der"), "# f: CERTIFICATION_REQUEST (46)\n"},
         {"a pair", der(0x30, der(0xA0, certificate)), "# f: CERTIFICATE_PAIR (55)\n"},
         {"a key", example("public-ec.der"), "# f: SUBJECT_PUBLIC_KEY_INFO (35)\n"},
-        {"a name", der(0x30, attribute("2.5.4.3", octets("0C 01 41"))), "# f: NAME (32)\n"},
+        {"a name", der(0x30, der(0x31, der(0x30, oid("2.5.4.3") + octets("0C 01 41")))), "# f: NAME (32)\n"},
         {"anything", octets("30 03 02 01 05"), "# f: ANY (23)\n"},
         {"nothing much", octets("30 00"), "# f: ANY (23)\n"},
         {"several", certificate + crl, "# f[1] CERTIFICATE (39)\n"},
@@ -296,6 +204,15 @@ TEST_F(Show, MalformedInputIsExplained) {
         EXPECT_EQ(result.error.find("kovra-asn1: -[1]: octet " + std::to_string(size) + ": "), 0U) << result.error;
         EXPECT_NE(result.error.find("(0x10259)\n"), std::string::npos) << result.error;
         EXPECT_EQ(result.code, 1);
+    }
+    // One is not, where what is there of it is of another shape.
+    const std::string begin = octets("30 82 0200 30 82 0100 A0 03 020102 02 01 05 30 00 30 00");
+    for (const size_t at : {begin.size(), size_t{4}, size_t{8}, size_t{10}, size_t{13}, size_t{16}, size_t{18}}) {
+        std::string other = begin;
+        if (at < other.size())
+            other[at] = '\x01';
+        const bool is_taken = run("show", other).error.find("(0x10259)\n") != std::string::npos;
+        EXPECT_EQ(is_taken, at == begin.size()) << at;
     }
     EXPECT_EQ(run("show --type certificate", octets("05 00")).code, 1);
     EXPECT_NE(run("show", pem(octets("05 00"), "CERTIFICATE")).error.find("(0x10259)\n"), std::string::npos);
@@ -348,7 +265,7 @@ TEST_F(Show, MutationsAreShownOrRefused) {
     EXPECT_NE(checked.out.find("  different:        0\n"), std::string::npos) << checked.out;
 }
 
-class Check : public kovra::test::ToolTest {
+class Check : public ToolTest {
 protected:
     // The numbers of the summary in their order.
     [[nodiscard]] static std::vector<int> numbers(const std::string &summary) {
@@ -449,15 +366,23 @@ TEST_F(Check, WhatKeepsItsEncodingComesBackFromBer) {
 TEST_F(Check, OutputThatIsFullOrClosedEnds) {
     const std::string crl = example("crl-v2.der");
     file("large", repeated(crl, 2000));
-    file("in", "");
     for (const char *command : {"show large", "check large"}) {
-        const Result full = run_in_shell(command, "> /dev/full");
+        const Result full = shell("$T " + std::string(command) + " > /dev/full");
         EXPECT_EQ(full.code, 3) << command;
         EXPECT_EQ(full.error, "kovra-asn1: standard output: No space left on device\n") << command;
-        const Result closed = run_in_shell(command, "| head -c 1 > /dev/null");
+        const Result closed = shell("{ $T " + std::string(command) + "; echo $? > code; } | head -c 1 > /dev/null");
         EXPECT_EQ(closed.code, 0) << command;
         EXPECT_EQ(closed.error, "") << command;
     }
+}
+
+// On a terminal, from the second on: of 100 octets 30 are done when standard input ends.
+TEST_F(Check, ProgressTellsTheShareThatIsDone) {
+    file("first", der(0x04, repeated("A", 28)));
+    file("second", der(0x04, repeated("A", 68)));
+    EXPECT_EQ(shell("script -qec \"{ sleep 2.5; printf '\\\\005\\\\000'; } | $T check first - second\" log").code, 0);
+    EXPECT_NE(content("out").find("\r[" + repeated("#", 12) + repeated(" ", 28) + "]  30%  "), std::string::npos)
+        << content("out");
 }
 #endif
 

@@ -6,30 +6,17 @@
 #if defined(KOVRA_TOOL_PATH)
 
 #include <chrono>
+#include <map>
 #include <random>
 
 namespace {
 
 namespace fs = std::filesystem;
-using kovra::test::octets;
-using kovra::test::pem;
-using kovra::test::repeated;
-using kovra::test::taken;
-using Result = kovra::test::ToolResult;
+using namespace kovra::test;
+using Result = ToolResult;
 
-class Tool : public kovra::test::ToolTest {
+class Tool : public ToolTest {
 protected:
-#if !defined(_WIN32)
-    // The same with what a shell command writes as standard input, through a pipe.
-    [[nodiscard]] Result run_on_pipe(const std::string &writer, const std::string &arguments) const {
-        file("out", "");
-        const std::string command = "cd " + path("").string() + " && { " + writer + "; } | { " KOVRA_TOOL_PATH " " +
-                                    arguments + "; echo $? > code; } 2> err > out";
-        EXPECT_EQ(std::system(command.c_str()), 0);
-        return {std::atoi(content("code").c_str()), content("out"), content("err")};
-    }
-#endif
-
     // What `der` makes of what `json` prints.
     [[nodiscard]] std::string there_and_back(std::string_view input, const std::string &style) const {
         const Result json = run("json " + style, input);
@@ -53,7 +40,7 @@ std::string description(std::string_view element, int32_t indent) {
     char *printed = kovra_json_print(value, indent, &length);
     const std::string text = taken(printed, length);
     kovra_json_free(value);
-    return text.empty() ? text : kovra::test::harmless_json(text) + "\n";
+    return text.empty() ? text : harmless_json(text) + "\n";
 }
 
 // A SEQUENCE whose length takes two octets, whatever it is.
@@ -201,7 +188,7 @@ TEST_F(Tool, ExamplesComeBackIdentical) {
         // BER becomes the DER of the same value, which becomes itself.
         const std::string der = run("der", json.out).out;
         EXPECT_EQ(there_and_back(der, "--compact"), der) << path;
-        const std::string original = kovra::test::read_file(path);
+        const std::string original = read_file(path);
         const bool is_der = path.extension() == ".der" && original.find(octets("30 80")) != 0;
         EXPECT_TRUE(!is_der || der == original) << path;
     }
@@ -278,13 +265,13 @@ TEST_F(Tool, PipesAreReadLikeFiles) {
                  kovra::is_tight ? 30 : 3000), // items are dropped on the way
     };
     for (const std::string &input : inputs) {
-        SCOPED_TRACE(kovra::test::hex(input.substr(0, 20)));
+        SCOPED_TRACE(hex(input.substr(0, 20)));
         for (const char *command : {"dump", "json"}) {
             const Result expected = run(command, input);
             for (const char *writer : {"cat in", "dd if=in bs=1 2> dd"}) {
                 if (input.size() > 1000 && writer[0] == 'd')
                     continue;
-                const Result found = run_on_pipe(writer, command);
+                const Result found = shell(std::string(writer) + " | $T " + command);
                 EXPECT_EQ(found.out, expected.out);
                 EXPECT_EQ(found.error, expected.error);
                 EXPECT_EQ(found.code, expected.code);
@@ -301,13 +288,22 @@ TEST_F(Tool, PipesThatDoNotEndAreShownAsTheyCome) {
     file("first", octets("02 01 05"));
     file("second", octets("30 80 05 00"));
     file("third", octets("00 00"));
-    EXPECT_EQ(
-        run_on_pipe("cat first; " + see("INTEGER") + "; cat second third; " + see("end-of-contents"), "dump").code, 0);
+    const std::string line = "{ cat first; " + see("INTEGER") + "; cat second third; " + see("end-of-contents");
+    EXPECT_EQ(shell(line + "; } | $T dump").code, 0);
     EXPECT_EQ(content("seen"), "seen\nseen\n");
     // Nothing can follow what is no element; who writes on is told by a closed pipe.
-    EXPECT_EQ(run_on_pipe("cat /dev/zero", "dump").code, 1);
-    EXPECT_EQ(run_on_pipe("while cat first; do :; done 2> cat", "dump | head -n 2 | tail -n 1").out,
+    for (const char *begin : {"\\000", "\\004\\200"})
+        EXPECT_EQ(shell(std::string("{ printf '") + begin + "'; cat /dev/zero; } | $T dump").code, 1) << begin;
+    EXPECT_EQ(shell("while cat first; do :; done 2> cat | $T dump | head -n 2 | tail -n 1").out,
               "     0   2      1  INTEGER                        5\n");
+#if !defined(__SANITIZE_ADDRESS__)
+    // What was shown is forgotten.
+    file("large", octets("04 83 100000") + repeated("A", 1 << 20));
+    const Result little =
+        shell("for i in $(seq 400); do cat large; done | (ulimit -v 100000; $T dump --quiet | tail -n 1)");
+    EXPECT_EQ(little.out.find("418383819   5   1048576  OCTET STRING "), 0U) << little.out;
+    EXPECT_EQ(little.error, "");
+#endif
 }
 
 #endif
@@ -318,6 +314,8 @@ TEST_F(Tool, DumpPrintsColumnsAndValues) {
         std::string expected;
     } rows[] = {
         {"02 02 FF7F", "     0   2      2  INTEGER                        -129\n"},
+        {"02 01 80", "     0   2      1  INTEGER                        -128\n"},
+        {"02 08 7FFFFFFFFFFFFFFF", "     0   2      8  INTEGER                        9223372036854775807\n"},
         {"02 09 00FFFFFFFFFFFFFFFF", "     0   2      9  INTEGER                        0x00ffffffffffffffff\n"},
         {"06 03 550403", "     0   2      3  OBJECT IDENTIFIER              2.5.4.3 commonName\n"},
         {"17 0D 3530303232383132333435365A",
@@ -347,8 +345,65 @@ TEST_F(Tool, DumpPrintsColumnsAndValues) {
     };
     for (const auto &[input, expected] : rows)
         EXPECT_EQ(run("dump", octets(input)).out, expected) << input;
+    // Long values are cut: octets behind the 48th, text behind the 128th.
+    const struct {
+        int tag;
+        std::string before;
+        char octet;
+        std::string printed;
+        std::string quote;
+        size_t most;
+    } cuts[] = {{4, "", '\xAB', "ab", "", 48}, {3, octets("00"), '\xAB', "ab", "", 48}, {12, "", 'A', "A", "\"", 128}};
+    for (const auto &[tag, before, octet, printed, quote, most] : cuts)
+        for (const size_t length : {most, most + 1}) {
+            const std::string input = der(tag, before + std::string(length, octet));
+            const std::string end = length > most ? "... (" + std::to_string(length) + " octets)\n" : "\n";
+            const std::string cut = " " + quote + repeated(printed, most) + quote + end;
+            const std::string full = " " + quote + repeated(printed, length) + quote + "\n";
+            EXPECT_NE(run("dump", input).out.find(cut), std::string::npos) << tag << run("dump", input).out;
+            EXPECT_NE(run("dump --full", input).out.find(full), std::string::npos) << tag;
+        }
     EXPECT_EQ(run("dump --color always", octets("30 00")).out.find('\x1B'), 19U);
     EXPECT_EQ(run("dump --color auto", octets("30 00")).out.find('\x1B'), std::string::npos);
+}
+
+// Each universal tag with the content 41.
+TEST_F(Tool, DumpNamesTagsAndTellsTextFromOctets) {
+    const std::string expected =
+        R"(BOOLEAN TRUE (not FF)|INTEGER 65|BIT STRING 41|OCTET STRING 41|NULL 41|OBJECT IDENTIFIER 1.25|)"
+        R"(ObjectDescriptor "A"|EXTERNAL 41|REAL 41|ENUMERATED 65|EMBEDDED PDV 41|UTF8String "A"|)"
+        R"(RELATIVE-OID 65|TIME "A"|[UNIVERSAL 15] 41|SEQUENCE 41|SET 41|NumericString "A"|)"
+        R"(PrintableString "A"|TeletexString "A"|VideotexString "A"|IA5String "A"|UTCTime "A" (not a time)|)"
+        R"(GeneralizedTime "A" (not a time)|GraphicString "A"|VisibleString "A"|GeneralString "A"|)"
+        R"(UniversalString 41 (not characters)|CHARACTER STRING 41|BMPString 41 (not characters)|DATE "A"|)"
+        R"(TIME-OF-DAY "A"|DATE-TIME "A"|DURATION "A"|OID-IRI "A"|RELATIVE-OID-IRI 41|[UNIVERSAL 37] 41)";
+    std::string input;
+    for (int tag = 1; tag <= 37; ++tag)
+        input += (tag < 31 ? std::string() : octets("1F")) + static_cast<char>(tag) + octets("01 41");
+    std::istringstream lines(run("dump --quiet", input).out);
+    std::string line;
+    for (const std::string &text : split(expected, "|")) {
+        ASSERT_TRUE(std::getline(lines, line));
+        EXPECT_EQ(squeezed(line.substr(19)), text);
+    }
+    // In a string, what begins like an element that is often there and is one.
+    std::string leads;
+    for (int lead = 1; lead < 256; ++lead)
+        leads += (lead & 0x1F) != 0x1F ? std::string(1, static_cast<char>(lead)) : "";
+    input.clear();
+    for (const char lead : leads)
+        input += octets("04 02") + lead + '\0';
+    lines = std::istringstream(run("dump --quiet", input).out);
+    std::string opened;
+    for (size_t i = 0; std::getline(lines, line);)
+        if (line.find("OCTET STRING") == 19)
+            opened += line.find("contains an element", ++i) != line.npos ? leads.substr(i - 1, 1) : "";
+    EXPECT_EQ(opened, octets("01 02 03 04 05 06 0A 0C 13 16 17 18 1E 30 31"));
+    for (const char *inside :
+         {"04 01 05", "04 02 0501", "04 03 050000", "04 04 3002 0501", "04 06 3004 0000 0500", "04 02 3080",
+          "04 04 05000500", "03 03 01 0500", "03 01 00", "03 02 00 05", "84 02 0500", "24 04 0402 0500"})
+        EXPECT_EQ(run("dump", octets(inside)).out.find("contains an element\n") != std::string::npos, inside[0] == '2')
+            << inside;
 }
 
 TEST_F(Tool, FailuresAreToldInOneForm) {
@@ -424,13 +479,12 @@ TEST_F(Tool, ExitCodesTellTheWorst) {
 TEST_F(Tool, OutputThatIsFullOrClosedEnds) {
     const std::string large = repeated(octets("30 03 02 01 05"), 100000);
     file("large", large);
-    file("in", "");
     for (const char *command : {"dump", "json", "types", "version"}) {
         const std::string arguments = std::string(command) + (command[0] == 'd' || command[0] == 'j' ? " large" : "");
-        const Result full = run_in_shell(arguments, "> /dev/full");
+        const Result full = shell("$T " + arguments + " > /dev/full");
         EXPECT_EQ(full.code, 3) << command;
         EXPECT_EQ(full.error, "kovra-asn1: standard output: No space left on device\n") << command;
-        const Result closed = run_in_shell(arguments, "| head -c 1 > /dev/null");
+        const Result closed = shell("{ $T " + arguments + "; echo $? > code; } | head -c 1 > /dev/null");
         EXPECT_EQ(closed.code, 0) << command;
         EXPECT_EQ(closed.error, "") << command;
     }
@@ -447,7 +501,7 @@ TEST_F(Tool, NamesNeedNotBeAscii) {
     const Result result = run("json " + name + "/" + name + " --out " + name + "2");
     EXPECT_EQ(result.code, 1);
     EXPECT_EQ(result.error.find("kovra-asn1: " + name + "/" + name + "[2]: octet 7: "), 0U) << result.error;
-    const std::string written = kovra::test::read_file(path("") / fs::path(std::u8string(native.u8string()) + u8"2"));
+    const std::string written = read_file(path("") / fs::path(std::u8string(native.u8string()) + u8"2"));
     EXPECT_EQ(written, description(octets("0C 03 0D0A1A"), 2)) << "line ends are not translated";
     const Result checked = run("check " + name);
     EXPECT_EQ(checked.code, 1);
@@ -461,7 +515,7 @@ TEST_F(Tool, DeepNestsTakeLinearTime) {
     const auto begin = std::chrono::steady_clock::now();
     for (const char *level : {"30 80", "A0 80", "24 80"}) {
         const std::string input = repeated(octets(level), depth) + repeated(octets("00 00"), depth);
-        EXPECT_EQ(run(std::string("dump --out ") + kovra::test::null_device, input).code, 0) << level;
+        EXPECT_EQ(run(std::string("dump --out ") + null_device, input).code, 0) << level;
         EXPECT_EQ(run("json --compact", input).out, description(input, 0)) << level;
     }
     // Of definite length, with an OCTET STRING at every other level.
@@ -481,12 +535,29 @@ TEST_F(Tool, DeepNestsTakeLinearTime) {
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(120));
 }
 
+// The names are those of the header, tags and forms those of the library.
 TEST_F(Tool, TypesListsEveryRow) {
-    const std::string out = run("types").out;
-    EXPECT_EQ(std::count(out.begin(), out.end(), '\n'), 1 + KOVRA_ASN1_TYPE_COUNT);
-    EXPECT_NE(out.find("\n  39   16  constructed  CERTIFICATE\n"), std::string::npos);
-    EXPECT_NE(out.find("\n 207 "), std::string::npos);
+    std::map<std::string, std::string> names = {{"167", "OTHER_INFO"}}; // the tool's own name
+    std::ifstream header(KOVRA_SOURCE_DIR "/include/kovra/asn1_types.h");
+    for (std::string word, number; header >> word;)
+        if (word.find("KOVRA_ASN1_TYPE_") == 0 && header >> number)
+            names.emplace(number, word.substr(16));
+    std::string expected = "type  tag  form         name\n";
+    for (const auto &row : table("registry.txt"))
+        for (const std::string &field : row) {
+            std::string number, tag, form;
+            char line[100];
+            std::istringstream(field) >> number >> tag >> form;
+            form = form == "1" ? "primitive" : form == "0" ? "constructed" : "either";
+            std::snprintf(line, sizeof line, "%4s%5s  %-13s%s\n", number.c_str(), tag.c_str(), form.c_str(),
+                          names[number].c_str());
+            expected += line;
+        }
+    EXPECT_EQ(run("types").out, expected);
     EXPECT_EQ(run("version").out, std::string(kovra_asn1_version()) + "\n");
+    const Result help = run("--help-all");
+    for (const char *option : {"--out", "--type", "--secrets", "--full", "--indent", "--compact"})
+        EXPECT_NE(help.out.find(option), std::string::npos) << option;
 }
 
 } // namespace

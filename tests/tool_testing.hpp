@@ -51,19 +51,19 @@ protected:
     // blanks.
     [[nodiscard]] ToolResult run(const std::string &arguments, std::string_view input = "") const {
         file("in", input);
-        file("out", "");
 #if defined(_WIN32)
         return start(arguments);
 #else
-        return run_in_shell(arguments, "> out");
+        return shell("$T " + arguments + " < in");
 #endif
     }
 
 #if !defined(_WIN32)
-    // The same with the input there already and standard output as the shell is told.
-    [[nodiscard]] ToolResult run_in_shell(const std::string &arguments, const std::string &output) const {
-        const std::string command = "cd " + directory_.string() + " && { " KOVRA_TOOL_PATH " " + arguments +
-                                    "; echo $? > code; } < in 2> err " + output;
+    // Runs a shell command line in the test's directory, in which $T is the tool. The code is that of the line, unless
+    // it writes another one to the file.
+    [[nodiscard]] ToolResult shell(const std::string &line) const {
+        const std::string command = "cd '" + directory_.string() + "' && rm -f code && T='" KOVRA_TOOL_PATH "' && { " +
+                                    line + "; s=$?; test -e code || echo $s > code; } > out 2> err";
         EXPECT_EQ(std::system(command.c_str()), 0);
         return {std::atoi(content("code").c_str()), content("out"), content("err")};
     }
@@ -201,25 +201,30 @@ inline std::string harmless_json(const std::string &text) {
     return result;
 }
 
+inline std::vector<std::string> split(const std::string &text, const std::string &separator) {
+    std::vector<std::string> parts;
+    size_t begin = 0;
+    for (size_t end; (end = text.find(separator, begin)) != text.npos; begin = end + separator.size())
+        parts.push_back(text.substr(begin, end - begin));
+    parts.push_back(text.substr(begin));
+    return parts;
+}
+
+// The text with one blank wherever several stand behind `before`.
+inline std::string squeezed(std::string text, const std::string &before = "") {
+    for (size_t at = text.find(before + "  "); at != text.npos; at = text.find(before + "  ", at)) {
+        at += before.size();
+        text.erase(at, text.find_first_not_of(' ', at) - at - 1);
+    }
+    return text;
+}
+
 inline size_t count(const std::string &text, std::string_view part) {
     size_t found = 0;
     for (size_t at = text.find(part); at != text.npos; at = text.find(part, at + 1))
         ++found;
     return found;
 }
-
-class ShowTest : public ToolTest {
-protected:
-    // What is shown of a value, without the blanks in front of values.
-    [[nodiscard]] std::string shown(const std::string &type, std::string_view input) const {
-        const ToolResult result = run("show --type " + type, input);
-        EXPECT_EQ(result.code, 0) << result.error;
-        std::string text = result.out;
-        for (size_t at = text.find(":  "); at != text.npos; at = text.find(":  ", at))
-            text.erase(at + 1, text.find_first_not_of(' ', at + 1) - at - 2);
-        return text;
-    }
-};
 
 } // namespace kovra::test
 

@@ -6,13 +6,8 @@
 
 namespace {
 
-using kovra::test::count;
-using kovra::test::der;
-using kovra::test::is_harmless;
-using kovra::test::octets;
-using kovra::test::oid;
-using kovra::test::utf8;
-using Result = kovra::test::ToolResult;
+using namespace kovra::test;
+using Result = ToolResult;
 
 constexpr std::string_view ill_formed[] = {"\xFF", "\x9B", "\xC0\x80", "\xED\xA0\x80", "\xE2\x80", "\xF5\x80\x80\x80"};
 
@@ -23,7 +18,7 @@ constexpr std::string_view letters = "A\xC3\xA9\xD0\x96\xCE\xA9\xD7\x90\xD8\xB9\
 // Each control character and each end of a range of others, but for the codes before `first`.
 std::string harmful_text(uint32_t first) {
     std::string text;
-    for (const auto &range : kovra::test::harmful)
+    for (const auto &range : harmful)
         for (uint32_t code = range.first; code <= range.last; code = range.first < 0x100 ? code + 1 : range.last) {
             if (code >= first && code != '/')
                 text += utf8(code);
@@ -33,7 +28,7 @@ std::string harmful_text(uint32_t first) {
     return text;
 }
 
-class ToolText : public kovra::test::ToolTest {
+class ToolText : public ToolTest {
 protected:
     // Runs the tool, which has to print nothing that is harmful, and, unless it does not repeat the text, the letters.
     Result run_unharmed(const std::string &arguments, std::string_view input = "", bool repeats = true) const {
@@ -54,7 +49,7 @@ TEST_F(ToolText, OfStringsIsHarmless) {
     };
     std::string wide;
     for (size_t at = 0; at < text.size();) {
-        const uint32_t code = kovra::test::next_code(text, at);
+        const uint32_t code = next_code(text, at);
         for (const int shift : {24, 16, 8, 0})
             wide += static_cast<char>(code >> shift);
     }
