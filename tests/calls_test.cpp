@@ -3,7 +3,7 @@
 #include <iterator>
 #include <map>
 
-#include "tests/asn1_testing.hpp"
+#include "tests/notation.hpp"
 
 namespace kovra::test {
 namespace {
@@ -13,49 +13,6 @@ std::string listed(const Codes &codes) {
     for (int32_t code : codes)
         text << ' ' << std::hex << code;
     return text.str();
-}
-
-std::string content_of(const Value &integer) {
-    if (!integer)
-        return "-";
-    std::string data(static_cast<size_t>(kovra_asn1_integer_getlength(integer.get())), '\0');
-    EXPECT_EQ(kovra_asn1_integer_get(integer.get(), data.data()), 1);
-    Value copy(2, kovra_asn1_integer_newbigint(BigInteger(kovra_asn1_integer_getbigintger(integer.get())).get()));
-    EXPECT_EQ(kovra_asn1_integer_equals(copy.get(), integer.get()), 1);
-    return hex(data);
-}
-
-std::string long_of(const Value &integer) {
-    int32_t number = -7;
-    bool done = kovra_asn1_integer_getlong(integer.get(), &number) == 1;
-    EXPECT_EQ(kovra_asn1_enum_getlong(integer.get(), &number), done);
-    return done ? std::to_string(number) : "-";
-}
-
-std::string oid_of(uint32_t type, kovra_asn1_value *handle) {
-    Value oid(type, handle);
-    return oid ? encoding(oid) + " " + kovra_asn1_oid_getstring(oid.get()) : "-";
-}
-
-// Splits "type octets", and tells what `get(octets, type, out, ctx)` makes of it, twice, since content is rewound.
-template <class Make, class... Get> std::string object_of(const std::string &in, Make make, Get... gets) {
-    size_t digits = in.find_first_not_of("0123456789");
-    auto type = static_cast<uint32_t>(std::stoul(in.substr(0, digits)));
-    std::string data = digits == in.npos ? "" : octets(in.substr(digits)), result;
-    auto ask = [&](auto get) {
-        Value holder = make(get, data);
-        for (int i = 0; i < 2; ++i) {
-            Errors ctx(kovra_err_ctx_new());
-            kovra_asn1_value *out = nullptr;
-            bool done = get(holder.get(), type, &out, ctx.get()) == 1;
-            EXPECT_TRUE(done || out == nullptr);
-            std::string found = (done ? encoding(Value(type, out)) : "-") + listed(Codes(ctx.get()));
-            EXPECT_TRUE(result.empty() || found == result) << found;
-            result = found;
-        }
-    };
-    (ask(gets), ...);
-    return result;
 }
 
 std::string sources_of(const std::string &in) {
@@ -85,25 +42,6 @@ std::vector<int32_t> numbers(const std::string &text) {
     return {std::istream_iterator<int32_t>(stream), {}};
 }
 
-// The text between quotation marks, with \n \r \t \\ and \xHH for one character, and \{c*5} for five of them.
-std::string unquoted(const std::string &text) {
-    static const std::map<char, char> plain = {{'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'\\', '\\'}};
-    std::string result;
-    for (size_t i = 1; i + 1 < text.size(); ++i) {
-        if (text[i] != '\\') {
-            result += text[i];
-        } else if (text[++i] == 'x') {
-            result += octets(text.substr(i + 1, 2));
-            i += 2;
-        } else if (text[i] == '{') {
-            result += std::string(std::stoul(text.substr(i + 3)), text[i + 1]);
-            i = text.find('}', i);
-        } else {
-            result += plain.at(text[i]);
-        }
-    }
-    return result;
-}
 std::string quoted(const std::string &text) {
     return '"' + text + '"';
 }
@@ -157,11 +95,6 @@ std::string json_of(const std::string &in) {
 }
 
 TEST(Tables, Calls) {
-    auto as_any = [](auto, const std::string &data) { return decode(23, data).value; };
-    auto as_string = [](auto get, const std::string &data) {
-        return get == kovra_asn1_bitstring_getobject ? Value(3, kovra_asn1_bitstring_new(0, data.data(), size_of(data)))
-                                                     : Value(4, kovra_asn1_octetstring_new(data.data(), size_of(data)));
-    };
     auto octets_decoded = [](const std::string &in, auto decoder) {
         std::string results[2];
         for (Feed feed : {Feed::memory, Feed::trickle}) {
@@ -195,50 +128,7 @@ TEST(Tables, Calls) {
                  return kovra_asn1_decode_length(stream, &length, read, ctx) == 1 ? std::to_string(length) : "";
              });
          }},
-        {"integer_value",
-         [](const std::string &in) {
-             auto number = static_cast<int32_t>(std::stoll(in));
-             Value integer(2, kovra_asn1_integer_value(number)), enumerated(7, kovra_asn1_enum_value(number));
-             EXPECT_EQ(encoding(enumerated), "0A" + encoding(integer).substr(2));
-             return content_of(integer) + " " + long_of(integer);
-         }},
-        {"integer_new",
-         [](const std::string &in) {
-             return content_of(Value(2, kovra_asn1_integer_new(octets(in).data(), size_of(octets(in)))));
-         }},
-        {"unsigned_integer_new",
-         [](const std::string &in) {
-             return content_of(Value(2, kovra_asn1_unsigned_integer_new(octets(in).data(), size_of(octets(in)))));
-         }},
-        {"integer_getlong",
-         [](const std::string &in) { return long_of(decode_content(2, octets(in), 1, size_of(octets(in))).value); }},
-        {"oid_new", [&](const std::string &in) { return oid_of(6, kovra_asn1_oid_new(unquoted(in).c_str())); }},
-        {"relative_oid_new",
-         [&](const std::string &in) { return oid_of(90, kovra_asn1_relative_oid_new(unquoted(in).c_str())); }},
-        {"oid_getstring",
-         [](const std::string &in) -> std::string {
-             const Value oid = decoded(in.starts_with("06") ? 6 : 90, in);
-             EXPECT_STREQ(kovra_asn1_oid_getstring(oid.get()), kovra_asn1_relative_oid_getstring(oid.get()));
-             return kovra_asn1_oid_getstring(oid.get());
-         }},
-        {"bitstring_newbits",
-         [](const std::string &in) -> std::string {
-             std::vector<int32_t> positions;
-             std::istringstream numbers(in);
-             for (int32_t number; numbers >> number;)
-                 positions.push_back(number);
-             Value bits(3, kovra_asn1_bitstring_newbits(positions.data(), static_cast<int32_t>(positions.size())));
-             return bits ? encoding(bits) : "-";
-         }},
-        {"getobject",
-         [&](const std::string &in) {
-             return object_of(in, as_string, kovra_asn1_octetstring_getobject, kovra_asn1_bitstring_getobject);
-         }},
-        {"any_getobject", [&](const std::string &in) { return object_of(in, as_any, kovra_asn1_any_getobject); }},
-        {"any_contenttoobject",
-         [&](const std::string &in) { return object_of(in, as_any, kovra_asn1_any_contenttoobject); }},
         {"sources", sources_of},
-        {"any_toobject", [&](const std::string &in) { return object_of(in, as_any, kovra_asn1_any_toobject); }},
         {"time_new",
          [](const std::string &in) {
              const std::vector<int32_t> at = numbers(in);
@@ -259,14 +149,6 @@ TEST(Tables, Calls) {
              EXPECT_EQ(of_time(0x03) + of_time(0x0F) + of_time(0x13), "---");
              return by_year + " " + utc + " " + general;
          }},
-        {"time_fields",
-         [](const std::string &in) {
-             const std::vector<int32_t> at = numbers(in);
-             const Time utc(kovra_time_newutctime(at[0], at[1], at[2], at[3], at[4], at[5], at[6]));
-             const Time local(kovra_time_newlocaltime(at[0], at[1], at[2], at[3], at[4], at[5], at[6], 0));
-             EXPECT_EQ(utc == nullptr, local == nullptr);
-             return utc != nullptr ? "+" : "-";
-         }},
         {"time_add",
          [](const std::string &in) {
              const Time time(kovra_time_newutctime(2016, 12, 31, 23, 59, 60, 7));
@@ -286,14 +168,6 @@ TEST(Tables, Calls) {
         {"utf16", [](const std::string &in) { return utf16_of(kovra_ustring_newutf16be, octets(in)); }},
         {"utf32", [](const std::string &in) { return utf16_of(kovra_ustring_newutf32be, octets(in)); }},
         {"bmp", [](const std::string &in) { return utf16_of(kovra_ustring_newbmp, octets(in)); }},
-        {"pem",
-         [](const std::string &in) {
-             const Exact text(unquoted(in));
-             int32_t length = -1;
-             const Memory<void> found(kovra_pemdecode(text.begin(), text.length(), "T", &length));
-             EXPECT_TRUE(found != nullptr || length == 0);
-             return found != nullptr ? quoted({static_cast<char *>(found.get()), static_cast<size_t>(length)}) : "-";
-         }},
         {"json_parse", json_of},
     };
     for (const std::vector<std::string> &row : table("calls.txt")) {

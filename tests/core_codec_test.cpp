@@ -1,4 +1,4 @@
-// The registry and what goes through it: dispatch, codes and texts, BOOLEAN, NULL, end-of-contents.
+// The registry and what goes through it: dispatch, codes and texts, and what streams return.
 #include "tests/asn1_testing.hpp"
 
 namespace kovra::test {
@@ -96,47 +96,6 @@ TEST(Registry, EveryTypeChecksIdentifiersOrRefusesAltogether) {
     }
 }
 
-TEST(Codec, ATypeAbove207IsUnsupported) {
-    Value boolean(1, kovra_asn1_boolean_true());
-    for (uint32_t type : {208u, 0xffffffffu}) {
-        EXPECT_EQ(kovra_asn1_length(type, boolean.get()), -2);
-        EXPECT_EQ(kovra_asn1_content_length(type, boolean.get()), -2);
-        EXPECT_EQ(decode(type, octets("01 01 FF")).codes, Codes({0x1026b}));
-        EXPECT_EQ(decode_content(type, octets("FF"), 1, 1).codes, Codes({0x1026b}));
-        EXPECT_EQ(encode(type, boolean.get()).codes, Codes({0x1026b}));
-        EXPECT_EQ(encode_content(type, boolean.get(), 1).codes, Codes({0x1026b}));
-        for (uint32_t nothing : {type, 0u, 5u})
-            kovra_asn1_value_free(nothing, boolean.get()); // does nothing
-        EXPECT_EQ(encoding(boolean), "0101FF");
-        EXPECT_EQ(kovra_asn1_mem_encode(type, boolean.get()), nullptr);
-    }
-    EXPECT_STREQ(kovra_asn1_version(), "KOVRA ASN.1 Library 1.2.12,Build on 2012");
-}
-
-TEST(Codec, BooleanNullAndEndOfContents) {
-    EXPECT_EQ(decode_content(1, octets("07"), 1, 1).codes, Codes());
-    EXPECT_EQ(decode_content(1, "", 0, -1).codes, Codes({0x1026a})) << "form before length";
-    EXPECT_EQ(decode_content(1, "", 1, -1).codes, Codes({0x10206}));
-    EXPECT_EQ(decode_content(5, "", 0, 1).codes, Codes({0x1026a}));
-    EXPECT_EQ(decode_content(5, "", 1, -1).codes, Codes({0x10206}));
-    EXPECT_EQ(decode_content(5, "", 1, 7).codes, Codes({0x10203}));
-    EXPECT_EQ(decode_content(0, "", 0, 0).codes, Codes({0x1026a}));
-    EXPECT_EQ(decode_content(0, "", 1, 2).codes, Codes({0x10203}));
-    for (uint32_t type : {20u, 23u, 63u, 83u, 176u, 201u})
-        EXPECT_EQ(decode_content(type, octets("00"), 1, 1).codes, Codes({0x1026d})) << type;
-
-    Value truth(1, kovra_asn1_boolean_true()), falsehood(1, kovra_asn1_boolean_false());
-    EXPECT_EQ(encoding(truth) + encoding(falsehood), "0101FF010100");
-    EXPECT_EQ(kovra_asn1_boolean_istrue(truth.get()), 1);
-    EXPECT_EQ(kovra_asn1_boolean_istrue(falsehood.get()), 0);
-    EXPECT_EQ(kovra_asn1_boolean_istrue(nullptr), 0);
-    EXPECT_EQ(kovra_asn1_boolean_istrue(decoded(1, "01 01 80").get()), 1);
-    for (auto [type, length] : {std::pair(0u, 2), {1u, 3}, {5u, 2}}) {
-        EXPECT_EQ(kovra_asn1_length(type, nullptr), length);
-        EXPECT_EQ(kovra_asn1_content_length(type, nullptr), length - 2);
-    }
-}
-
 // By whom it is refused shows in the text.
 TEST(Codec, ContentOfAnotherLengthIsNotEncoded) {
     const Value truth(1, kovra_asn1_boolean_true()), five = decoded(2, "02 01 05");
@@ -155,47 +114,6 @@ TEST(Codec, ContentOfAnotherLengthIsNotEncoded) {
     EXPECT_EQ(encode(0, nullptr).octets + encode(5, nullptr).octets, octets("00 00 05 00"));
 }
 
-TEST(Codec, NullArgumentsAreRefused) {
-    const struct {
-        uint32_t type;
-        const char *sample;
-        Codes encode_nowhere, encode_nothing, decode_nowhere;
-    } rows[] = {
-        {1, "01 01 FF", {0x10002}, {0x10002}, {0x10002, 0x102e5}},
-        {2, "02 01 05", {0x10002}, {0x10002}, {0x10002, 0x102e5}},
-        {3, "03 01 00", {0x10002}, {0x10203}, {0x10002, 0x102e5}},
-        {4, "04 01 41", {0x10002}, {0x10203}, {0x10002, 0x102e5}},
-        {6, "06 01 2A", {0x10002}, {0x10002}, {0x10002, 0x102e5}},
-        {9, "0C 01 41", {0x10002, 0x102e4}, {0x102ea}, {0x10002, 0x102e5}},
-        {21, "17 0B 313231313230303833305A", {0x10002, 0x102e4}, {0x10002}, {0x10002, 0x102e5}},
-        {23, "05 00", {0x10002}, {0x10002}, {0x10002}},
-    };
-    Stream stream = memory_stream();
-    Input input("x");
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.type);
-        Value sample = decoded(row.type, row.sample);
-        kovra_asn1_value *value = nullptr;
-        Errors ctx(kovra_err_ctx_new());
-        auto expect = [&](int32_t result, const Codes &codes) {
-            EXPECT_EQ(result, 0);
-            EXPECT_EQ(Codes(ctx.get()), codes);
-            kovra_err_ctx_clear(ctx.get());
-        };
-        expect(kovra_asn1_encode(nullptr, row.type, sample.get(), nullptr, ctx.get()), row.encode_nowhere);
-        expect(kovra_asn1_encode(stream.get(), row.type, nullptr, nullptr, ctx.get()), row.encode_nothing);
-        expect(kovra_asn1_decode(nullptr, row.type, &value, nullptr, ctx.get()), row.decode_nowhere);
-        expect(kovra_asn1_encode_content(nullptr, row.type, sample.get(), 1, nullptr, ctx.get()), {0x10002});
-        expect(kovra_asn1_encode_content(stream.get(), row.type, nullptr, 1, nullptr, ctx.get()), {0x10002});
-        if (row.type == 23)
-            continue;
-        expect(kovra_asn1_decode_content(nullptr, row.type, &value, 1, 1, nullptr, ctx.get()), {0x10002});
-        expect(kovra_asn1_decode_content(input.stream(), row.type, nullptr, 1, 1, nullptr, ctx.get()), {0x10002});
-    }
-    EXPECT_EQ(taken(stream), "");
-    EXPECT_EQ(input.consumed(), 0u);
-}
-
 TEST(Codec, WhatAStreamReturnsIsPassedUp) {
     const std::string data = octets("02 02 01 05");
     const Codes chains[] = {{0x10105, 0x102e5}, {0x10105, 0x102e7}, {0x10105}, {0x10105}};
@@ -207,54 +125,6 @@ TEST(Codec, WhatAStreamReturnsIsPassedUp) {
     // But for the content of an element of a list, which gives 0.
     EXPECT_EQ(decode(188, Input(octets("30 03 0C 01 41"), Feed::trickle, 4, 42)).result, 0);
     EXPECT_EQ(decode(188, Input(octets("30 03 0C 01 41"), Feed::trickle, 3, 42)).result, 42);
-    // A stream that takes nothing.
-    for (auto [type, text, whole, content] : std::initializer_list<std::tuple<uint32_t, const char *, Codes, Codes>>{
-             {1, "01 01 FF", {0x10106, 0x102e4}, {0x10106}},
-             {9, "0C 01 41", {0x10106, 0x102e4}, {0x10106}},
-             {23, "05 00", {0x10106}, {}},
-             {24, "30 02 05 00", {0x10106, 0x102e4}, {0x10106, 0x10235}},
-             {33, "30 03 06 01 2A", {0x10106, 0x102e4}, {0x10106, 0x102e4, 0x10233}}}) {
-        SCOPED_TRACE(type);
-        const Value value = decoded(type, text);
-        Input input("");
-        Errors ctx(kovra_err_ctx_new());
-        EXPECT_EQ(kovra_asn1_encode(input.stream(), type, value.get(), nullptr, ctx.get()), 0);
-        EXPECT_EQ(Codes(ctx.get()), whole);
-        kovra_err_ctx_clear(ctx.get());
-        const int32_t length = kovra_asn1_content_length(type, value.get());
-        EXPECT_EQ(kovra_asn1_encode_content(input.stream(), type, value.get(), length, nullptr, ctx.get()),
-                  content.empty() ? 1 : 0);
-        EXPECT_EQ(Codes(ctx.get()), content);
-    }
-}
-
-TEST(Codec, WholeEncodingsInMemory) {
-    kovra_asn1_value *value = nullptr;
-    EXPECT_EQ(kovra_asn1_mem_decode("\x05\x00\xFF", 3, 5, &value), 2);
-    EXPECT_EQ(kovra_asn1_mem_decode("\x02\x01\x05\x00", 4, 2, &value), 3);
-    const Value five(2, value);
-    EXPECT_EQ(text_of(Blob(kovra_asn1_mem_encode(2, five.get())).get()), octets("02 01 05"));
-    value = nullptr;
-    for (const auto &[data, length, type] : {std::tuple((const char *)nullptr, 3, 2u),
-                                             {"\x02\x01\x05", 0, 2u},
-                                             {"\x02\x01\x05", -3, 2u},
-                                             {"\x02\x01\x05", 2, 2u},
-                                             {"\x02\x01\x05", 3, 1u},
-                                             {"\x02\x01\x05", 3, 208u}})
-        EXPECT_EQ(kovra_asn1_mem_decode(data, length, type, &value), -1);
-    EXPECT_EQ(value, nullptr);
-    EXPECT_EQ(kovra_asn1_mem_decode("\x02\x01\x05", 3, 2, nullptr), -1);
-    EXPECT_EQ(kovra_asn1_mem_decode("\x05\x00", 2, 5, nullptr), -1);
-    EXPECT_EQ(kovra_asn1_mem_encode(8, five.get()), nullptr);
-}
-
-TEST(Codec, WhatIsNotEncodedIsNotCopied) {
-    const Value none(2, nullptr), string(8, kovra_asn1_string_new("A", 1));
-    for (const auto &[value, codes] : {std::pair(&none, Codes({0x10002})), {&string, Codes({0x1026c, 0x10216})}}) {
-        const Errors ctx(kovra_err_ctx_new());
-        EXPECT_EQ(kovra_asn1_dupobject(value->type(), value->get(), ctx.get()), nullptr);
-        EXPECT_EQ(Codes(ctx.get()), codes);
-    }
 }
 
 } // namespace

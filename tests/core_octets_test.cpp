@@ -68,53 +68,5 @@ TEST(Length, EveryLengthIsWrittenInTheFewestOctetsAndReadBack) {
     }
 }
 
-TEST(Octets, BadArgumentsAreRefusedWithOneEntry) {
-    Errors ctx(kovra_err_ctx_new());
-    Stream stream = memory_stream();
-    Input input("\x05");
-    uint32_t tag_class;
-    int32_t form, tag;
-    kovra_stream *in = input.stream(), *out = stream.get();
-    kovra_err_ctx *c = ctx.get();
-    auto expect = [&](int32_t result, int32_t code) {
-        EXPECT_EQ(result, 0);
-        EXPECT_EQ(Codes(c), Codes({code}));
-        kovra_err_ctx_clear(c);
-    };
-    expect(kovra_asn1_encode_identifier(nullptr, 0x20, 1, -1, nullptr, c), 0x10002);
-    expect(kovra_asn1_encode_identifier(out, 0x20, 1, -1, nullptr, c), 0x10200);
-    expect(kovra_asn1_encode_identifier(out, 0x100, 1, 1, nullptr, c), 0x10200);
-    expect(kovra_asn1_encode_identifier(out, 0x01, 1, 1, nullptr, c), 0x10200);
-    expect(kovra_asn1_encode_identifier(out, 0x40, 1, -1, nullptr, c), 0x10201);
-    expect(kovra_asn1_encode_identifier(out, 0x40, 1, INT32_MIN, nullptr, c), 0x10201);
-    expect(kovra_asn1_encode_length(nullptr, -2, nullptr, c), 0x10002);
-    expect(kovra_asn1_encode_length(out, -2, nullptr, c), 0x10203);
-    expect(kovra_asn1_encode_length(out, INT32_MIN, nullptr, c), 0x10203);
-    expect(kovra_asn1_decode_identifier(nullptr, &tag_class, &form, &tag, nullptr, c), 0x10002);
-    expect(kovra_asn1_decode_identifier(in, nullptr, &form, &tag, nullptr, c), 0x10002);
-    expect(kovra_asn1_decode_identifier(in, &tag_class, nullptr, &tag, nullptr, c), 0x10002);
-    expect(kovra_asn1_decode_identifier(in, &tag_class, &form, nullptr, nullptr, c), 0x10002);
-    expect(kovra_asn1_decode_length(nullptr, &form, nullptr, c), 0x10002);
-    expect(kovra_asn1_decode_length(in, nullptr, nullptr, c), 0x10002);
-    expect(kovra_asn1_decode_eoc_length(nullptr, nullptr, c), 0x10002);
-    EXPECT_EQ(taken(stream), "");
-    EXPECT_EQ(input.consumed(), 0u);
-    for (int32_t negative : {-1, -2, INT32_MIN})
-        EXPECT_EQ(kovra_asn1_identifier_length(negative), -2);
-    for (int32_t negative : {-2, -3, INT32_MIN})
-        EXPECT_EQ(kovra_asn1_length_length(negative), -2);
-}
-
-TEST(Octets, TheSecondOctetOfEndOfContentsIsZero) {
-    for (auto [in, code] : {std::pair("00", 0), {"01", 0x10205}, {"80", 0x10205}, {"", 0x10105}}) {
-        Errors ctx(kovra_err_ctx_new());
-        Input input(octets(in));
-        int32_t read = -7;
-        EXPECT_EQ(kovra_asn1_decode_eoc_length(input.stream(), &read, ctx.get()), code == 0);
-        EXPECT_EQ(Codes(ctx.get()), code == 0 ? Codes() : Codes({code}));
-        EXPECT_EQ(read, code == 0 ? 1 : -7);
-    }
-}
-
 } // namespace
 } // namespace kovra::test

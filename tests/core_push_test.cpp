@@ -301,30 +301,6 @@ TEST(Push, EveryAllocationMayFail) {
     });
 }
 
-TEST(Push, BadArguments) {
-    AnyCtx any(kovra_asn1_decode_any_ctx_new());
-    StringCtx string(kovra_asn1_decode_octetstring_ctx_new());
-    uint32_t tag_class = 0;
-    int32_t out = -7;
-    for (auto [data, length, place] : {std::tuple("x", -1, &out), {nullptr, 1, &out}, {"\4", 1, nullptr}}) {
-        EXPECT_EQ(kovra_asn1_decode_any_update(any.get(), data, length, place), 0);
-        EXPECT_EQ(kovra_asn1_decode_octetstring_update(string.get(), data, length, nullptr, place), 0);
-        EXPECT_EQ(
-            kovra_asn1_decode_any_identifier_length(any.get(), 1, data, length, &tag_class, &out, &out, &out, place),
-            0);
-    }
-    for (int missing = 0; missing < 4; ++missing)
-        EXPECT_EQ(kovra_asn1_decode_any_identifier_length(any.get(), 1, "", 0, missing == 0 ? nullptr : &tag_class,
-                                                          missing == 1 ? nullptr : &out, missing == 2 ? nullptr : &out,
-                                                          missing == 3 ? nullptr : &out, &out),
-                  0);
-    EXPECT_EQ(out, -7);
-    EXPECT_EQ(kovra_asn1_decode_any_update(any.get(), nullptr, 0, &out), 1);
-    EXPECT_EQ(out, 0);
-    EXPECT_EQ(feed_any(any.get(), octets("04 01 61"), one), 3u) << "nothing was changed";
-    EXPECT_EQ(feed_string(string.get(), octets("04 01 61"), one, nullptr), 3u);
-}
-
 // The example in the header is a part of the program that is run.
 TEST(Push, HeaderShowsTheExample) {
     std::ifstream header(KOVRA_SOURCE_DIR "/include/kovra/asn1_decode.h");

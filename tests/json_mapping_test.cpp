@@ -34,12 +34,5 @@ TEST(JsonMapping, DescribesAndEncodes) {
     }
 }
 
-TEST(JsonMapping, OfNothing) {
-    EXPECT_EQ(kovra_asn1_tojson(nullptr, 2), nullptr);
-    EXPECT_EQ(kovra_asn1_tojson("\x05", 0), nullptr);
-    EXPECT_EQ(kovra_asn1_tojson("\x05", -1), nullptr);
-    EXPECT_EQ(kovra_asn1_encodejson(nullptr), nullptr);
-}
-
 } // namespace
 } // namespace kovra::test

@@ -8,6 +8,26 @@
 
 namespace kovra::test {
 
+// The text between quotation marks, with \n \r \t \\ and \xHH for one character, and \{c*5} for five of them.
+inline std::string unquoted(const std::string &text) {
+    static const std::map<char, char> plain = {{'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'\\', '\\'}};
+    std::string result;
+    for (size_t i = 1; i + 1 < text.size(); ++i) {
+        if (text[i] != '\\') {
+            result += text[i];
+        } else if (text[++i] == 'x') {
+            result += octets(text.substr(i + 1, 2));
+            i += 2;
+        } else if (text[i] == '{') {
+            result += std::string(std::stoul(text.substr(i + 3)), text[i + 1]);
+            i = text.find('}', i);
+        } else {
+            result += plain.at(text[i]);
+        }
+    }
+    return result;
+}
+
 // Octets of a notation: hexadecimal digits; "text"; {name} for octets that were defined before; behind identifier
 // octets (content) for a definite length, <content> for one in five octets, [content] for the indefinite form. The
 // length is more or less by the digit in (+1 content) and (-1 content).

@@ -45,15 +45,6 @@ TEST(UtilUString, EveryCodePointGoesThroughEveryForm) {
     }
 }
 
-TEST(UtilUString, NoTextIsMadeOfNothing) {
-    for (const auto make :
-         {kovra_ustring_newutf8, kovra_ustring_newutf32be, kovra_ustring_newutf16be, kovra_ustring_newbmp}) {
-        EXPECT_EQ(make(nullptr, 4), nullptr);
-        EXPECT_EQ(make("abcd", -4), nullptr);
-        EXPECT_NE(Text(make(nullptr, 0)), nullptr) << "an empty text";
-    }
-}
-
 // ASCII is stepped over in words: nothing may hide between them.
 TEST(UtilUString, EachPositionOfALongTextIsLookedAt) {
     const std::string ascii(40, 'a');
