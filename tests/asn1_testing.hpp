@@ -60,6 +60,14 @@ inline std::string repeated(std::string_view octets, size_t times) {
     return result;
 }
 
+// A number in four octets, as lengths are where they need not be short.
+inline std::string in_four_octets(size_t number) {
+    std::string result;
+    for (int shift = 24; shift >= 0; shift -= 8)
+        result += static_cast<char>(number >> shift);
+    return result;
+}
+
 // Contents in streams from this size on are written in segments of that many octets.
 inline constexpr auto segmented_from = threshold<size_t>(0x500000, 40);
 inline constexpr auto segment = threshold<size_t>(8192, 3);
@@ -99,6 +107,14 @@ inline void PrintTo(const Codes &codes, std::ostream *out) {
     *out << codes;
 }
 
+// As tables have them, each behind a blank.
+inline std::string listed(const Codes &codes) {
+    std::ostringstream text;
+    for (const int32_t code : codes)
+        text << ' ' << std::hex << code;
+    return text.str();
+}
+
 // A place for a value that shows when it was not written.
 inline kovra_asn1_value *unwritten() {
     static char mark;
@@ -122,6 +138,7 @@ public:
     }
     Input(const Input &) = delete;
     kovra_stream *stream() const { return stream_.get(); }
+    int64_t reads() const { return reads_; }
     size_t consumed() const {
         const uint8_t *rest = nullptr;
         int64_t length = 0;
@@ -131,6 +148,7 @@ public:
 private:
     static int32_t read(void *user, void *buffer, int32_t size, int32_t *out_count) {
         Input &self = *static_cast<Input *>(user);
+        ++self.reads_;
         *out_count = 0;
         if (self.position_ >= self.stop_)
             return self.refusal_;
@@ -145,6 +163,7 @@ private:
     size_t stop_;
     int32_t refusal_;
     size_t position_ = 0;
+    int64_t reads_ = 0;
     Stream stream_;
 };
 

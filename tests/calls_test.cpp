@@ -8,13 +8,6 @@
 namespace kovra::test {
 namespace {
 
-std::string listed(const Codes &codes) {
-    std::ostringstream text;
-    for (int32_t code : codes)
-        text << ' ' << std::hex << code;
-    return text.str();
-}
-
 std::string sources_of(const std::string &in) {
     size_t digits = in.find_first_not_of("0123456789");
     std::string results[2];

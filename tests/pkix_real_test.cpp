@@ -15,10 +15,7 @@ std::string as_ber(const std::string &element, bool is_indefinite) {
         return element;
     if (is_indefinite)
         return element[0] + ("\x80" + content) + std::string(2, '\0');
-    std::string length = "\x84";
-    for (int shift = 24; shift >= 0; shift -= 8)
-        length += static_cast<char>(content.size() >> shift);
-    return element[0] + length + content;
+    return element[0] + ("\x84" + in_four_octets(content.size())) + content;
 }
 
 std::string signed_octets(const Kind &kind, const Value &value) {

@@ -46,12 +46,7 @@ private:
     static constexpr size_t entries = 15'000'000;
 
     // Identifier and length octets of a SEQUENCE.
-    static std::string element(size_t length) {
-        std::string header = octets("30 84");
-        for (int shift = 24; shift >= 0; shift -= 8)
-            header += static_cast<char>(length >> shift);
-        return header;
-    }
+    static std::string element(size_t length) { return octets("30 84") + in_four_octets(length); }
 
     void read(char *buffer, size_t size) {
         for (size_t i = 0; i < size; ++i, ++position_)

@@ -8,10 +8,6 @@
 namespace kovra::test {
 namespace {
 
-std::string open_nest(std::string_view identifier, size_t depth, const std::string &innermost) {
-    return repeated(std::string(identifier) + '\x80', depth) + innermost + std::string(2 * depth, '\0');
-}
-
 struct Nest {
     const char *name;
     std::string octets;
@@ -19,10 +15,10 @@ struct Nest {
 
 std::vector<Nest> nests(size_t depth) {
     return {
-        {"30 80", open_nest("\x30", depth, "")},
-        {"A0 80", open_nest("\xA0", depth, "")},
-        {"24 80", open_nest("\x24", depth, "\x04\x01x")},
-        {"23 80", open_nest("\x23", depth, octets("03 02 00 78"))},
+        {"30 80", nested_open('\x30', depth, "")},
+        {"A0 80", nested_open('\xA0', depth, "")},
+        {"24 80", nested_open('\x24', depth, "\x04\x01x")},
+        {"23 80", nested_open('\x23', depth, octets("03 02 00 78"))},
         {"30 length", nested_with_lengths('\x30', depth, "")},
         {"31 length", nested_with_lengths('\x31', depth, octets("05 00"))},
         {"A0 length", nested_with_lengths('\xA0', depth, octets("05 00"))},

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "core/list.hpp"
-#include "tests/asn1_testing.hpp"
+#include "tests/changing_stream.hpp"
 #include "tests/failing_memory.hpp"
 #include "tests/harness/samples.hpp"
 
@@ -25,43 +25,31 @@ struct Growth {
     bool is_described = true; // in JSON, which has indefinite lengths and open strings in other words
 };
 
-std::string indefinite(std::string_view identifier, const std::string &content) {
-    return std::string(identifier) + '\x80' + content + std::string(2, '\0');
-}
-
-std::string nested(char identifier, size_t depth, const std::string &innermost) {
-    return repeated(std::string{identifier, '\x80'}, depth) + innermost + std::string(2 * depth, '\0');
-}
-
 // Indefinite and definite lengths in turn.
 std::string nested_in_turn(size_t depth) {
     std::string begun;
-    for (size_t left = depth; left-- > 0;) {
-        const size_t length = 10 * left;
-        begun += std::string("\x30\x80\x30\x84");
-        for (int shift = 24; shift >= 0; shift -= 8)
-            begun += static_cast<char>(length >> shift);
-    }
+    for (size_t left = depth; left-- > 0;)
+        begun += "\x30\x80\x30\x84" + in_four_octets(10 * left);
     return begun + std::string(2 * depth, '\0');
 }
 
 std::vector<Growth> growths() {
     std::vector<Growth> found = {
-        {"nested sequences", 23, [](size_t n) { return nested('\x30', n, ""); }},
+        {"nested sequences", 23, [](size_t n) { return nested_open('\x30', n, ""); }},
         {"nested definite sequences", 23, [](size_t n) { return nested_with_lengths('\x30', n, ""); }},
         {"nested definite tags", 23, [](size_t n) { return nested_with_lengths('\xA0', n, octets("05 00")); }},
         {"nested definite strings", 4, [](size_t n) { return nested_with_lengths('\x24', n, "\x04\x01x"); }},
         {"nested in turn", 23, nested_in_turn},
-        {"nested tags", 23, [](size_t n) { return nested('\xA0', n, ""); }, false},
-        {"nested strings", 4, [](size_t n) { return nested('\x24', n, "\x04\x01x"); }, false},
-        {"nested bit strings", 3, [](size_t n) { return nested('\x23', n, octets("03 02 00 78")); }, false},
-        {"segments", 4, [](size_t n) { return indefinite("\x24", repeated("\x04\x01x", n)); }, false},
-        {"segments of bits", 3, [](size_t n) { return indefinite("\x23", repeated(octets("03 02 00 78"), n)); }, false},
+        {"nested tags", 23, [](size_t n) { return nested_open('\xA0', n, ""); }, false},
+        {"nested strings", 4, [](size_t n) { return nested_open('\x24', n, "\x04\x01x"); }, false},
+        {"nested bit strings", 3, [](size_t n) { return nested_open('\x23', n, octets("03 02 00 78")); }, false},
+        {"segments", 4, [](size_t n) { return open_element(0x24, repeated("\x04\x01x", n)); }, false},
+        {"segments of bits", 3, [](size_t n) { return open_element(0x23, repeated(octets("03 02 00 78"), n)); }, false},
         {"octets of a string", 4, [](size_t n) { return element(0x04, std::string(n, 'x')); }},
         {"octets of an integer", 2, [](size_t n) { return element(0x02, std::string(n, '\x11')); }},
         {"arcs", 6, [](size_t n) { return element(0x06, "*" + repeated("\x86\x48", n)); }},
         {"arcs of a relative one", 90, [](size_t n) { return element(0x0D, repeated("\x86\x48", n)); }, false},
-        {"elements in indefinite form", 24, [](size_t n) { return indefinite("0", repeated(octets("05 00"), n)); }},
+        {"elements in indefinite form", 24, [](size_t n) { return open_element(0x30, repeated(octets("05 00"), n)); }},
     };
     // The lists, and a certificate and a CRL with long ones in them.
     for (uint32_t type = 0; type < KOVRA_ASN1_TYPE_COUNT; ++type) {
@@ -100,18 +88,6 @@ void look_at(Handle list) {
     }
 }
 
-// Reads octet by octet, counting how many are read.
-int32_t read_octet(void *user, void *buffer, int32_t size, int32_t *out_count) {
-    auto &[rest, reads] = *static_cast<std::pair<std::string_view, int64_t> *>(user);
-    ++reads;
-    *out_count = rest.empty() || size < 1 ? 0 : 1;
-    if (*out_count == 1) {
-        *static_cast<char *>(buffer) = rest[0];
-        rest.remove_prefix(1);
-    }
-    return 1;
-}
-
 // Decodes the octets and does with the value what there is to do. Returns how often a stream was asked for octets.
 int64_t use(const Growth &growth, const std::string &data) {
     const Value value = decode(growth.type, data).value;
@@ -131,18 +107,24 @@ int64_t use(const Growth &growth, const std::string &data) {
         EXPECT_NE(json, nullptr);
         EXPECT_NE(Blob(kovra_asn1_encodejson(json.get())), nullptr);
     }
-    std::pair<std::string_view, int64_t> source(data, 0);
-    kovra_stream_callbacks callbacks = {};
-    callbacks.read = read_octet;
-    const Stream stream(kovra_stream_new_callbacks(&callbacks, &source, nullptr));
-    Handle out = nullptr;
-    EXPECT_EQ(kovra_asn1_decode(stream.get(), growth.type, &out, nullptr, nullptr), 1);
-    kovra_asn1_value_free(growth.type, out);
-    return source.second;
+    const Input input(data, Feed::trickle);
+    EXPECT_EQ(decode(growth.type, input).result, 1);
+    return input.reads();
 }
 
 struct Cost {
-    int64_t allocated, peak, reads, time;
+    int64_t allocated, peak, time;
+    int64_t reads = 0;
+};
+
+// Counts from its beginning.
+class CostMeter {
+public:
+    [[nodiscard]] Cost cost() const { return {memory_.use().allocated, memory_.use().peak, std::clock() - begin_}; }
+
+private:
+    MemoryMeter memory_;
+    std::clock_t begin_ = std::clock();
 };
 
 // What `cost` says of n, 2n and 8n. Arrays that grow make steps; four times as much would be quadratic.
@@ -157,10 +139,11 @@ template <class CostOf> Cost expect_linear(size_t n, CostOf cost) {
 
 Cost cost_of(const Growth &growth, size_t n) {
     const std::string data = growth.make(n);
-    const MemoryMeter meter;
-    const std::clock_t begin = std::clock();
+    const CostMeter meter;
     const int64_t reads = use(growth, data);
-    return {meter.use().allocated, meter.use().peak, reads, std::clock() - begin};
+    Cost found = meter.cost();
+    found.reads = reads;
+    return found;
 }
 
 TEST(Linear, MemoryAndTimeGrowAsTheInputDoes) {
@@ -192,8 +175,7 @@ TEST(Linear, TextsOfJson) {
         SCOPED_TRACE(what);
         const auto cost = [&, &make = make](size_t n) {
             const std::string text = make(n);
-            const MemoryMeter meter;
-            const std::clock_t begin = std::clock();
+            const CostMeter meter;
             const Json json(kovra_json_parse(text.data(), size_of(text), nullptr));
             EXPECT_NE(json, nullptr);
             // Each is looked up, and one more is put.
@@ -204,7 +186,7 @@ TEST(Linear, TextsOfJson) {
             }
             const Memory<char> printed(kovra_json_print(json.get(), 0, nullptr));
             EXPECT_NE(printed, nullptr);
-            return Cost{meter.use().allocated, meter.use().peak, 0, std::clock() - begin};
+            return meter.cost();
         };
         expect_linear(4000, cost);
     }
@@ -215,12 +197,11 @@ TEST(Linear, DecimalTextOfLargeNumbers) {
         GTEST_SKIP() << "products of many digits are not made by transforms there";
     const auto cost = [](size_t n) {
         const std::string text = repeated("1234567", n / 7);
-        const MemoryMeter meter;
-        const std::clock_t begin = std::clock();
+        const CostMeter meter;
         const BigInteger number(kovra_biginteger_newdecimal(text.c_str()));
         const Memory<char> again(kovra_biginteger_todecimal(number.get()));
         EXPECT_TRUE(again.get() == text);
-        return Cost{meter.use().allocated, meter.use().peak, 0, std::clock() - begin};
+        return meter.cost();
     };
     expect_linear(100000, cost);
 }
@@ -228,8 +209,7 @@ TEST(Linear, DecimalTextOfLargeNumbers) {
 // A list that grows by elements that are put in it, values that are adopted by values, and what gives them back.
 TEST(Linear, ValuesThatGrow) {
     const auto cost = [](size_t n) {
-        const MemoryMeter meter;
-        const std::clock_t begin = std::clock();
+        const CostMeter meter;
         const Value flat(24, kovra_asn1_list_new());
         Value deep(24, kovra_asn1_list_new());
         for (size_t i = 0; i < n; ++i) {
@@ -253,7 +233,7 @@ TEST(Linear, ValuesThatGrow) {
             EXPECT_NE(kovra_json_putnull(array.get(), nullptr), nullptr);
             EXPECT_NE(kovra_json_getarrayitem(array.get(), static_cast<int32_t>(i)), nullptr);
         }
-        return Cost{meter.use().allocated, meter.use().peak, 0, std::clock() - begin};
+        return meter.cost();
     };
     expect_linear(2000, cost);
 }
@@ -301,43 +281,15 @@ TEST(Linear, AnnouncedLengthsTakeNoMemory) {
     }
 }
 
-// A caller's stream that claims a size and has no octets.
-struct Claim {
-    int64_t size;
-    int64_t reads = 0;
-    Stream stream = [this] {
-        kovra_stream_callbacks callbacks = {};
-        callbacks.read = [](void *user, void *, int32_t, int32_t *out_count) {
-            ++static_cast<Claim *>(user)->reads;
-            *out_count = 0;
-            return 1;
-        };
-        callbacks.write = [](void *, const void *, int32_t octets, int32_t *out_count) {
-            *out_count = octets;
-            return 1;
-        };
-        callbacks.control = [](void *user, int32_t command, int64_t) {
-            return command == KOVRA_STREAM_SIZE ? static_cast<Claim *>(user)->size : int64_t{1};
-        };
-        return Stream(kovra_stream_new_callbacks(&callbacks, this, nullptr));
-    }();
-};
-
-Value bits_in(const Claim &claim) {
-    const Input input(octets("03 02 00 01"));
-    Handle out = nullptr;
-    EXPECT_EQ(kovra_asn1_decode_bitstring_ex(input.stream(), claim.stream.get(), &out, nullptr, nullptr), 1);
-    return {3, out};
-}
-
 TEST(Linear, AnnouncedLengthsTakeNoMemoryWhenWritten) {
-    Claim large{0x7FFFFFF0}, bits{0x0FFFFFF0}, octets{segmented_from - 1};
+    // What claims a size and has no octets.
+    Changing large({0x7FFFFFF0}, 0), bits({0x0FFFFFF0}, 0), octets({segmented_from - 1}, 0);
     const auto any = [] { return Value(23, kovra_asn1_any_new(0, 1, 4, 0x7FFFFF00, "x", 1)); };
     Value list(24, kovra_asn1_list_new()), list_of_list(24, kovra_asn1_list_new());
     EXPECT_EQ(kovra_asn1_list_put(list.get(), any().release()), 1);
     EXPECT_EQ(kovra_asn1_list_put(list_of_list.get(), list.release()), 1);
-    const Value values[] = {any(), bits_in(large), bits_in(bits), std::move(list_of_list),
-                            Value(4, kovra_asn1_octetstring_newstream(octets.stream.get()))};
+    const Value values[] = {any(), bits_over(large.stream()), bits_over(bits.stream()), std::move(list_of_list),
+                            string_over(octets.stream())};
     for (const Value &value : values) {
         SCOPED_TRACE(value.type());
         const MemoryMeter meter;
@@ -350,9 +302,9 @@ TEST(Linear, AnnouncedLengthsTakeNoMemoryWhenWritten) {
         EXPECT_LT(meter.use().peak, allowance);
     }
     // More bits than a set can have are refused before they are read.
-    const int64_t reads = large.reads;
+    const int64_t reads = large.reads();
     EXPECT_EQ(kovra_asn1_bitstring_getbitset(values[1].get()), nullptr);
-    EXPECT_EQ(large.reads, reads);
+    EXPECT_EQ(large.reads(), reads);
 }
 
 // The other octets are written into one buffer of their size; the blob is a copy.
@@ -370,22 +322,21 @@ TEST(Linear, WhatIsInMemoryIsWrittenAtOnce) {
 
 // Strings whose contents stay in streams, in a value that is copied.
 TEST(Linear, ContentsInStreams) {
-    Claim claim{segmented_from};
-    const Value string(4, kovra_asn1_octetstring_newstream(claim.stream.get()));
+    const Changing claim({segmented_from}, 0);
+    const Value string = string_over(claim.stream());
     const Value type = decoded(6, "06 01 2A");
     const auto cost = [&](size_t n) {
         const Value list(24, kovra_asn1_list_new());
         for (size_t i = 0; i < n; ++i)
             EXPECT_EQ(kovra_asn1_list_put(list.get(), kovra_asn1_objecttoany(4, string.get())), 1);
-        const MemoryMeter meter;
-        const std::clock_t begin = std::clock();
+        const CostMeter meter;
         const Value attribute(42, kovra_x500attribute_new(type.get(), list.get()));
         look_at(kovra_x500attribute_getvalue(attribute.get()));
         EXPECT_EQ(kovra_asn1_list_getsize(kovra_x500attribute_getvalue(attribute.get())), static_cast<int32_t>(n));
-        return Cost{meter.use().allocated, meter.use().peak, 0, std::clock() - begin};
+        return meter.cost();
     };
     expect_linear(4000, cost);
-    EXPECT_EQ(claim.reads, 0);
+    EXPECT_EQ(claim.reads(), 0);
 }
 
 // Each sample, and much of all there can be much of.

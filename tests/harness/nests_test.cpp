@@ -91,9 +91,7 @@ public:
             std::string content;
             for (size_t index = 0; index < level.size; ++index)
                 content += is_deep(i, index) ? deep_.front() : plain_.front();
-            encoding =
-                is_open ? std::string{static_cast<char>(list.usual_identifier), '\x80'} + content + std::string(2, '\0')
-                        : element(list.usual_identifier, content);
+            encoding = (is_open ? open_element : element)(list.usual_identifier, content);
         }
         octets_ = chain.lists[0].in_holder(encoding);
     }

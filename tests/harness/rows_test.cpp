@@ -315,7 +315,7 @@ std::string with(const std::string &data, const std::vector<Place> &places, cons
 std::vector<std::string> changes_of(const std::string &data, const std::vector<Place> &places, const Place &place) {
     std::vector<std::string> changed;
     const std::string whole = data.substr(place.begin, place.end - place.begin);
-    const std::string content = whole.substr(place.header), end(2, '\0');
+    const std::string content = whole.substr(place.header);
     const int identifier = static_cast<uint8_t>(whole[0]);
     auto put = [&](const std::string &instead) { changed.push_back(with(data, places, place, instead)); };
     for (const int other : {identifier ^ 0x20, identifier ^ 0x80, identifier ^ 1, identifier + 2, 0x00, 0xFF, 0x04,
@@ -328,9 +328,8 @@ std::vector<std::string> changes_of(const std::string &data, const std::vector<P
     put(element(identifier, content + '\0'));
     put(element(identifier, content.substr(0, content.size() / 2)));
     put(element(identifier, ""));
-    put(std::string(1, static_cast<char>(identifier | 0x20)) + '\x80' + content + end);
-    put(std::string(1, static_cast<char>(identifier)) + "\x84" +
-        std::string{0, 0, static_cast<char>(content.size() >> 8), static_cast<char>(content.size())} + content);
+    put(open_element(identifier | 0x20, content));
+    put(std::string{static_cast<char>(identifier), '\x84'} + in_four_octets(content.size()) + content);
     for (const char *length : {"\x84\x7F\xFF\xFF\xFF", "\x84\x80", "\x84\xFF\xFF\xFF\xFF", "\x85\x01"})
         put(whole.substr(0, 1) + (std::string(length) + std::string(4, '\0')).substr(0, 1 + (length[0] & 7)) + content);
     // Lengths that are wrong.
@@ -543,9 +542,7 @@ TEST(Rows, OpenTypesAreAnything) {
         for (int identifier = 0; identifier < 0x40; ++identifier) {
             for (const std::string &content : contents) {
                 const bool is_open = &content == &contents[3];
-                const std::string open =
-                    is_open ? std::string{static_cast<char>(identifier), '\x80'} + content + std::string(2, '\0')
-                            : element(identifier, content);
+                const std::string open = (is_open ? open_element : element)(identifier, content);
                 for (const std::string &data : with_open_type(type, open)) {
                     SCOPED_TRACE("type " + std::to_string(type) + ": " + hex(data));
                     const Outcome found = outcome(type, data);

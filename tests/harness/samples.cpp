@@ -75,7 +75,7 @@ std::vector<std::string> leaves(const Type &type, const Flavour &flavour) {
         found.push_back(element(tag, content));
         const std::string piece = element(core::tag::octet_string, content);
         found.push_back(element(tag | 0x20, piece + piece));
-        found.push_back(std::string{static_cast<char>(tag | 0x20), '\x80'} + piece + std::string(2, '\0'));
+        found.push_back(open_element(tag | 0x20, piece));
     };
     if (operations == &core::boolean_operations) {
         add("01 01 FF");
@@ -306,15 +306,21 @@ std::string element(int identifier, const std::string &content) {
     return whole + content;
 }
 
+std::string open_element(int identifier, const std::string &content) {
+    return std::string{static_cast<char>(identifier), '\x80'} + content + std::string(2, '\0');
+}
+
+std::string nested_open(char identifier, size_t depth, const std::string &innermost) {
+    return repeated(std::string{identifier, '\x80'}, depth) + innermost + std::string(2 * depth, '\0');
+}
+
 std::string nested_with_lengths(char identifier, size_t depth, const std::string &innermost) {
     constexpr size_t header = 6;
     std::string nest;
     nest.reserve(header * depth + innermost.size());
     for (size_t left = depth; left-- > 0;) {
         const size_t length = header * left + innermost.size();
-        nest += std::string{identifier, '\x84'};
-        for (int shift = 24; shift >= 0; shift -= 8)
-            nest += static_cast<char>(length >> shift);
+        nest += std::string{identifier, '\x84'} + in_four_octets(length);
     }
     return nest + innermost;
 }

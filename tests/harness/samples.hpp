@@ -73,7 +73,11 @@ bool is_choice(const core::Type &type); // of any kind: no content without the i
 // An element of definite length.
 std::string element(int identifier, const std::string &content);
 
-// Elements of one identifier around each other, with lengths of four octets.
+// An element of indefinite length.
+std::string open_element(int identifier, const std::string &content);
+
+// Elements of one identifier around each other, of indefinite length, or with lengths of four octets.
+std::string nested_open(char identifier, size_t depth, const std::string &innermost);
 std::string nested_with_lengths(char identifier, size_t depth, const std::string &innermost);
 
 } // namespace kovra::test

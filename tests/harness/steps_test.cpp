@@ -18,7 +18,7 @@ std::string trimmed(std::string text) {
 }
 
 // What stands between commas that are neither in brackets nor in quotation marks.
-std::vector<std::string> listed(const std::string &text) {
+std::vector<std::string> split(const std::string &text) {
     std::vector<std::string> found(text.empty() ? 0 : 1);
     char quote = '\0';
     int depth = 0;
@@ -83,17 +83,13 @@ public:
         if (equals != action.npos)
             names_[trimmed(action.substr(0, equals))] = result;
         std::string expected, found;
-        const std::vector<std::string> wanted = listed(outcome);
+        const std::vector<std::string> wanted = split(outcome);
         for (const std::string &one : wanted)
             expected += plain(one) + ", ";
         for (size_t i = 0; i < pieces_.size(); ++i)
             found += shown(pieces_[i], i < wanted.size() ? wanted[i] : "") + ", ";
-        if (!codes_.empty()) {
-            std::ostringstream list;
-            for (const int32_t code : codes_)
-                list << ' ' << std::hex << code;
-            found += '!' + list.str() + ", ";
-        }
+        if (!codes_.empty())
+            found += '!' + listed(codes_) + ", ";
         if (is_checked_ && text.find("->") != text.npos) {
             EXPECT_EQ(found, expected) << text;
         } else if (is_checked_) {
@@ -205,7 +201,7 @@ private:
     Word call(const std::string &text, bool is_outer) {
         const size_t open = text.find('('), close = text.rfind(')');
         const std::string name = trimmed(text.substr(0, open));
-        const std::vector<std::string> arguments = listed(trimmed(text.substr(open + 1, close - open - 1)));
+        const std::vector<std::string> arguments = split(trimmed(text.substr(open + 1, close - open - 1)));
         if (name.starts_with("encode") || name.starts_with("decode"))
             return coded(name, arguments, is_outer);
         const auto row = std::find_if(exports().begin(), exports().end(),
