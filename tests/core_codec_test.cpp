@@ -56,7 +56,7 @@ TEST(Registry, EveryTypeReportsItsCodes) {
         EXPECT_EQ(encoding.source + decoding.source, "meme");
         EXPECT_EQ(encoding.line + decoding.line, 46);
     }
-    for (uint32_t type : {208u, 0x7fffffffu, 0xffffffffu}) {
+    for (uint32_t type : {uint32_t{KOVRA_ASN1_TYPE_COUNT}, 0x7fffffffu, 0xffffffffu}) {
         Entry entry = entry_of([&](auto *ctx) { kovra_asn1_decode_puterr(ctx, type, nullptr, 0); });
         EXPECT_EQ(entry.code, 0x1026b);
         EXPECT_EQ(entry.text, "unsupport type");
