@@ -18,12 +18,13 @@ void Progress::step(uint64_t done, size_t files) {
         return;
     next_ = now + std::chrono::milliseconds(100);
     constexpr size_t width = 40;
-    const double share = static_cast<double>(std::min(done, total_)) / static_cast<double>(total_);
-    const auto filled = static_cast<size_t>(share * static_cast<double>(width));
+    // In whole numbers, which are the same everywhere; no file system holds so much that the products would not fit.
+    const uint64_t part = std::min(done, total_);
+    const auto filled = static_cast<size_t>(part * width / total_);
     Message bar("\r[");
     for (size_t i = 0; i < width; ++i)
         bar += i < filled ? Harmless("#") : " ";
-    const Message percent = decimal(static_cast<uint64_t>(share * 100));
+    const Message percent = decimal(part * 100 / total_);
     put_error(bar + "] " + blanks(3 - percent.size()) + percent + "%  " + decimal(files) + " files");
     is_shown_ = true;
 }
