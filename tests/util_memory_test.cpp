@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/thresholds.hpp"
 #include "tests/failing_memory.hpp"
 #include "tests/util_handles.hpp"
 
@@ -97,7 +98,8 @@ TEST(UtilError, AnEntryWithoutMemory) {
             kovra_err_ctx_put(errors.get(), "later", 3, 4, text.c_str());
     }
     EXPECT_STREQ("text", entry_of(errors, 0).message);
-    EXPECT_GE(kovra_err_ctx_getcount(errors.get()), 2);
+    // There is room for some entries without memory, but where every threshold is small.
+    EXPECT_GE(kovra_err_ctx_getcount(errors.get()), is_tight ? 1 : 2);
     for (int32_t i = 1; i < kovra_err_ctx_getcount(errors.get()); ++i) {
         EXPECT_TRUE(text.starts_with(entry_of(errors, i).message)) << i;
         EXPECT_EQ(is_watched, text != entry_of(errors, i).message) << i;
