@@ -38,14 +38,6 @@ void Output::put_number(uint64_t number, int base) {
     put_filled<number_digits>([=](char *out) { return std::to_chars(out, out + number_digits, number, base).ptr; });
 }
 
-void Output::put_digits(uint64_t number, size_t count) {
-    char digits[number_digits];
-    const auto size = static_cast<size_t>(std::to_chars(digits, digits + number_digits, number).ptr - digits);
-    for (size_t i = size; i < count; ++i)
-        put("0");
-    put_data({digits, size});
-}
-
 void Output::put_right(uint64_t number, size_t width) {
     char digits[number_digits];
     const auto size = static_cast<size_t>(std::to_chars(digits, digits + number_digits, number).ptr - digits);

@@ -42,8 +42,6 @@ public:
         used_ += octets.copy(buffer_.get() + used_, octets.size());
     }
     void put_number(uint64_t number, int base = 10);
-    // At least as many digits as told, with zeros in front.
-    void put_digits(uint64_t number, size_t count);
     // Blanks, then the number, `width` characters in all.
     void put_right(uint64_t number, size_t width);
     void put_blanks(size_t count);
